@@ -1,0 +1,204 @@
+#include "core/RaceFiles.h"
+
+#include "core/RecordFiles.h"
+#include "platform/Files.h"
+#include "platform/Numbers.h"
+#include "platform/TextFile.h"
+
+#include <QFile>
+
+namespace {
+
+constexpr int ReserveLines = 7;
+constexpr double UnknownBirthDate = 2;
+using Names = Tabelle<QString, 0, 100>;
+
+// Everything but `KlasseGenau` and the results of the ranking.
+void clearParticipants(Store &store) {
+  for (int row = 1; row <= 1000; ++row) {
+    const TeilnehmerZeile before = store.Teilnehmer[row];
+    auto &line = store.Teilnehmer[row];
+    line = TeilnehmerZeile();
+    line.KlasseGenau = before.KlasseGenau;
+    line.WertZeit1 = before.WertZeit1;
+    line.WertZeit2 = before.WertZeit2;
+    line.WertSumme = before.WertSumme;
+    line.Rang = before.Rang;
+    line.KlasseKopf = before.KlasseKopf;
+  }
+  for (int row = 0; row <= 159; ++row)
+    store.KlasseGenauName[row].clear();
+}
+
+void readParticipant(TextReader &file, TeilnehmerZeile &row) {
+  for (int *column : {&row.LaeuferNr, &row.StartNr, &row.KlasseNr, &row.VereinNr, &row.GruppeNr, &row.Bezahlt})
+    file.numberInto(*column);
+  file.leadingInto(row.Punkte);
+  file.regionalLineInto(row.Zeit1);
+  file.numberInto(row.ZeitReserve);
+  file.numberInto(row.Status1);
+  if (row.Status1 > 3)
+    row.Status1 = 0;
+  file.numberInto(row.Gast);
+  file.numberInto(row.MannschaftNr);
+  if (row.MannschaftNr < 0)
+    row.MannschaftNr = 0;
+  file.regionalLineInto(row.Zeit2);
+  file.numberInto(row.Status2);
+  file.numberInto(row.Boarder);
+  file.numberInto(row.KlasseGenau);
+  for (int i = 0; i < ReserveLines && !file.atEnd(); ++i)
+    file.field();
+}
+
+void readParticipants(Store &store) {
+  const QString path = raceFileName(store, 'R', store.AktRennen);
+  if (!QFile::exists(path))
+    return;
+  TextReader file(path);
+  for (int row = 1; row <= 1000 && !file.atEnd(); ++row)
+    readParticipant(file, store.Teilnehmer[row]);
+}
+
+void readNames(const QString &path, Names &names) {
+  names.fill({});
+  if (!QFile::exists(path))
+    return;
+  TextReader file(path);
+  for (int row = 1; row <= 100; ++row)
+    file.lineInto(names[row]);
+}
+
+// The eight order numbers of a class stand with the boarder outermost and the sex innermost.
+template <typename Action> void forEachExactClass(Action action) {
+  for (int f = 0; f <= 1; ++f)
+    for (int b = 0; b <= 1; ++b)
+      for (int a = 0; a <= 1; ++a)
+        action(a, b, f);
+}
+
+void readClasses(Store &store, const QString &path) {
+  TextReader file(path);
+  for (int k = 1; k <= 20; ++k) {
+    file.lineInto(store.KlasseName[k]);
+    file.numberInto(store.KlasseVon[k]);
+    file.numberInto(store.KlasseBis[k]);
+    forEachExactClass([&](int a, int b, int f) { file.numberInto(store.KlasseReihenfolge(k, a, b, f)); });
+  }
+  for (int row = 0; row <= 159; ++row)
+    file.lineInto(store.KlasseGenauName[row]);
+}
+
+void takeStandardClasses(Store &store) {
+  for (int k = 1; k <= 20; ++k) {
+    store.KlasseName[k] = store.StdKlasse[k].StdKlasseName;
+    store.KlasseVon[k] = store.StdKlasse[k].Von;
+    store.KlasseBis[k] = store.StdKlasse[k].Bis;
+  }
+}
+
+void loadClasses(Store &store) {
+  store.KlasseName.fill({});
+  store.KlasseVon.fill(0);
+  store.KlasseBis.fill(0);
+  const QString path = raceFileName(store, 'K', store.AktRennen);
+  if (QFile::exists(path))
+    readClasses(store, path);
+  else
+    takeStandardClasses(store);
+}
+
+QStringList missingAthleteData(Store &store) {
+  QStringList lines;
+  for (int row = 1; row <= 1000; ++row) {
+    if (store.Teilnehmer[row].LaeuferNr == 0)
+      continue;
+    store.LaeuferIdx = store.Teilnehmer[row].LaeuferNr;
+    LaeuferLesen(store);
+    const QString who = plainText(store.LaeuferIdx) + QStringLiteral("   ") + store.Laeufer.Name;
+    if (store.Laeufer.Geschlecht == 2)
+      lines << who + QStringLiteral(" m/w ?");
+    if (store.Laeufer.Geburtsdatum == UnknownBirthDate)
+      lines << who + QStringLiteral(" Geburtsdatum ?");
+  }
+  return lines;
+}
+
+void writeParticipant(TextWriter &file, const TeilnehmerZeile &row) {
+  for (const int column : {row.LaeuferNr, row.StartNr, row.KlasseNr, row.VereinNr, row.GruppeNr, row.Bezahlt})
+    file.number(column);
+  file.decimal(row.Punkte);
+  file.decimal(row.Zeit1);
+  for (const int column : {row.ZeitReserve, row.Status1, row.Gast, int(row.MannschaftNr)})
+    file.number(column);
+  file.decimal(row.Zeit2);
+  for (const int column : {row.Status2, int(row.Boarder), int(row.KlasseGenau)})
+    file.number(column);
+  for (int i = 0; i < ReserveLines; ++i)
+    file.text({});
+}
+
+QByteArray nameFile(const Names &names) {
+  TextWriter file;
+  for (int row = 1; row <= 100; ++row)
+    file.text(names[row]);
+  return file.bytes();
+}
+
+bool isWorthWriting(const Names &names) {
+  return !names[1].isEmpty() || !names[2].isEmpty();
+}
+
+} // namespace
+
+QString raceFileName(const Store &store, char letter, int race) {
+  const QString extension = letter == 'R' || letter == 'Z' ? QStringLiteral(".dat") : QStringLiteral(".lst");
+  return store.DatenOrdner + QLatin1Char(letter) + spacedText(race) + extension;
+}
+
+void RennDatenLaden(Store &store) {
+  clearParticipants(store);
+  readParticipants(store);
+  readNames(raceFileName(store, 'M', store.AktRennen), store.MannschaftName);
+  readNames(raceFileName(store, 'G', store.AktRennen), store.GruppeName);
+  loadClasses(store);
+}
+
+void RennDatenSpeichern(Store &store) {
+  store.umgebung.erinnern(missingAthleteData(store));
+  store.vorDemSpeichern();
+  for (const auto &file : raceFiles(store))
+    writeFile(raceFileName(store, file.letter, store.AktRennen), file.bytes);
+  store.nachDemSpeichern();
+}
+
+QList<RaceFile> raceFiles(const Store &store) {
+  QList<RaceFile> files{{'R', participantFile(store)}};
+  if (isWorthWriting(store.MannschaftName))
+    files.append({'M', nameFile(store.MannschaftName)});
+  if (isWorthWriting(store.GruppeName))
+    files.append({'G', nameFile(store.GruppeName)});
+  files.append({'K', classFile(store)});
+  return files;
+}
+
+QByteArray participantFile(const Store &store) {
+  TextWriter file;
+  for (int row = 1; row <= 1000; ++row)
+    if (store.Teilnehmer[row].LaeuferNr != 0)
+      writeParticipant(file, store.Teilnehmer[row]);
+  return file.bytes();
+}
+
+QByteArray classFile(const Store &store) {
+  TextWriter file;
+  for (int k = 1; k <= 20; ++k) {
+    file.text(store.KlasseName[k]);
+    file.number(store.KlasseVon[k]);
+    file.number(store.KlasseBis[k]);
+    forEachExactClass([&](int a, int b, int f) { file.number(store.KlasseReihenfolge(k, a, b, f)); });
+  }
+  for (int row = 0; row <= 159; ++row)
+    file.text(store.KlasseGenauName[row]);
+  return file.bytes();
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "core/Store.h"
+
+// The four text files of a race: R (participants), K (classes), M (teams), G (groups).
+
+/// "R 7.dat" and its sisters, with the data folder in front; `letter` is R, K, M, G or Z. The blank in the name is
+/// meant.
+QString raceFileName(const Store &store, char letter, int race);
+
+/// Fills all tables from the files of `AktRennen`; a missing file is no error. Without a K file the built-in classes
+/// are taken. `KlasseGenau` of rows that the file does not fill, and `KlasseReihenfolge` without a K file, stay as they
+/// were.
+void RennDatenLaden(Store &store);
+/// Reminds of athletes without sex or birth date, then writes the files of `AktRennen`. Laeufer.rec must be open.
+/// `LaeuferIdx` and the athlete buffer are left at the last used row's athlete.
+void RennDatenSpeichern(Store &store);
+
+/// One file of the open race: letter and content.
+struct RaceFile {
+  char letter;
+  QByteArray bytes;
+};
+/// The files that a save would write now, in its order; M and G only if row 1 or 2 has a name. Reads no record.
+QList<RaceFile> raceFiles(const Store &store);
+/// The R and K files as a save writes them.
+QByteArray participantFile(const Store &store);
+QByteArray classFile(const Store &store);

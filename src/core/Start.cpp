@@ -1,0 +1,74 @@
+#include "core/Start.h"
+
+#include "platform/Files.h"
+#include "platform/TextFile.h"
+
+#include <QFile>
+
+namespace {
+
+struct Season {
+  const char *name;
+  int von, bis;
+};
+
+// Birth years of the season 2015. The gap before "AK 1" and the overlap of "AK 1" and "AK 2" belong to the table.
+constexpr Season SeasonClasses[] = {
+    {"Bambini 1", 2009, 2015},   {"Bambini 2", 2008, 2008},   {"Kinder U8", 2007, 2007},   {"Kinder U9", 2006, 2006},
+    {"Kinder U10", 2005, 2005},  {"Kinder U11", 2004, 2004},  {"Kinder U12", 2003, 2003},  {"Schüler U13", 2002, 2002},
+    {"Schüler U14", 2001, 2001}, {"Schüler U15", 2000, 2000}, {"Schüler U16", 1999, 1999}, {"Jugend U18", 1997, 1998},
+    {"Jugend U21", 1994, 1996},  {"Allg. Kl.", 1985, 1986},   {"AK 1", 1975, 1984},        {"AK 2", 1965, 1977},
+    {"AK 3", 1955, 1964},        {"AK 4", 1945, 1954},        {"AK 5", 1935, 1944},        {"AK 6", 1900, 1934},
+};
+constexpr int SeasonYear = 2015;
+constexpr int DaysToNextSeason = 180;
+
+QString windowFile(const Store &store) {
+  return store.DatenOrdner + QStringLiteral("TopLeft.dat");
+}
+
+QString stateFile(const Store &store) {
+  return store.DatenOrdner + QStringLiteral("Vext.dat");
+}
+
+void readState(Store &store) {
+  if (!QFile::exists(stateFile(store)))
+    return;
+  TextReader file(stateFile(store));
+  for (int *value : {&store.LaeuferAnzahl, &store.VereinAnzahl, &store.RennenAnzahl, &store.VextReserve})
+    file.numberInto(*value);
+}
+
+void fillBuiltInTables(Store &store) {
+  store.JahrOffset = float(store.umgebung.heute().addDays(DaysToNextSeason).year() - SeasonYear);
+  int row = 1;
+  for (const auto &season : SeasonClasses)
+    store.StdKlasse[row++] = {QString::fromUtf8(season.name), qint16(season.von + int(store.JahrOffset)),
+                              qint16(season.bis + int(store.JahrOffset))};
+  store.StatusText[0] = QStringLiteral("ok");
+  store.StatusText[1] = QStringLiteral("naS");
+  store.StatusText[2] = QStringLiteral("niZ");
+  store.StatusText[3] = QStringLiteral("dis");
+}
+
+} // namespace
+
+void storeStarten(Store &store) {
+  store.Fenster.load(windowFile(store));
+  readState(store);
+  store.LaeuferIdx = store.LaeuferAnzahl;
+  store.VereinIdx = store.VereinAnzahl;
+  store.RennenIdx = store.RennenAnzahl;
+  fillBuiltInTables(store);
+}
+
+void FensterSpeichern(Store &store) {
+  store.Fenster.save(windowFile(store));
+}
+
+void ZustandSchreiben(Store &store) {
+  TextWriter file;
+  for (const int value : {store.LaeuferAnzahl, store.VereinAnzahl, store.RennenAnzahl, store.VextReserve})
+    file.number(value);
+  writeFile(stateFile(store), file.bytes());
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+
+#include <exception>
+
+/// What ends the program: an exception that nobody in the logic catches. The roof catches it at the event loop, saves
+/// what lives only in memory, reports in German and exits with a code that is not 0.
+class Fault : public std::exception {
+public:
+  explicit Fault(QString report);
+  /// German, whole sentences: what happened, where and why.
+  const QString &report() const { return m_report; }
+  const char *what() const noexcept override { return m_utf8.constData(); }
+
+private:
+  QString m_report;
+  QByteArray m_utf8;
+};
+
+/// A file operation failed; the reason is taken from errno, so it must be thrown straight after the operation.
+class FileFault : public Fault {
+public:
+  /// `action` is a German phrase for what was tried: "geschrieben", "geöffnet", "gelesen", "gelöscht".
+  FileFault(const QString &path, const QString &action);
+  /// The same with a reason that errno does not know.
+  FileFault(const QString &path, const QString &action, const QString &reason);
+};
+
+/// A text in a data file that is no number, or too large for its column. `line` is 1-based.
+class ConversionFault : public Fault {
+public:
+  ConversionFault(const QString &path, int line, const QString &text, const QString &why);
+};
+
+/// An index outside its table. `about` may add whom or what it concerns.
+class RangeFault : public Fault {
+public:
+  RangeFault(const QString &table, int index, int first, int last, const QString &about = {});
+};

@@ -1,0 +1,29 @@
+#include "platform/Files.h"
+
+#include "platform/Faults.h"
+
+#include <QFile>
+
+QByteArray readFile(const QString &path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly))
+    throw FileFault(path, QStringLiteral("geöffnet"));
+  const QByteArray bytes = file.readAll();
+  if (file.error() != QFileDevice::NoError)
+    throw FileFault(path, QStringLiteral("gelesen"));
+  return bytes;
+}
+
+// A short write shows only in the count, a full disk sometimes only in the flush: both are asked.
+void writeFile(const QString &path, const QByteArray &bytes) {
+  QFile file(path);
+  if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+    throw FileFault(path, QStringLiteral("geöffnet"));
+  if (file.write(bytes) != bytes.size() || !file.flush())
+    throw FileFault(path, QStringLiteral("geschrieben"));
+}
+
+void removeFile(const QString &path) {
+  if (QFile::exists(path) && !QFile::remove(path))
+    throw FileFault(path, QStringLiteral("gelöscht"));
+}

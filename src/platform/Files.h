@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+// Whole files with every step checked; a failure is a FileFault.
+
+QByteArray readFile(const QString &path);
+/// Creates the file anew in place; earlier content is gone.
+void writeFile(const QString &path, const QByteArray &bytes);
+/// Deletes the file if it exists.
+void removeFile(const QString &path);

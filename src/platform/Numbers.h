@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+// Two conversions of text to numbers exist and are not the same: the leading number knows only the point and stops at a
+// comma; the regional one knows only the comma and takes the whole text or nothing.
+
+/// Leading blanks are skipped, then sign, digits, at most one point with digits behind; stops at what does not fit.
+/// No digit gives 0. "12,5" is 12, "12.5" is 12.5, "7abc" is 7.
+double leadingNumber(QStringView text);
+/// The leading number as a whole one, halves to even ("12.5" is 12, "13.5" is 14). Any size; held to ±10^15.
+qint64 wholeNumber(QStringView text);
+/// The number at the end of a list line: the leading number of its last `length` characters.
+int rowAtEnd(QStringView line, int length);
+/// Decimal comma, optional exponent ("1E+15"), blanks around; nothing if the text is anything else, or empty.
+std::optional<double> regionalNumber(QStringView text);
+
+/// Plain decimal text with a comma and no blank: up to 15 significant digits, exponents from 1E+15 up and below 0,0001.
+QString plainText(double value);
+/// The same with up to 7 significant digits.
+QString plainText(float value);
+QString plainText(int value);
+/// plainText with a leading blank for values from 0 on.
+template <typename Number> QString spacedText(Number value) {
+  return value < 0 ? plainText(value) : QLatin1Char(' ') + plainText(value);
+}
+
+/// A number in a mask: "0##" three digits at least, "0####.#0" five and two decimals, "#.#0" none before the comma
+/// needed. Halves of the decimal text (15 significant digits) are rounded away from zero; a value that rounds to 0 has
+/// no sign.
+QString masked(double value, const char *mask);
+/// The same for single precision: halves are those of 7 significant digits.
+QString masked(float value, const char *mask);
+inline QString masked(int value, const char *mask) {
+  return masked(double(value), mask);
+}
+
+/// Without the blanks (20 hex, and nothing else) on both sides.
+QString trimmedBlanks(QStringView text);
+/// The text cut or filled with blanks on the right to `width` characters.
+QString padded(const QString &text, int width);
+/// The last `width` characters of `width` blanks and the text: right-aligned, a longer text loses its front.
+QString rightAligned(const QString &text, int width);

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "platform/Faults.h"
+
+#include <algorithm>
+#include <vector>
+
+/// A table of fixed bounds `First` to `Last`, both inclusive. An index outside is a RangeFault that names the table.
+template <typename T, int First, int Last> class Tabelle {
+public:
+  explicit Tabelle(const char *name) : m_name(name), m_rows(std::size_t(Last - First + 1)) {}
+
+  T &operator[](int index) { return m_rows[position(index)]; }
+  const T &operator[](int index) const { return m_rows[position(index)]; }
+
+  void fill(const T &value) { std::fill(m_rows.begin(), m_rows.end(), value); }
+  static constexpr int first() { return First; }
+  static constexpr int last() { return Last; }
+
+private:
+  std::size_t position(int index) const {
+    if (index < First || index > Last)
+      throw RangeFault(QString::fromUtf8(m_name), index, First, Last);
+    return std::size_t(index - First);
+  }
+
+  const char *m_name;
+  std::vector<T> m_rows;
+};

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/Tabelle.h"
+
+/// Positions of the screens, row n for `Form` n; unit: 1440 to the inch. A row of 0 and 0 means "no position".
+struct WindowPlaces {
+  Tabelle<int, 1, 60> FensterTop{"FensterTop"};
+  Tabelle<int, 1, 60> FensterLeft{"FensterLeft"};
+
+  /// Reads both values of each row, made positive; does nothing without the file.
+  void load(const QString &path);
+  /// Writes all 60 rows anew.
+  void save(const QString &path) const;
+};

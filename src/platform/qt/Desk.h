@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/WindowPlaces.h"
+#include "platform/qt/FieldGuard.h"
+
+#include <QPointer>
+
+#include <functional>
+
+class Screen;
+
+/// What all screens of one program share: the guard of the fields, the screen that is active, and the places of the
+/// windows.
+class Desk {
+public:
+  /// `savePlaces` writes the table of places to the disk.
+  Desk(WindowPlaces &places, std::function<void()> savePlaces);
+
+  FieldGuard &guard() { return m_guard; }
+  WindowPlaces &places() { return m_places; }
+  void savePlaces() { m_savePlaces(); }
+
+  /// Shows a screen on top and makes it active.
+  void show(Screen &screen);
+  /// Makes a visible screen active: fields of other screens are left first, then its activation steps run, once for
+  /// each change from another screen.
+  void activate(Screen &screen);
+
+private:
+  FieldGuard m_guard;
+  WindowPlaces &m_places;
+  std::function<void()> m_savePlaces;
+  QPointer<Screen> m_active;
+};

@@ -1,0 +1,191 @@
+#include "platform/qt/LineList.h"
+
+#include "platform/Numbers.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+constexpr int NumberLength = 6;
+constexpr int GapBeforeNumber = 5;
+
+/// Where the trailing number of a line begins; nothing if the line has none.
+std::optional<qsizetype> numberStart(const QString &line) {
+  qsizetype start = line.size();
+  while (start > 0 && line[start - 1].isDigit())
+    --start;
+  const qsizetype gap = start - GapBeforeNumber;
+  if (start == line.size() || gap < 0 || !trimmedBlanks(QStringView(line).sliced(gap, GapBeforeNumber)).isEmpty())
+    return {};
+  return start;
+}
+
+/// Draws the number at the end of a line pale at the right edge.
+class LineDelegate : public QStyledItemDelegate {
+public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override {
+    const QString line = index.data().toString();
+    const auto start = numberStart(line);
+    QStyledItemDelegate::paint(painter, option, index);
+    if (!start)
+      return;
+    const QRect area = option.rect.adjusted(0, 0, -6, 0);
+    const bool chosen = option.state.testFlag(QStyle::State_Selected);
+    painter->setFont(option.font);
+    painter->setPen(option.palette.color(chosen ? QPalette::HighlightedText : QPalette::PlaceholderText));
+    if (!chosen)
+      painter->setOpacity(0.6);
+    painter->drawText(area, int(Qt::AlignRight | Qt::AlignVCenter), line.mid(*start));
+    painter->setOpacity(1);
+  }
+
+protected:
+  void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (const auto start = numberStart(option->text))
+      option->text = option->text.left(*start);
+  }
+};
+
+} // namespace
+
+int LineModel::rowCount(const QModelIndex &parent) const {
+  return parent.isValid() ? 0 : int(m_lines.size());
+}
+
+QVariant LineModel::data(const QModelIndex &index, int role) const {
+  return role == Qt::DisplayRole ? QVariant(m_lines.at(index.row())) : QVariant();
+}
+
+void LineModel::setLines(QStringList lines) {
+  beginResetModel();
+  m_lines = std::move(lines);
+  endResetModel();
+}
+
+LineList::LineList(QWidget *parent) : QListView(parent) {
+  setModel(&m_model);
+  setItemDelegate(new LineDelegate(this));
+  setUniformItemSizes(true);
+  setEditTriggers(NoEditTriggers);
+  setTextElideMode(Qt::ElideNone);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setCurrentIndex({});
+}
+
+void LineList::fill(QStringList lines) {
+  const int scrolled = verticalScrollBar()->value();
+  m_model.setLines(std::move(lines));
+  choose(-1);
+  verticalScrollBar()->setValue(scrolled);
+}
+
+void LineList::choose(int line) {
+  m_byCode = true;
+  setCurrentIndex(line < 0 ? QModelIndex() : m_model.index(line));
+  if (line < 0)
+    clearSelection();
+  m_byCode = false;
+}
+
+void LineList::chooseByNumber(int number) {
+  choose(lineOfNumber(number));
+}
+
+int LineList::lineOfNumber(int number) const {
+  const auto found = std::find_if(lines().begin(), lines().end(),
+                                  [number](const QString &line) { return rowAtEnd(line, NumberLength) == number; });
+  return found == lines().end() ? -1 : int(found - lines().begin());
+}
+
+void LineList::currentChanged(const QModelIndex &current, const QModelIndex &previous) {
+  QListView::currentChanged(current, previous);
+  if (!m_byCode && current.isValid())
+    Q_EMIT chosen(current.row());
+}
+
+// The press that gives this list the focus first makes another field store its value, which may refill this very list:
+// the lines that the operator aimed at are kept for the press that follows.
+void LineList::focusInEvent(QFocusEvent *event) {
+  m_aimedLines = event->reason() == Qt::MouseFocusReason ? lines() : QStringList();
+  QListView::focusInEvent(event);
+}
+
+QModelIndex LineList::aimedAt(QPoint at) {
+  const QStringList before = std::exchange(m_aimedLines, {});
+  const QModelIndex now = indexAt(at);
+  if (before.isEmpty() || before == lines())
+    return now;
+  const int height = sizeHintForRow(0);
+  const int line = height > 0 ? (at.y() + verticalOffset()) / height : -1;
+  if (line < 0 || line >= before.size())
+    return {};
+  return m_model.index(lineOfNumber(rowAtEnd(before[line], NumberLength)));
+}
+
+void LineList::mousePressEvent(QMouseEvent *event) {
+  const QModelIndex index = aimedAt(event->pos());
+  if (event->button() != Qt::LeftButton || !index.isValid())
+    return;
+  const bool again = index == currentIndex();
+  setCurrentIndex(index);
+  if (again)
+    Q_EMIT chosen(index.row());
+}
+
+void LineList::mouseMoveEvent(QMouseEvent *) {} // no choosing by dragging
+
+void LineList::mouseDoubleClickEvent(QMouseEvent *event) {
+  const QModelIndex index = indexAt(event->pos());
+  if (event->button() == Qt::LeftButton && index.isValid())
+    Q_EMIT doubleChosen(index.row());
+}
+
+QItemSelectionModel::SelectionFlags LineList::selectionCommand(const QModelIndex &index, const QEvent *) const {
+  return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
+}
+
+MarkList::MarkList(QWidget *parent) : LineList(parent) {
+  setSelectionMode(MultiSelection);
+}
+
+QList<int> MarkList::marked() const {
+  QList<int> rows;
+  for (const auto &index : selectionModel()->selectedIndexes())
+    rows.append(index.row());
+  std::sort(rows.begin(), rows.end());
+  return rows;
+}
+
+void MarkList::setMarked(int line, bool on) {
+  selectionModel()->select(model()->index(line, 0), on ? QItemSelectionModel::Select : QItemSelectionModel::Deselect);
+}
+
+QItemSelectionModel::SelectionFlags MarkList::selectionCommand(const QModelIndex &, const QEvent *) const {
+  return QItemSelectionModel::NoUpdate;
+}
+
+void MarkList::mousePressEvent(QMouseEvent *event) {
+  const QModelIndex index = indexAt(event->pos());
+  if (event->button() != Qt::LeftButton || !index.isValid())
+    return;
+  setCurrentIndex(index);
+  selectionModel()->select(index, QItemSelectionModel::Toggle);
+  Q_EMIT markToggled(index.row());
+}
+
+void MarkList::keyPressEvent(QKeyEvent *event) {
+  if (event->key() != Qt::Key_Space || !currentIndex().isValid())
+    return LineList::keyPressEvent(event);
+  selectionModel()->select(currentIndex(), QItemSelectionModel::Toggle);
+  Q_EMIT markToggled(currentIndex().row());
+}

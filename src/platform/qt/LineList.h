@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QAbstractListModel>
+#include <QListView>
+
+/// The lines of a list, one text each.
+class LineModel : public QAbstractListModel {
+  Q_OBJECT
+
+public:
+  using QAbstractListModel::QAbstractListModel;
+  int rowCount(const QModelIndex &parent = {}) const override;
+  QVariant data(const QModelIndex &index, int role) const override;
+  const QStringList &lines() const { return m_lines; }
+  void setLines(QStringList lines);
+
+private:
+  QStringList m_lines;
+};
+
+/// A list of text lines; 30,000 of them feel instant. A line that ends in at least five blanks and a number (its row or
+/// record) is drawn with that number pale at the right edge; its text stays whole.
+class LineList : public QListView {
+  Q_OBJECT
+
+public:
+  explicit LineList(QWidget *parent = nullptr);
+
+  /// Sets the lines anew: nothing is chosen, the scroll position is kept.
+  void fill(QStringList lines);
+  /// Highlights a line (from 0; −1 = none) without `chosen`, and scrolls to it.
+  void choose(int line);
+  /// Highlights the line that ends in `number`; none if there is none.
+  void chooseByNumber(int number);
+  /// Position of the line that ends in `number`, −1 if there is none.
+  int lineOfNumber(int number) const;
+  const QStringList &lines() const { return m_model.lines(); }
+  /// The highlighted line, from 0; −1 = none.
+  int chosenLine() const { return currentIndex().row(); }
+
+Q_SIGNALS:
+  /// The operator chose a line: a left press, also on the line already chosen, or keys. Never by code, never by focus.
+  void chosen(int line);
+  /// Comes after `chosen`.
+  void doubleChosen(int line);
+
+protected:
+  void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+  void mousePressEvent(QMouseEvent *event) override;
+  void mouseMoveEvent(QMouseEvent *event) override;
+  void mouseDoubleClickEvent(QMouseEvent *event) override;
+  void focusInEvent(QFocusEvent *event) override;
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index, const QEvent *event) const override;
+
+private:
+  QModelIndex aimedAt(QPoint at);
+
+  LineModel m_model;
+  bool m_byCode = false;
+  QStringList m_aimedLines;
+};
+
+/// A list whose lines are marked each for itself, by a click or the blank key; arrow keys mark nothing.
+class MarkList : public LineList {
+  Q_OBJECT
+
+public:
+  explicit MarkList(QWidget *parent = nullptr);
+  /// Marked lines, ascending from 0.
+  QList<int> marked() const;
+  void setMarked(int line, bool on);
+
+Q_SIGNALS:
+  /// The operator toggled a line.
+  void markToggled(int line);
+
+protected:
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index, const QEvent *event) const override;
+  void mousePressEvent(QMouseEvent *event) override;
+  void keyPressEvent(QKeyEvent *event) override;
+};

@@ -1,0 +1,112 @@
+#include "platform/qt/Look.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFontMetrics>
+#include <QLibraryInfo>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTranslator>
+
+#include <algorithm>
+
+namespace {
+
+constexpr qreal SmallestFont = 10.5;
+constexpr qreal ControlHeight = 1.6; // of edits, buttons and combos, in lines
+
+void setColors(QPalette &palette) {
+  palette.setColor(QPalette::Window, QColor(0xF4F5F7));
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::AlternateBase, QColor(0xF4F5F7));
+  palette.setColor(QPalette::Button, QColor(0xFBFBFC));
+  palette.setColor(QPalette::ToolTipBase, QColor(0xFFFFF0));
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
+    palette.setColor(role, QColor(0x1C222B));
+  palette.setColor(QPalette::PlaceholderText, QColor(0x5C6673));
+  palette.setColor(QPalette::Highlight, QColor(0x1F5FA8));
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    palette.setColor(QPalette::Disabled, role, QColor(0x8A919C));
+}
+
+// The fonts asked for by name, where the system does not have them.
+void substituteFonts() {
+  QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans"));
+  QFont::insertSubstitution(QStringLiteral("Times"), QStringLiteral("Liberation Serif"));
+  QFont::insertSubstitution(QStringLiteral("Fraktur BT"), QStringLiteral("Blankenburg_UNZ1A"));
+  QFont::insertSubstitutions(QStringLiteral("Monospac821 BT"),
+                             {QStringLiteral("Liberation Mono"), QStringLiteral("DejaVu Sans Mono")});
+}
+
+void scaleFont(QWidget *widget) {
+  const int percent = widget->property("schriftProzent").toInt();
+  if (percent == 0)
+    return;
+  QFont font = widget->font();
+  font.setPointSizeF(QApplication::font().pointSizeF() * percent / 100);
+  widget->setFont(font);
+}
+
+void setWidth(QWidget *widget) {
+  const int digits = widget->property("zeichen").toInt();
+  if (digits == 0)
+    return;
+  const QFontMetrics metrics(widget->font());
+  const int width = metrics.horizontalAdvance(QLatin1Char('0')) * digits + metrics.height();
+  widget->setMinimumWidth(width);
+  if (qobject_cast<QLineEdit *>(widget))
+    widget->setMaximumWidth(width);
+}
+
+void setHeight(QWidget *widget) {
+  if (qobject_cast<QLineEdit *>(widget) || qobject_cast<QPushButton *>(widget) || qobject_cast<QComboBox *>(widget))
+    widget->setMinimumHeight(int(QFontMetrics(widget->font()).height() * ControlHeight));
+}
+
+void setQuiet(QWidget *widget) {
+  if (!widget->property("leise").toBool())
+    return;
+  QPalette palette = widget->palette();
+  palette.setColor(QPalette::WindowText, palette.color(QPalette::PlaceholderText));
+  widget->setPalette(palette);
+}
+
+} // namespace
+
+void Look::apply(QApplication &application) {
+  QApplication::setStyle(QStringLiteral("Fusion"));
+  QPalette palette = QApplication::palette();
+  setColors(palette);
+  QApplication::setPalette(palette);
+  substituteFonts();
+  QFont font = QApplication::font();
+  font.setPointSizeF(std::max(font.pointSizeF(), SmallestFont));
+  QApplication::setFont(font);
+  auto *german = new QTranslator(&application);
+  if (german->load(QStringLiteral("qtbase_de"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    QApplication::installTranslator(german);
+}
+
+void Look::applyProperties(QWidget *screen) {
+  for (auto *widget : screen->findChildren<QWidget *>()) {
+    scaleFont(widget);
+    setWidth(widget);
+    setHeight(widget);
+    setQuiet(widget);
+  }
+}
+
+void Look::setGround(QWidget *field, QColor ground) {
+  QPalette palette = field->palette();
+  for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button})
+    palette.setColor(role, ground);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    palette.setColor(role, Qt::black);
+  field->setPalette(palette);
+  field->setAutoFillBackground(true);
+}
+
+void Look::resetGround(QWidget *field) {
+  field->setPalette({});
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QColor>
+
+class QApplication;
+class QWidget;
+
+/// How VEXT looks, in one place: its own light palette on every desktop, fonts, and sizes that follow the font.
+namespace Look {
+
+/// Style, palette, fonts and the German texts of Qt's own dialogs; once, before the first screen.
+void apply(QApplication &application);
+/// Sizes and captions by the dynamic properties of the controls; once for each screen.
+void applyProperties(QWidget *screen);
+/// Colours the ground of a field, with dark letters whatever the desktop's theme.
+void setGround(QWidget *field, QColor ground);
+/// The ground of a field as the palette has it.
+void resetGround(QWidget *field);
+
+} // namespace Look

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QHash>
+#include <QWidget>
+
+#include <functional>
+
+class Desk;
+
+/// Base of all screens, which are top-level windows. It does for each of them: the window's place in the table of
+/// places, storing a field when the focus leaves it (see FieldGuard), Enter and the blank key, the order of closing,
+/// the wheel that changes no combo without the focus, and sizes that follow the font.
+///
+/// A screen is made anew each time it opens and destroyed after it has closed; who opens which is known to the roof
+/// alone.
+class Screen : public QWidget {
+  Q_OBJECT
+
+public:
+  /// `name` becomes the object name; `row` is the row of the table of places, 0 = none.
+  Screen(Desk &desk, const QString &name, int row);
+
+  /// Steps that run each time the screen becomes active: at opening, when a screen opened from it closes, when the
+  /// operator comes to it from another screen beside it. Never on return from another program or from a popup.
+  virtual void becomeActive() {}
+
+Q_SIGNALS:
+  /// The closing steps have run; the roof shows the opener again.
+  void closed();
+
+protected:
+  /// To be called once by the constructor, after setupUi. Reads the dynamic properties of the controls:
+  /// `schriftProzent` (font size in percent of the application's), `zeichen` (width in digits), `leise` (a pale
+  /// caption).
+  void setUp();
+  Desk &desk() { return m_desk; }
+
+  void onLeave(QWidget *field, std::function<void()> action);
+  void onEnter(QWidget *field, std::function<void()> action);
+  /// What Enter does in a control that has the focus. On buttons it presses them without this.
+  void onReturn(QWidget *control, std::function<void()> action);
+
+  /// Disables or hides a control; if it has the focus, that goes to `instead` first, so that no other field is entered
+  /// and left by it.
+  static void setControlEnabled(QWidget *control, bool enabled, QWidget *instead);
+  static void setControlVisible(QWidget *control, bool visible, QWidget *instead);
+
+  /// What the screen does when it closes, after the focused field was left and the place was written to TopLeft.dat.
+  virtual void closing() {}
+
+  void closeEvent(QCloseEvent *event) override;
+  void hideEvent(QHideEvent *event) override;
+  bool event(QEvent *event) override;
+  bool eventFilter(QObject *watched, QEvent *event) override;
+  void showEvent(QShowEvent *event) override;
+
+private:
+  void takePlace();
+  void storePlace();
+  bool pressReturn(QObject *watched);
+
+  Desk &m_desk;
+  int m_row;
+  QHash<QObject *, std::function<void()>> m_return;
+  bool m_placed = false;
+};

@@ -1,0 +1,135 @@
+#include "core/RaceFiles.h"
+
+#include "platform/Faults.h"
+#include "support/TestStore.h"
+
+namespace {
+
+QByteArray participant(const char *zeit1, const char *status1 = " 0 ") {
+  QByteArray block = " 5 \r\n 12 \r\n 3 \r\n 1 \r\n 2 \r\n 1 \r\n4\r\n";
+  block += QByteArray(zeit1) + "\r\n 0 \r\n" + status1 + "\r\n 1 \r\n 3 \r\n64,5\r\n 2 \r\n 1 \r\n 21 \r\n";
+  return block + QByteArray("\r\n").repeated(7);
+}
+
+class RaceFiles : public testing::Test {
+protected:
+  RaceFiles() {
+    test.addAthlete(QStringLiteral("MÜLLER Änne"), 2010, 0);
+    test.addRace(QStringLiteral("Kinderrennen"));
+  }
+
+  TestStore test;
+  Store &store = test.store;
+};
+
+} // namespace
+
+TEST_F(RaceFiles, LoadedAndSavedAgainAreTheSameBytes) {
+  const QByteArray r = participant("63,45") + participant("1E-05") + participant("-5").replace(" 21 ", "-21 ");
+  test.writeFile(QStringLiteral("R 1.dat"), r);
+  QByteArray k;
+  for (int i = 1; i <= 20; ++i) {
+    k += "Klasse, " + QByteArray::number(i) + "\xfc\r\n 2000 \r\n 2010 \r\n";
+    for (int j = 0; j < 8; ++j)
+      k += " " + QByteArray::number(i * 10 + j) + " \r\n";
+  }
+  for (int i = 0; i < 160; ++i)
+    k += "genau\x80 " + QByteArray::number(i) + "\r\n";
+  test.writeFile(QStringLiteral("K 1.lst"), k);
+  const QByteArray m = "eins, zwei\r\n" + QByteArray("\r\n").repeated(98) + "hundert\r\n";
+  test.writeFile(QStringLiteral("M 1.lst"), m);
+  RennDatenLaden(store);
+  RennDatenSpeichern(store);
+  EXPECT_EQ(test.file(QStringLiteral("R 1.dat")), r);
+  EXPECT_EQ(test.file(QStringLiteral("K 1.lst")), k);
+  EXPECT_EQ(test.file(QStringLiteral("M 1.lst")), m);
+  EXPECT_FALSE(test.hasFile(QStringLiteral("G 1.lst")));
+}
+
+TEST_F(RaceFiles, GuardsOfTheLoad) {
+  test.writeFile(QStringLiteral("R 1.dat"),
+                 participant("1", " 7 ").replace("\r\n 3 \r\n64,5\r\n 2 ", "\r\n-3 \r\n64,5\r\n 7 "));
+  RennDatenLaden(store);
+  EXPECT_EQ(store.Teilnehmer[1].Status1, 0);
+  EXPECT_EQ(store.Teilnehmer[1].Status2, 7);
+  EXPECT_EQ(store.Teilnehmer[1].MannschaftNr, 0);
+}
+
+TEST_F(RaceFiles, FractionOfPointsSlipsTheLines) {
+  test.writeFile(QStringLiteral("R 1.dat"), participant("63,45").replace("\r\n4\r\n", "\r\n12,5\r\n"));
+  RennDatenLaden(store);
+  EXPECT_EQ(store.Teilnehmer[1].Punkte, 12);
+  EXPECT_EQ(store.Teilnehmer[1].Zeit1, 5);
+  EXPECT_EQ(store.Teilnehmer[1].ZeitReserve, 63);
+}
+
+TEST_F(RaceFiles, FileCutShortKeepsTheRow) {
+  test.writeFile(QStringLiteral("R 1.dat"), participant("63,45") + " 9 \r\n 4 ");
+  RennDatenLaden(store);
+  EXPECT_EQ(store.Teilnehmer[2].LaeuferNr, 9);
+  EXPECT_EQ(store.Teilnehmer[2].StartNr, 4);
+  EXPECT_EQ(store.Teilnehmer[2].Zeit1, 0);
+  EXPECT_EQ(store.Teilnehmer[3].LaeuferNr, 0);
+}
+
+TEST_F(RaceFiles, FullTableStopsAtRow1000) {
+  test.writeFile(QStringLiteral("R 1.dat"), participant("1").repeated(1001));
+  RennDatenLaden(store);
+  EXPECT_EQ(store.Teilnehmer[1000].LaeuferNr, 5);
+  EXPECT_EQ(participantFile(store).count('\n'), 23000);
+}
+
+TEST_F(RaceFiles, SavingDropsFreeRowsAndNamesInRowThreeAlone) {
+  test.enter(1, 8);
+  store.Teilnehmer[5].LaeuferNr = 1;
+  store.MannschaftName[3] = QStringLiteral("allein");
+  RennDatenSpeichern(store);
+  EXPECT_FALSE(test.hasFile(QStringLiteral("M 1.lst")));
+  RennDatenLaden(store);
+  EXPECT_EQ(store.Teilnehmer[2].LaeuferNr, 1);
+  EXPECT_EQ(store.Teilnehmer[5].LaeuferNr, 0);
+}
+
+TEST_F(RaceFiles, WithoutClassFileTheBuiltInClassesAndTheOrderOfTheRaceBefore) {
+  store.KlasseReihenfolge(20, 1, 0, 1) = 77;
+  store.Teilnehmer[4].KlasseGenau = 9;
+  RennDatenLaden(store);
+  EXPECT_EQ(store.KlasseName[8], QStringLiteral("Schüler U13"));
+  EXPECT_EQ(store.KlasseVon[16], 1976);
+  EXPECT_EQ(store.KlasseReihenfolge(20, 1, 0, 1), 77);
+  EXPECT_EQ(store.Teilnehmer[4].KlasseGenau, 9);
+}
+
+TEST_F(RaceFiles, RemindsOfAthletesWithoutSexOrBirthDate) {
+  QStringList reminder;
+  test.umgebung.erinnern = [&](const QStringList &lines) { reminder = lines; };
+  LaeuferLeeren(store);
+  store.LaeuferIdx = 2;
+  store.Laeufer.Name = QStringLiteral("HUBER Max");
+  LaeuferSchreiben(store);
+  test.enter(1);
+  test.enter(2);
+  RennDatenSpeichern(store);
+  EXPECT_EQ(reminder,
+            QStringList({QStringLiteral("2   HUBER Max m/w ?"), QStringLiteral("2   HUBER Max Geburtsdatum ?")}));
+}
+
+TEST_F(RaceFiles, FaultsNameFileAndLine) {
+  const struct {
+    QByteArray bytes;
+    const char *where;
+  } cases[] = {{participant(""), "Zeile 8 "},
+               {participant("1") + participant("1.5"), "Zeile 31 "},
+               {participant("1").replace(" 3 \r\n64,5", " 40000 \r\n64,5"), "Zeile 12 "},
+               {participant("1").replace(" 5 ", " 3000000000 "), "Zeile 1 "}};
+  for (const auto &c : cases) {
+    test.writeFile(QStringLiteral("R 1.dat"), c.bytes);
+    try {
+      RennDatenLaden(store);
+      ADD_FAILURE() << "no fault: " << c.where;
+    } catch (const ConversionFault &fault) {
+      EXPECT_TRUE(fault.report().contains(QString::fromUtf8(c.where))) << fault.what();
+      EXPECT_TRUE(fault.report().contains(QStringLiteral("R 1.dat"))) << fault.what();
+    }
+  }
+}

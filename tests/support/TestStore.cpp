@@ -1,0 +1,59 @@
+#include "support/TestStore.h"
+
+#include "core/RaceFiles.h"
+#include "platform/Dates.h"
+#include "platform/Files.h"
+
+#include <QFile>
+
+int TestStore::addClub(const QString &name) {
+  VereinLeeren(store);
+  store.Verein.VereinName = store.Verein.VereinKurz = name;
+  store.VereinIdx = store.VereinAnzahl + 1;
+  VereinSchreiben(store);
+  return store.VereinIdx;
+}
+
+int TestStore::addAthlete(const QString &name, int year, int sex, int club) {
+  LaeuferLeeren(store);
+  store.Laeufer.Name = name;
+  store.Laeufer.Geburtsdatum = toDays(QDate(year, 7, 1));
+  store.Laeufer.Geschlecht = qint16(sex);
+  store.Laeufer.Verein1 = qint16(club);
+  store.LaeuferIdx = store.LaeuferAnzahl + 1;
+  LaeuferSchreiben(store);
+  return store.LaeuferIdx;
+}
+
+int TestStore::addRace(const QString &name) {
+  store.Rennen = RennenSatz();
+  store.Rennen.RennenName = name;
+  store.Rennen.WertKlassen = store.Rennen.WertZeit = 1;
+  store.RennenIdx = store.RennenAnzahl + 1;
+  RennenSchreiben(store);
+  store.AktRennen = store.RennenIdx;
+  RennDatenLaden(store);
+  return store.RennenIdx;
+}
+
+int TestStore::enter(int athlete, int startNr) {
+  int row = 1;
+  while (store.Teilnehmer[row].LaeuferNr != 0)
+    ++row;
+  store.Teilnehmer[row].LaeuferNr = athlete;
+  store.Teilnehmer[row].StartNr = startNr;
+  store.Teilnehmer[row].VereinNr = 1;
+  return row;
+}
+
+QByteArray TestStore::file(const QString &name) const {
+  return readFile(store.DatenOrdner + name);
+}
+
+bool TestStore::hasFile(const QString &name) const {
+  return QFile::exists(store.DatenOrdner + name);
+}
+
+void TestStore::writeFile(const QString &name, const QByteArray &bytes) const {
+  ::writeFile(store.DatenOrdner + name, bytes);
+}
