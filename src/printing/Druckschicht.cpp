@@ -1,7 +1,7 @@
 #include "printing/Druckschicht.h"
 
 #include "platform/Numbers.h"
-#include "printing/PrintMetrics.h"
+#include "platform/print/PrintMetrics.h"
 
 #include <cmath>
 #include <utility>

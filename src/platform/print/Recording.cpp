@@ -1,4 +1,4 @@
-#include "printing/Recording.h"
+#include "platform/print/Recording.h"
 
 #include <QFileInfo>
 

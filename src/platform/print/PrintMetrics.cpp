@@ -1,4 +1,4 @@
-#include "printing/PrintMetrics.h"
+#include "platform/print/PrintMetrics.h"
 
 #include "platform/Fonts.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "printing/Recording.h"
+#include "platform/print/Recording.h"
 
 #include <QFont>
 
