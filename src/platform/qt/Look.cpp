@@ -62,7 +62,8 @@ void setQuiet(QWidget *widget) {
   if (!widget->property("leise").toBool())
     return;
   QPalette palette = widget->palette();
-  palette.setColor(QPalette::WindowText, palette.color(QPalette::PlaceholderText));
+  for (const auto role : {QPalette::WindowText, QPalette::Text}) // on a card a label takes the second
+    palette.setColor(role, palette.color(QPalette::PlaceholderText));
   widget->setPalette(palette);
 }
 
