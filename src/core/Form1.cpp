@@ -15,7 +15,7 @@ Form1::Form1(Desk &desk, Store &store)
   ui->setupUi(this);
   setWindowTitle(store.ProgrammName + QStringLiteral("  V") + store.Version);
   makePictures();
-  resize(QSize(54, 37) * fontMetrics().height());
+  resize(QSize(62, 39) * fontMetrics().height());
   setUp();
   showName();
   ui->Label1->installEventFilter(this);

@@ -12,6 +12,7 @@ Form4::Form4(Desk &desk, Store &store)
     : Screen(desk, QStringLiteral("Form4"), 4), ui(std::make_unique<Ui::Form4>()), m_store(store) {
   ui->setupUi(this);
   setUp();
+  resize(sizeHint().width(), fontMetrics().height() * 32);
   connectRegister();
   for (const auto &function : functions())
     connectFunction(function);
