@@ -130,6 +130,12 @@ QString trimmedBlanks(QStringView text) {
   return text.toString();
 }
 
+QString upperCase(QString text) {
+  for (QChar &c : text)
+    c = c.toUpper();
+  return text;
+}
+
 QString padded(const QString &text, int width) {
   return text.left(width).leftJustified(width);
 }
