@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFontMetrics>
+#include <QFrame>
 #include <QLibraryInfo>
 #include <QLineEdit>
 #include <QPushButton>
@@ -68,8 +69,18 @@ void setQuiet(QWidget *widget) {
   if (!widget->property("leise").toBool())
     return;
   QPalette palette = widget->palette();
-  palette.setColor(QPalette::WindowText, palette.color(QPalette::PlaceholderText));
+  for (const auto role : {QPalette::WindowText, QPalette::Text}) // on a card a label takes the second
+    palette.setColor(role, palette.color(QPalette::PlaceholderText));
   widget->setPalette(palette);
+}
+
+// A plain frame is a white card on the pale ground of the screen.
+void setCard(QWidget *widget) {
+  const auto *frame = qobject_cast<QFrame *>(widget);
+  if (!frame || frame->metaObject() != &QFrame::staticMetaObject || frame->frameShape() != QFrame::StyledPanel)
+    return;
+  widget->setBackgroundRole(QPalette::Base);
+  widget->setAutoFillBackground(true);
 }
 
 } // namespace
@@ -94,6 +105,7 @@ void Look::applyProperties(QWidget *screen) {
     setWidth(widget);
     setHeight(widget);
     setQuiet(widget);
+    setCard(widget);
   }
 }
 
