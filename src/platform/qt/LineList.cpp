@@ -37,7 +37,7 @@ public:
     const QString line = index.data().toString();
     const auto start = numberStart(line);
     QStyledItemDelegate::paint(painter, option, index);
-    if (!start)
+    if (!start || hidesNumbers)
       return;
     const QRect area = option.rect.adjusted(0, 0, -6, 0);
     if (option.fontMetrics.horizontalAdvance(trimmedBlanks(line.left(*start)) + line.mid(*start - 1)) > area.width())
@@ -50,6 +50,8 @@ public:
     painter->drawText(area, int(Qt::AlignRight | Qt::AlignVCenter), line.mid(*start));
     painter->setOpacity(1);
   }
+
+  bool hidesNumbers = false;
 
 protected:
   void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override {
@@ -90,6 +92,17 @@ void LineList::fill(QStringList lines) {
   m_model.setLines(std::move(lines));
   choose(-1);
   verticalScrollBar()->setValue(scrolled);
+}
+
+void LineList::refill(QStringList lines, int number) {
+  setAutoScroll(false);
+  fill(std::move(lines));
+  chooseByNumber(number);
+  setAutoScroll(true);
+}
+
+void LineList::hideNumbers() {
+  static_cast<LineDelegate *>(itemDelegate())->hidesNumbers = true;
 }
 
 void LineList::choose(int line) {
