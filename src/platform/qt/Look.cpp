@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFontMetrics>
+#include <QFrame>
 #include <QLibraryInfo>
 #include <QLineEdit>
 #include <QPushButton>
@@ -72,6 +73,15 @@ void setQuiet(QWidget *widget) {
   widget->setPalette(palette);
 }
 
+// A plain frame is a white card on the pale ground of the screen.
+void setCard(QWidget *widget) {
+  const auto *frame = qobject_cast<QFrame *>(widget);
+  if (!frame || frame->metaObject() != &QFrame::staticMetaObject || frame->frameShape() != QFrame::StyledPanel)
+    return;
+  widget->setBackgroundRole(QPalette::Base);
+  widget->setAutoFillBackground(true);
+}
+
 } // namespace
 
 void Look::apply(QApplication &application) {
@@ -94,6 +104,7 @@ void Look::applyProperties(QWidget *screen) {
     setWidth(widget);
     setHeight(widget);
     setQuiet(widget);
+    setCard(widget);
   }
 }
 
