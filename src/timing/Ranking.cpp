@@ -1,0 +1,247 @@
+#include "timing/Ranking.h"
+
+#include "core/RecordFiles.h"
+#include "core/ValueFormats.h"
+#include "platform/Numbers.h"
+#include "platform/SortedLines.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int GroupLength = 3;
+constexpr int RowLength = 4;
+constexpr auto ValueMask = "0####.#0";
+constexpr double NoBestTime = 99999;
+constexpr double NoBestTimeFirstRun = 999999; // men only, with one digit more; meant
+constexpr int ReversedPlaces = 15;
+constexpr double ReversalPoint = 50000; // seconds
+
+bool anySecondTime(const Store &store) {
+  for (int row = 1; row <= 1000; ++row)
+    if (store.Teilnehmer[row].Zeit2 > 0)
+      return true;
+  return false;
+}
+
+void clearValues(TeilnehmerZeile &participant) {
+  participant.KlasseKopf = 0;
+  participant.WertZeit1 = participant.WertZeit2 = participant.WertSumme = 0;
+}
+
+bool startsForClub(const Store &store, const TeilnehmerZeile &participant, int club) {
+  const auto &athlete = store.Laeufer;
+  switch (participant.VereinNr) {
+  case 1:
+    return athlete.Verein1 == club;
+  case 2:
+    return athlete.Verein2 == club;
+  case 3:
+    return athlete.Verein3 == club;
+  default:
+    return false;
+  }
+}
+
+// As soon as one person has a second time, everybody without one is out; whether the race has two runs does not matter.
+bool hasResult(const TeilnehmerZeile &participant, bool secondTimesExist) {
+  return qint64(participant.Status1) + participant.Status2 <= 0 && participant.Zeit1 != 0 &&
+         !(secondTimesExist && participant.Zeit2 == 0);
+}
+
+bool isRanked(Store &store, const TeilnehmerZeile &participant, bool secondTimesExist, std::optional<int> clubFilter) {
+  if (!hasResult(participant, secondTimesExist) || !readAthlete(store, participant))
+    return false;
+  return !clubFilter || (*clubFilter >= 1 && startsForClub(store, participant, *clubFilter));
+}
+
+// Guests and men may have a surcharge on each run; added one after the other, as ties compare the exact sum.
+double withSurcharges(const Store &store, const TeilnehmerZeile &participant, double seconds) {
+  if (participant.Gast == 1)
+    seconds += store.Rennen.ZuschlagGast;
+  if (store.Laeufer.Geschlecht == 1)
+    seconds += store.Rennen.ZuschlagMann;
+  return seconds;
+}
+
+void setValues(const Store &store, TeilnehmerZeile &participant) {
+  participant.WertZeit1 = withSurcharges(store, participant, participant.Zeit1);
+  participant.WertZeit2 =
+      participant.Zeit2 > 0 ? withSurcharges(store, participant, participant.Zeit2) : participant.Zeit2;
+  participant.WertSumme = participant.WertZeit1;
+  if (store.Rennen.ZweiDurchgaenge == 1)
+    participant.WertSumme += participant.WertZeit2;
+}
+
+// Points are single precision and round by their seven digits.
+QString valueKey(const Store &store, const TeilnehmerZeile &participant, double seconds) {
+  return store.Rennen.WertZeit == 1 ? masked(seconds, ValueMask) : masked(participant.Punkte, ValueMask);
+}
+
+QString rankKey(const Store &store, int row, double seconds) {
+  const auto &participant = store.Teilnehmer[row];
+  return Reihungsschluessel(store, participant) + valueKey(store, participant, seconds) + store.Laeufer.Name +
+         QStringLiteral("   ") + plainText(row);
+}
+
+int groupOf(const QString &key) {
+  return int(wholeNumber(QStringView(key).left(GroupLength)));
+}
+
+/// Takes the sorted keys one after the other and gives places and the lines of the provisional result.
+class ResultWalk {
+public:
+  explicit ResultWalk(Store &store) : m_store(store) {}
+
+  void take(const QString &key) {
+    const int row = rowAtEnd(key, RowLength);
+    auto &participant = m_store.Teilnehmer[row];
+    m_store.RangListe[++m_line] = row;
+    readAthlete(m_store, participant);
+    if (const int group = groupOf(key); group != m_group)
+      startGroup(group, participant);
+    takeBestTime(participant);
+    setPlace(participant);
+    if (participant.KlasseKopf == 1)
+      m_store.ErgebnisZeilen << QString() << headLine();
+    m_store.ErgebnisZeilen << resultLine(participant);
+  }
+
+private:
+  void startGroup(int group, TeilnehmerZeile &participant) {
+    m_group = group;
+    m_place = 0;
+    m_lastRang = 1;
+    m_lastTime = -1;
+    participant.KlasseKopf = 1;
+  }
+
+  void takeBestTime(const TeilnehmerZeile &participant) {
+    if (participant.KlasseNr - 1 < m_store.Rennen.BestzeitAbKlasse)
+      return;
+    if (m_store.Laeufer.Geschlecht == 0)
+      m_store.BestzeitDamen = std::min(m_store.BestzeitDamen, participant.WertSumme);
+    if (m_store.Laeufer.Geschlecht == 1)
+      m_store.BestzeitHerren = std::min(m_store.BestzeitHerren, participant.WertSumme);
+  }
+
+  // A shared place is decided by the first run alone, also with two runs and with points; this is meant.
+  void setPlace(TeilnehmerZeile &participant) {
+    ++m_place;
+    participant.Rang = qint16(participant.WertZeit1 == m_lastTime ? m_lastRang : m_place);
+    m_lastTime = participant.WertZeit1;
+    m_lastRang = participant.Rang;
+    if (m_place == 1)
+      m_bestOfGroup = participant.WertSumme;
+  }
+
+  QString headLine() const {
+    return m_store.Rennen.ZweiDurchgaenge == 1
+               ? QStringLiteral("Rang--Name------------------Startnr.-Klasse----------Zeit1----Zeit2----Summe----Diff.")
+               : QStringLiteral("Rang--Name------------------Startnr.-Klasse-----------Zeit----Diff.");
+  }
+
+  // The running count stands here, not the shared place; this is meant.
+  QString resultLine(const TeilnehmerZeile &participant) const {
+    const QString &klasse = m_store.Rennen.WertKlassen == 1 ? m_store.KlasseGenauName[participant.KlasseGenau]
+                                                            : m_store.GruppeName[participant.GruppeNr];
+    return rightAligned(plainText(m_place), 4) + QStringLiteral(". ") + padded(m_store.Laeufer.Name, 25) +
+           rightAligned(plainText(participant.StartNr), 5) + QLatin1Char(' ') + padded(klasse, 12) + QLatin1Char(' ') +
+           values(participant);
+  }
+
+  QString values(const TeilnehmerZeile &participant) const {
+    if (m_store.Rennen.WertZeit != 1)
+      return masked(participant.Punkte, ValueMask);
+    const QLatin1Char gap(' ');
+    QString runs;
+    if (m_store.Rennen.ZweiDurchgaenge == 1)
+      runs = WertText8(participant.WertZeit1) + gap + WertText8(participant.WertZeit2) + gap;
+    return runs + WertText8(participant.WertSumme) + gap + WertText8(participant.WertSumme - m_bestOfGroup);
+  }
+
+  Store &m_store;
+  int m_line = 0, m_group = -1, m_place = 0, m_lastRang = -1;
+  double m_lastTime = -1, m_bestOfGroup = 0;
+};
+
+void resetPlaces(Store &store) {
+  store.RangListe.fill(0);
+  for (int row = 1; row <= 1000; ++row)
+    store.Teilnehmer[row].Rang = 0;
+  store.BestzeitDamen = store.BestzeitHerren = NoBestTime;
+}
+
+// The last time is not reset at a new group, and a group that begins with it begins with place 1 all the same; meant.
+void walkFirstRun(Store &store, const QStringList &keys) {
+  int line = 0, lastGroup = -1, place = 0;
+  double lastTime = 0;
+  for (const QString &key : keys) {
+    const int row = rowAtEnd(key, RowLength);
+    auto &participant = store.Teilnehmer[row];
+    store.RangListe[++line] = row;
+    readAthlete(store, participant);
+    if (const int group = groupOf(key); group != lastGroup) {
+      lastGroup = group;
+      place = 0;
+    }
+    if (participant.WertZeit1 != lastTime)
+      ++place;
+    lastTime = participant.WertZeit1;
+    place = std::max(place, 1);
+    participant.Rang = qint16(place);
+  }
+}
+
+} // namespace
+
+void ErgebnisRechnen(Store &store, std::optional<int> clubFilter) {
+  store.ErgebnisZeilen.clear();
+  SortedLines keys;
+  const bool secondTimesExist = anySecondTime(store);
+  for (int row = 1; row <= 1000; ++row) {
+    auto &participant = store.Teilnehmer[row];
+    clearValues(participant);
+    if (!isRanked(store, participant, secondTimesExist, clubFilter))
+      continue;
+    setValues(store, participant);
+    keys.add(rankKey(store, row, participant.WertSumme));
+  }
+  resetPlaces(store);
+  ResultWalk walk(store);
+  for (const QString &key : keys.take())
+    walk.take(key);
+}
+
+void Rangfolge1(Store &store) {
+  SortedLines keys;
+  for (int row = 1; row <= 1000; ++row) {
+    auto &participant = store.Teilnehmer[row];
+    participant.WertZeit1 = 0;
+    if (participant.Status1 > 0 || !readAthlete(store, participant))
+      continue;
+    participant.WertZeit1 = withSurcharges(store, participant, participant.Zeit1);
+    keys.add(rankKey(store, row, participant.WertZeit1));
+  }
+  store.ErgebnisZeilen.clear();
+  store.BestzeitDamen = NoBestTime;
+  store.BestzeitHerren = NoBestTimeFirstRun;
+  walkFirstRun(store, keys.take());
+}
+
+QString secondRunKey(const TeilnehmerZeile &participant) {
+  const double time = participant.WertZeit1;
+  return masked(participant.Rang <= ReversedPlaces ? ReversalPoint - time : ReversalPoint + time, ValueMask);
+}
+
+QString Reihungsschluessel(const Store &store, const TeilnehmerZeile &participant) {
+  return masked(store.Rennen.WertKlassen == 1 ? participant.KlasseReihe : participant.GruppeNr, "0##");
+}
+
+bool readAthlete(Store &store, const TeilnehmerZeile &participant) {
+  if (participant.LaeuferNr == 0)
+    return false;
+  store.LaeuferIdx = participant.LaeuferNr;
+  LaeuferLesen(store);
+  return !store.Laeufer.Name.isEmpty();
+}

@@ -1,0 +1,157 @@
+#include "platform/Dates.h"
+#include "platform/Faults.h"
+#include "support/TestStore.h"
+
+namespace {
+
+class RecordFiles : public testing::Test {
+protected:
+  // A record of numbered bytes, so that every field and its place show.
+  static QByteArray pattern(int length) {
+    QByteArray bytes(length, ' ');
+    for (int i = 0; i < length; ++i)
+      bytes[i] = char('A' + i % 50);
+    return bytes;
+  }
+
+  TestStore test;
+  Store &store = test.store;
+};
+
+} // namespace
+
+TEST_F(RecordFiles, EveryByteSurvivesReadingAndWriting) {
+  const QByteArray verein = pattern(VereinLaenge).replace(554, 4, QByteArray("\x00\x1a\x81\xff", 4));
+  QByteArray laeufer = pattern(LaeuferLaenge).replace(0, 80, QByteArray("\xc4NGSTL \x80uro").leftJustified(80));
+  laeufer.replace(82, 4, QByteArray(4, '\0')).replace(80, 2, QByteArray("\x01\x00", 2));
+  laeufer.replace(94, 2, QByteArray("\x01\x00", 2));
+  QByteArray rennen = pattern(RennenLaenge).replace(363, 1, QByteArray("\x11"));
+  test.writeFile(QStringLiteral("Verein.rec"), verein);
+  test.writeFile(QStringLiteral("Laeufer.rec"), laeufer);
+  test.writeFile(QStringLiteral("Rennen.rec"), rennen);
+  store.VereinAnzahl = store.LaeuferAnzahl = store.RennenAnzahl = 1;
+  store.VereinIdx = store.LaeuferIdx = store.RennenIdx = 1;
+  alleDateienOeffnen(store);
+  VereinLesen(store);
+  LaeuferLesen(store);
+  RennenLesen(store);
+  VereinSchreiben(store);
+  LaeuferSchreiben(store);
+  RennenSchreiben(store);
+  EXPECT_EQ(test.file(QStringLiteral("Verein.rec")), verein);
+  EXPECT_EQ(test.file(QStringLiteral("Laeufer.rec")), laeufer);
+  EXPECT_EQ(test.file(QStringLiteral("Rennen.rec")), rennen);
+}
+
+TEST_F(RecordFiles, FieldsLieWhereTheyAreTold) {
+  test.addClub(QString(81, QLatin1Char('x')));
+  test.addAthlete(QStringLiteral("MÜLLER Änne"), 2005, 1, 1);
+  store.Rennen.Sponsor6 = QStringLiteral("letzter");
+  store.Rennen.Startzeit = QStringLiteral("10:30");
+  store.Rennen.WertBoarder = 1;
+  store.RennenIdx = 1;
+  RennenSchreiben(store);
+  const QByteArray verein = test.file(QStringLiteral("Verein.rec"));
+  EXPECT_EQ(verein.size(), 798);
+  EXPECT_EQ(verein.mid(79, 2), "xx"); // cut at 80, then the short name
+  const QByteArray laeufer = test.file(QStringLiteral("Laeufer.rec"));
+  EXPECT_EQ(laeufer.left(12), "M\xdcLLER \xc4nne ");
+  EXPECT_EQ(laeufer.mid(80, 2), QByteArray("\x01\x00", 2));
+  EXPECT_EQ(laeufer.mid(86, 8).toHex(), "00000000c0d0e240"); // 1 July 2005 = 38534.0
+  const QByteArray rennen = test.file(QStringLiteral("Rennen.rec"));
+  EXPECT_EQ(rennen.mid(362, 7), QByteArray("\x01\x00", 2) + "10:30");
+  EXPECT_EQ(rennen.mid(723, 8), "letzter ");
+}
+
+TEST_F(RecordFiles, ReadingHoldsValuesInRange) {
+  test.addClub(QStringLiteral("SK"));
+  const struct { qint16 sex, expected; } cases[] = {{5, 2}, {-1, 0}, {1, 1}};
+  for (const auto &c : cases) {
+    store.LaeuferIdx = 1;
+    store.Laeufer.Geschlecht = c.sex;
+    store.Laeufer.Verein2 = 12;
+    LaeuferSchreiben(store);
+    LaeuferLesen(store);
+    EXPECT_EQ(store.Laeufer.Geschlecht, c.expected);
+    EXPECT_EQ(store.Laeufer.Verein2, 0);
+  }
+  store.RennenIdx = 1;
+  store.Rennen.BestzeitAbKlasse = 18;
+  RennenSchreiben(store);
+  RennenLesen(store);
+  EXPECT_EQ(store.Rennen.BestzeitAbKlasse, 0);
+}
+
+TEST_F(RecordFiles, OutsideTheRangeABeepAndAnEmptyName) {
+  test.addClub(QStringLiteral("SK"));
+  test.addAthlete(QStringLiteral("A"), 2001, 0, 1);
+  store.VereinIdx = 2;
+  VereinLesen(store);
+  EXPECT_EQ(store.Verein.VereinKurz, QStringLiteral("SK"));
+  EXPECT_EQ(store.Verein.VereinName, QString());
+  store.VereinIdx = 0;
+  VereinLesen(store);
+  EXPECT_EQ(store.Verein.VereinKurz, QString());
+  store.LaeuferIdx = 2;
+  LaeuferLesen(store);
+  EXPECT_EQ(store.Laeufer.Name, QString());
+  EXPECT_EQ(store.Laeufer.Verein1, 1); // the other fields are still those of the athlete before
+  EXPECT_EQ(test.beeps, 3);
+}
+
+TEST_F(RecordFiles, NewRaceInheritsTheCriteriaAndNothingElse) {
+  test.addRace(QStringLiteral("Erstes"));
+  store.Rennen.ZweiDurchgaenge = 1;
+  store.Rennen.UrkundeBild = 5;
+  store.Rennen.ZuschlagGast = 3;
+  RennenLeeren(store);
+  EXPECT_EQ(store.Rennen.ZweiDurchgaenge, 1);
+  EXPECT_EQ(store.Rennen.UrkundeBild, 5);
+  EXPECT_EQ(store.Rennen.ZuschlagGast, 0);
+  EXPECT_EQ(store.Rennen.RennenName, QString());
+  EXPECT_EQ(fromDays(store.Rennen.RennenDatum), QDate(2005, 7, 20));
+}
+
+TEST_F(RecordFiles, WritesBelowOneFaultButForAthletes) {
+  store.VereinIdx = store.LaeuferIdx = store.RennenIdx = 0;
+  LaeuferSchreiben(store);
+  EXPECT_EQ(test.file(QStringLiteral("Laeufer.rec")), QByteArray());
+  EXPECT_THROW(VereinSchreiben(store), FileFault);
+  EXPECT_THROW(RennenSchreiben(store), FileFault);
+}
+
+TEST_F(RecordFiles, RecordNotYetWrittenReadsAsEmptyAndAGapAsZeros) {
+  store.LaeuferAnzahl = store.LaeuferIdx = 1;
+  LaeuferLesen(store);
+  EXPECT_EQ(store.Laeufer.Geschlecht, 2);
+  EXPECT_EQ(test.beeps, 0);
+  store.LaeuferIdx = 3;
+  LaeuferSchreiben(store);
+  store.LaeuferIdx = 2;
+  LaeuferLesen(store);
+  EXPECT_EQ(store.Laeufer.Name, QString(80, QChar(0)));
+  EXPECT_EQ(LaeuferListeFuellen(store).size(), 2); // the gap counts as named
+}
+
+TEST_F(RecordFiles, CountsAreWrittenWhenTheLastRecordChanges) {
+  store.VextReserve = 9;
+  test.addAthlete(QStringLiteral("A"), 2001, 0);
+  test.addAthlete(QStringLiteral("B"), 2001, 0);
+  EXPECT_EQ(test.file(QStringLiteral("Vext.dat")), " 2 \r\n 0 \r\n 0 \r\n 9 \r\n");
+  QFile::remove(store.DatenOrdner + QStringLiteral("Vext.dat"));
+  store.LaeuferIdx = 1;
+  LaeuferSchreiben(store);
+  EXPECT_FALSE(test.hasFile(QStringLiteral("Vext.dat")));
+  store.LaeuferIdx = 2;
+  LaeuferSchreiben(store);
+  EXPECT_TRUE(test.hasFile(QStringLiteral("Vext.dat")));
+}
+
+TEST_F(RecordFiles, ListsAreInGermanOrderWithTheNumberAtTheEnd) {
+  for (const char *name : {"Zeller", "öhler", "OHLER", "", "Öhler"})
+    test.addAthlete(QString::fromUtf8(name), 2001, 0);
+  EXPECT_EQ(LaeuferListeFuellen(store),
+            QStringList({QStringLiteral("öhler        2"), QStringLiteral("OHLER        3"),
+                         QStringLiteral("Öhler        5"), QStringLiteral("Zeller        1")}));
+  EXPECT_EQ(store.LaeuferIdx, 5);
+}

@@ -1,0 +1,40 @@
+#include "core/ValueFormats.h"
+
+#include "support/Print.h"
+
+#include <gtest/gtest.h>
+
+TEST(ValueFormats, TimesAsPrinted) {
+  const struct {
+    double seconds;
+    const char *text;
+  } cases[] = {{3725.5, "1:02:05,50"}, {7.4, "7,40"},           {0.4, ",40"},           {0, ",00"},
+               {63.4, "1:03,40"},      {59.996, "60,00"},       {119.996, "1:60,00"},   {63.4549999, "1:03,45"},
+               {-5, "-1:59:55,00"},    {59.999999999, "60,00"}, {36000, "10:00:00,00"}, {63.455, "1:03,46"}};
+  for (const auto &c : cases)
+    EXPECT_EQ(ZeitText(c.seconds), QString::fromUtf8(c.text)) << c.seconds;
+}
+
+TEST(ValueFormats, SecondsAreKeptToTheThousandth) {
+  const ZeitTeile parts = ZeitZerlegen(59.999);
+  EXPECT_EQ(parts.ZeitMin, 0);
+  EXPECT_DOUBLE_EQ(parts.ZeitSek, 59.999);
+}
+
+TEST(ValueFormats, TypedTimes) {
+  const struct {
+    const char *typed, *stored;
+  } cases[] = {{"12.5", "12,5"}, {"", "0"}, {"   ", "0"}, {" 63,45 ", "63,45"}, {"1.234.5", "1,234.5"}};
+  for (const auto &c : cases)
+    EXPECT_EQ(KommaEingabe(QString::fromUtf8(c.typed)), QString::fromUtf8(c.stored));
+}
+
+TEST(ValueFormats, ValuesInColumns) {
+  EXPECT_EQ(WertText8(12.5), QStringLiteral("   12,50"));
+  EXPECT_EQ(WertText10(12.5), QStringLiteral("     12,50"));
+  EXPECT_EQ(WertText8(0.5), QStringLiteral("    0,50"));
+  EXPECT_EQ(WertText8(0), QStringLiteral("    0,00"));
+  EXPECT_EQ(WertText10(0), QStringLiteral("     0,00")); // one character short, since only six blanks stand in front
+  EXPECT_EQ(WertText8(-0.5), QStringLiteral("    -,50"));
+  EXPECT_EQ(WertText8(1234567.89), QStringLiteral("34567,89"));
+}
