@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFontMetrics>
+#include <QFrame>
 #include <QLibraryInfo>
 #include <QLineEdit>
 #include <QPushButton>
@@ -72,9 +73,27 @@ void setQuiet(QWidget *widget) {
   widget->setPalette(palette);
 }
 
+// A plain frame is a white card on the pale ground of the screen. The colour goes into the palette: a background role
+// of Base would make the labels inside take their letters from another role than the one they are coloured by.
+void setCard(QWidget *widget) {
+  const auto *frame = qobject_cast<QFrame *>(widget);
+  if (!frame || frame->metaObject() != &QFrame::staticMetaObject || frame->frameShape() != QFrame::StyledPanel)
+    return;
+  QPalette palette = widget->palette();
+  palette.setColor(QPalette::Window, palette.color(QPalette::Base));
+  widget->setPalette(palette);
+  widget->setAutoFillBackground(true);
+}
+
 } // namespace
 
+// The pictures lie in a static library; only a call makes the linker keep them. It must stand outside every namespace.
+static void keepPictures() {
+  Q_INIT_RESOURCE(assets);
+}
+
 void Look::apply(QApplication &application) {
+  keepPictures();
   QApplication::setStyle(QStringLiteral("Fusion"));
   QPalette palette = QApplication::palette();
   setColors(palette);
@@ -94,6 +113,7 @@ void Look::applyProperties(QWidget *screen) {
     setWidth(widget);
     setHeight(widget);
     setQuiet(widget);
+    setCard(widget);
   }
 }
 
