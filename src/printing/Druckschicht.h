@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/print/Recording.h"
+#include "platform/print/Printers.h"
 
 #include <QHash>
 
@@ -31,6 +31,8 @@ public:
   using Sink = std::function<void(const Recording &)>;
 
   explicit Druckschicht(Sink sink) : m_sink(std::move(sink)) {}
+  /// Prints on the current printer.
+  explicit Druckschicht(Printers &printers) : m_sink([&printers](const Recording &done) { printers.print(done); }) {}
 
   /// The only scale there is; each document states it.
   Scale ScaleMode = Scale::Millimetres;

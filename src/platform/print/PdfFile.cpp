@@ -55,3 +55,8 @@ QString writePdf(const QString &folder, const QDateTime &when, const Recording &
   }
   return path;
 }
+
+Printer pdfPrinter(const QString &folder, std::function<QDateTime()> now) {
+  return {QStringLiteral("PDF-Datei"),
+          [folder, now = std::move(now)](const Recording &recording) { return writePdf(folder, now(), recording); }};
+}

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/print/Recording.h"
+#include "platform/print/Printers.h"
 
 #include <QDateTime>
 
@@ -10,3 +10,5 @@ QByteArray pdfOf(const Recording &recording);
 /// number, name of the document, date and time. No file is written over; a failure is a FileFault and leaves no cut-off
 /// file behind.
 QString writePdf(const QString &folder, const QDateTime &when, const Recording &recording);
+/// The printer "PDF-Datei", which writes such files.
+Printer pdfPrinter(const QString &folder, std::function<QDateTime()> now);

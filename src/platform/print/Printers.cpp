@@ -31,14 +31,16 @@ QString Printers::DeviceName() {
 }
 
 void Printers::print(const Recording &recording) {
-  printOn(current(), recording);
+  print(recording, current());
 }
 
-void printOn(const Printer &printer, const Recording &recording) {
+void Printers::print(const Recording &recording, const Printer &printer) {
   try {
     if (!printer.print)
       throw Fault(QStringLiteral("Es gibt keinen Drucker."));
-    printer.print(recording);
+    const QString file = printer.print(recording);
+    if (!file.isEmpty())
+      m_lastFile = file;
   } catch (const Fault &fault) {
     throw PrintFault(QStringLiteral("\"%1\" wurde nicht gedruckt. ").arg(recording.name) + fault.report());
   }

@@ -11,10 +11,11 @@ public:
   using Fault::Fault;
 };
 
-/// A printer. `print` takes a finished document; a failure is a Fault.
+/// A printer. `print` takes a finished document and gives the path of the file that it wrote, empty if it wrote none; a
+/// failure is a Fault.
 struct Printer {
   QString DeviceName;
-  std::function<void(const Recording &)> print;
+  std::function<QString(const Recording &)> print;
 };
 
 /// What the system knows of printers; `standard` is the name of its default one, empty = none.
@@ -38,8 +39,11 @@ public:
   /// Name of the current printer; empty without any.
   QString DeviceName();
   void makeCurrent(const Printer &printer) { m_current = printer; }
-  /// Prints on the current printer. A failure is a PrintFault.
+  /// Prints on the current printer, or on `printer`. A failure is a PrintFault.
   void print(const Recording &recording);
+  void print(const Recording &recording, const Printer &printer);
+  /// Path of the file written last in this run; empty if there is none.
+  const QString &lastFile() const { return m_lastFile; }
 
 private:
   const Printer &current();
@@ -47,7 +51,5 @@ private:
   std::function<SystemPrinters()> m_system;
   QList<Printer> m_own, m_all;
   Printer m_current;
+  QString m_lastFile;
 };
-
-/// Prints on one printer; a failure is a PrintFault.
-void printOn(const Printer &printer, const Recording &recording);

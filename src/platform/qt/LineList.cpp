@@ -15,6 +15,7 @@ namespace {
 
 constexpr int NumberLength = 6;
 constexpr int GapBeforeNumber = 5;
+constexpr int GoodHeight = 22; // lines
 
 /// Where the trailing number of a line begins; nothing if the line has none.
 std::optional<qsizetype> numberStart(const QString &line) {
@@ -27,7 +28,7 @@ std::optional<qsizetype> numberStart(const QString &line) {
   return start;
 }
 
-/// Draws the number at the end of a line pale at the right edge.
+/// Draws the number at the end of a line pale at the right edge, if there is room.
 class LineDelegate : public QStyledItemDelegate {
 public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -39,6 +40,8 @@ public:
     if (!start)
       return;
     const QRect area = option.rect.adjusted(0, 0, -6, 0);
+    if (option.fontMetrics.horizontalAdvance(trimmedBlanks(line.left(*start)) + line.mid(*start - 1)) > area.width())
+      return;
     const bool chosen = option.state.testFlag(QStyle::State_Selected);
     painter->setFont(option.font);
     painter->setPen(option.palette.color(chosen ? QPalette::HighlightedText : QPalette::PlaceholderText));
@@ -107,6 +110,10 @@ int LineList::lineOfNumber(int number) const {
   return found == lines().end() ? -1 : int(found - lines().begin());
 }
 
+QSize LineList::sizeHint() const {
+  return {QListView::sizeHint().width(), GoodHeight * fontMetrics().height()};
+}
+
 void LineList::currentChanged(const QModelIndex &current, const QModelIndex &previous) {
   QListView::currentChanged(current, previous);
   if (!m_byCode && current.isValid())
@@ -129,7 +136,8 @@ QModelIndex LineList::aimedAt(QPoint at) {
   const int line = height > 0 ? (at.y() + verticalOffset()) / height : -1;
   if (line < 0 || line >= before.size())
     return {};
-  return m_model.index(lineOfNumber(rowAtEnd(before[line], NumberLength)));
+  const bool numbered = before[line].back().isDigit(); // other lines are known by their position alone
+  return m_model.index(numbered ? lineOfNumber(rowAtEnd(before[line], NumberLength)) : line);
 }
 
 void LineList::mousePressEvent(QMouseEvent *event) {

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFontMetrics>
+#include <QFrame>
 #include <QLibraryInfo>
 #include <QLineEdit>
 #include <QPushButton>
@@ -61,8 +62,21 @@ void setQuiet(QWidget *widget) {
   if (!widget->property("leise").toBool())
     return;
   QPalette palette = widget->palette();
-  palette.setColor(QPalette::WindowText, palette.color(QPalette::PlaceholderText));
+  for (const auto role : {QPalette::WindowText, QPalette::Text}) // on a card a label takes the second
+    palette.setColor(role, palette.color(QPalette::PlaceholderText));
   widget->setPalette(palette);
+}
+
+// A plain frame is a white card on the pale ground of the screen. The colour goes into the palette: a background role
+// of Base would make the labels inside take their letters from another role than the one they are coloured by.
+void setCard(QWidget *widget) {
+  const auto *frame = qobject_cast<QFrame *>(widget);
+  if (!frame || frame->metaObject() != &QFrame::staticMetaObject || frame->frameShape() != QFrame::StyledPanel)
+    return;
+  QPalette palette = widget->palette();
+  palette.setColor(QPalette::Window, palette.color(QPalette::Base));
+  widget->setPalette(palette);
+  widget->setAutoFillBackground(true);
 }
 
 } // namespace
@@ -87,6 +101,7 @@ void Look::applyProperties(QWidget *screen) {
     setWidth(widget);
     setHeight(widget);
     setQuiet(widget);
+    setCard(widget);
   }
 }
 

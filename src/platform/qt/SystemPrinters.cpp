@@ -7,16 +7,24 @@
 
 namespace {
 
+[[noreturn]] void refuse(const QString &deviceName) {
+  throw Fault(QStringLiteral("Der Drucker \"%1\" nimmt den Ausdruck nicht an.").arg(deviceName));
+}
+
 // The sheet is always A4 and never scaled; the margins of the driver play no part.
-void printOnPaper(const QString &deviceName, const Recording &recording) {
-  QPrinter device(QPrinterInfo::printerInfo(deviceName), QPrinter::HighResolution);
+QString printOnPaper(const QString &deviceName, const Recording &recording) {
+  const QPrinterInfo info = QPrinterInfo::printerInfo(deviceName);
+  if (info.isNull())
+    refuse(deviceName);
+  QPrinter device(info, QPrinter::HighResolution);
   device.setResolution(1440);
   device.setFullPage(true);
   device.setPageLayout(pageLayout(recording));
   device.setDocName(recording.name);
   device.setCreator(QStringLiteral("VEXT"));
-  if (!device.isValid() || !play(recording, device) || device.printerState() == QPrinter::Error)
-    throw Fault(QStringLiteral("Der Drucker \"%1\" nimmt den Ausdruck nicht an.").arg(deviceName));
+  if (!play(recording, device) || device.printerState() == QPrinter::Error)
+    refuse(deviceName);
+  return {};
 }
 
 } // namespace
@@ -24,7 +32,7 @@ void printOnPaper(const QString &deviceName, const Recording &recording) {
 SystemPrinters systemPrinters() {
   SystemPrinters result;
   for (const QString &name : QPrinterInfo::availablePrinterNames())
-    result.printers.append({name, [name](const Recording &recording) { printOnPaper(name, recording); }});
+    result.printers.append({name, [name](const Recording &recording) { return printOnPaper(name, recording); }});
   result.standard = QPrinterInfo::defaultPrinterName();
   return result;
 }
