@@ -81,7 +81,13 @@ void setCard(QWidget *widget) {
 
 } // namespace
 
+// The pictures lie in a static library; only a call makes the linker keep them. It must stand outside every namespace.
+static void keepPictures() {
+  Q_INIT_RESOURCE(assets);
+}
+
 void Look::apply(QApplication &application) {
+  keepPictures();
   QApplication::setStyle(QStringLiteral("Fusion"));
   QPalette palette = QApplication::palette();
   setColors(palette);
