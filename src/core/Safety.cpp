@@ -77,16 +77,17 @@ Safety::Safety(Store &store)
 // with the lock shows when the first copy is written.
 std::optional<Safety::Rescue> Safety::findRescue() {
   QDir().mkpath(m_folder);
-  m_alone = m_lock.tryLock() || m_lock.error() != QLockFile::LockFailedError;
-  if (!m_alone)
-    return {};
-  const auto found = m_running.newest();
-  if (!found || !holdsNews(found->image, found->folder, m_store)) {
-    m_running.clear();
+  if (!m_lock.tryLock() && m_lock.error() == QLockFile::LockFailedError) {
+    stopRunning(QStringLiteral("VEXT läuft in diesem Ordner schon einmal."));
     return {};
   }
-  const QString folder = putIntoRescue(*found);
-  return Rescue{found->image, folder, offerText(*found, folder)};
+  try {
+    return lastRun();
+  } catch (const Fault &fault) {
+    stopRunning(
+        QStringLiteral("Was beim letzten Mal zu retten war, liegt in \"%1\". %2").arg(m_folder, fault.report()));
+    return {};
+  }
 }
 
 void Safety::takeOver(const Rescue &rescue) {
@@ -100,8 +101,6 @@ void Safety::settle() {
 void Safety::start() {
   m_store.vorDemSpeichern = [this] { tick(); };
   m_store.nachDemSpeichern = [this] { m_copySoon.start(0ms); };
-  if (!m_alone)
-    m_runningTrouble = QStringLiteral("VEXT läuft in diesem Ordner schon einmal; hier wird nicht laufend gesichert.");
   m_ticks.start();
   m_copySoon.start(CopyDelay);
   tell();
@@ -111,7 +110,7 @@ void Safety::finish() {
   m_ticks.stop();
   if (m_copySoon.isActive())
     copyAll();
-  if (m_alone)
+  if (m_active)
     m_running.clear();
   m_lock.unlock();
 }
@@ -120,6 +119,7 @@ QString Safety::rescue() noexcept {
   try {
     m_ticks.stop();
     m_copySoon.stop();
+    hint = [](const QString &) {};
     const auto image = raceImage(m_store);
     return image ? rescueImage(*image) : QStringLiteral("Es war keine Veranstaltung geöffnet; zu sichern war nichts.");
   } catch (const std::exception &e) {
@@ -128,7 +128,7 @@ QString Safety::rescue() noexcept {
 }
 
 void Safety::tick() {
-  if (!m_alone)
+  if (!m_active)
     return;
   try {
     if (const auto image = raceImage(m_store))
@@ -149,6 +149,21 @@ void Safety::copyAll() {
     m_copyTrouble = QStringLiteral("Die Sicherungskopie ist nicht gelungen. ") + QString::fromUtf8(e.what());
   }
   tell();
+}
+
+std::optional<Safety::Rescue> Safety::lastRun() {
+  const auto found = m_running.newest();
+  if (!found || !holdsNews(found->image, found->folder, m_store)) {
+    m_running.clear();
+    return {};
+  }
+  const QString folder = putIntoRescue(*found);
+  return Rescue{found->image, folder, offerText(*found, folder)};
+}
+
+void Safety::stopRunning(const QString &reason) {
+  m_active = false;
+  m_runningTrouble = reason + QStringLiteral(" Laufend gesichert wird jetzt nicht.");
 }
 
 QString Safety::rescueFolder(const QString &parent) const {
@@ -179,7 +194,7 @@ QString Safety::putIntoRescue(const RunningCopy::Found &found) {
 // The running copy is renewed first, so that one whole copy stands even if the data folder takes nothing.
 QString Safety::rescueImage(const RaceImage &image) {
   tick();
-  const bool copied = m_alone && m_runningTrouble.isEmpty();
+  const bool copied = m_active && m_runningTrouble.isEmpty();
   const QString folder = rescueFolder(m_dataFolder);
   try {
     writeImage(image, folder);
@@ -194,7 +209,7 @@ QString Safety::rescueImage(const RaceImage &image) {
   }
   if (copied)
     m_running.markRescued(folder);
-  else if (m_alone)
+  else if (m_active)
     m_running.clear();
   return QStringLiteral("Alle Eingaben der Veranstaltung %1 sind gesichert in dem Ordner\n%2\nin den Dateien %3. Was "
                         "davon nicht in den Dateien der Veranstaltung steht, bietet VEXT beim nächsten Start an.")

@@ -37,7 +37,7 @@ public:
   /// A clean end: no rescue will be offered.
   void finish();
   /// At a fault: puts the open race into a folder "Rettung …" at once and says in German what lies where. Stops the
-  /// timers; never throws.
+  /// timers and the lines for the menu; never throws.
   QString rescue() noexcept;
 
   /// Renews the running copy if the open race has changed since; called by the timer.
@@ -49,6 +49,8 @@ public:
   std::function<void(const QString &)> hint = [](const QString &) {};
 
 private:
+  std::optional<Rescue> lastRun();
+  void stopRunning(const QString &reason);
   QString rescueFolder(const QString &parent) const;
   QString putIntoRescue(const RunningCopy::Found &found);
   QString rescueImage(const RaceImage &image);
@@ -59,7 +61,8 @@ private:
   RunningCopy m_running;
   SafetyCopies m_copies;
   QLockFile m_lock;
-  bool m_alone = true;
+  /// Whether the running copy is this run's to write.
+  bool m_active = true;
   QTimer m_ticks, m_copySoon;
   QString m_runningTrouble, m_copyTrouble, m_told;
 };
