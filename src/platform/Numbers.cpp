@@ -130,6 +130,10 @@ QString trimmedBlanks(QStringView text) {
   return text.toString();
 }
 
+QString shownText(QString text) {
+  return text.remove(QChar(u'\0'));
+}
+
 QString padded(const QString &text, int width) {
   return text.left(width).leftJustified(width);
 }

@@ -129,7 +129,8 @@ QModelIndex LineList::aimedAt(QPoint at) {
   const int line = height > 0 ? (at.y() + verticalOffset()) / height : -1;
   if (line < 0 || line >= before.size())
     return {};
-  return m_model.index(lineOfNumber(rowAtEnd(before[line], NumberLength)));
+  const bool numbered = before[line].back().isDigit(); // other lines are known by their position alone
+  return m_model.index(numbered ? lineOfNumber(rowAtEnd(before[line], NumberLength)) : line);
 }
 
 void LineList::mousePressEvent(QMouseEvent *event) {
