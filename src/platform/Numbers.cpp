@@ -85,6 +85,11 @@ qint64 wholeNumber(QStringView text) {
   return qint64(std::nearbyint(std::clamp(leadingNumber(text), -WholeLimit, WholeLimit)));
 }
 
+std::optional<qint16> shortNumber(QStringView text) {
+  const qint64 number = wholeNumber(text);
+  return number == qint16(number) ? std::optional(qint16(number)) : std::nullopt;
+}
+
 int rowAtEnd(QStringView line, int length) {
   return int(wholeNumber(line.right(length)));
 }

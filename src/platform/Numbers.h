@@ -12,6 +12,8 @@
 double leadingNumber(QStringView text);
 /// The leading number as a whole one, halves to even ("12.5" is 12, "13.5" is 14). Any size; held to ±10^15.
 qint64 wholeNumber(QStringView text);
+/// The same where a field is 16-bit; nothing if the number is outside −32768 to 32767.
+std::optional<qint16> shortNumber(QStringView text);
 /// The number at the end of a list line: the leading number of its last `length` characters.
 int rowAtEnd(QStringView line, int length);
 /// Decimal comma, optional exponent ("1E+15"), blanks around; nothing if the text is anything else, or empty.

@@ -89,6 +89,13 @@ void LineList::fill(QStringList lines) {
   verticalScrollBar()->setValue(scrolled);
 }
 
+void LineList::refill(QStringList lines, int number) {
+  setAutoScroll(false);
+  fill(std::move(lines));
+  chooseByNumber(number);
+  setAutoScroll(true);
+}
+
 void LineList::choose(int line) {
   m_byCode = true;
   setCurrentIndex(line < 0 ? QModelIndex() : m_model.index(line));

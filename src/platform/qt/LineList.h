@@ -28,6 +28,8 @@ public:
 
   /// Sets the lines anew: nothing is chosen, the scroll position is kept.
   void fill(QStringList lines);
+  /// The same with the line that ends in `number` highlighted, without scrolling to it.
+  void refill(QStringList lines, int number);
   /// Highlights a line (from 0; −1 = none) without `chosen`, and scrolls to it.
   void choose(int line);
   /// Highlights the line that ends in `number`; none if there is none.
