@@ -15,6 +15,7 @@ namespace {
 
 constexpr int NumberLength = 6;
 constexpr int GapBeforeNumber = 5;
+constexpr int GoodHeight = 22; // lines
 
 /// Where the trailing number of a line begins; nothing if the line has none.
 std::optional<qsizetype> numberStart(const QString &line) {
@@ -27,7 +28,7 @@ std::optional<qsizetype> numberStart(const QString &line) {
   return start;
 }
 
-/// Draws the number at the end of a line pale at the right edge.
+/// Draws the number at the end of a line pale at the right edge, if there is room.
 class LineDelegate : public QStyledItemDelegate {
 public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -39,6 +40,8 @@ public:
     if (!start)
       return;
     const QRect area = option.rect.adjusted(0, 0, -6, 0);
+    if (option.fontMetrics.horizontalAdvance(trimmedBlanks(line.left(*start)) + line.mid(*start - 1)) > area.width())
+      return;
     const bool chosen = option.state.testFlag(QStyle::State_Selected);
     painter->setFont(option.font);
     painter->setPen(option.palette.color(chosen ? QPalette::HighlightedText : QPalette::PlaceholderText));
@@ -112,6 +115,10 @@ int LineList::lineOfNumber(int number) const {
   const auto found = std::find_if(lines().begin(), lines().end(),
                                   [number](const QString &line) { return rowAtEnd(line, NumberLength) == number; });
   return found == lines().end() ? -1 : int(found - lines().begin());
+}
+
+QSize LineList::sizeHint() const {
+  return {QListView::sizeHint().width(), GoodHeight * fontMetrics().height()};
 }
 
 void LineList::currentChanged(const QModelIndex &current, const QModelIndex &previous) {

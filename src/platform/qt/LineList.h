@@ -39,6 +39,7 @@ public:
   const QStringList &lines() const { return m_model.lines(); }
   /// The highlighted line, from 0; −1 = none.
   int chosenLine() const { return currentIndex().row(); }
+  QSize sizeHint() const override;
 
 Q_SIGNALS:
   /// The operator chose a line: a left press, also on the line already chosen, or keys. Never by code, never by focus.
