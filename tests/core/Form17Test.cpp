@@ -58,15 +58,4 @@ TEST_F(Form17Test, ThePressOfTheOperatorLeavesTheFieldOnce) {
   EXPECT_EQ(work.left, 1);
 }
 
-TEST_F(Form17Test, RefillingNeitherHidesItNorRestartsTheTimer) {
-  form.erinnern({QStringLiteral("1")});
-  timer->setInterval(3600000);
-  QTest::qWait(5);
-  const int remaining = timer->remainingTime();
-  form.erinnern({QStringLiteral("2"), QStringLiteral("3")});
-  EXPECT_LE(timer->remainingTime(), remaining);
-  EXPECT_EQ(list->lines().size(), 2);
-  EXPECT_TRUE(form.isVisible());
-}
-
 } // namespace

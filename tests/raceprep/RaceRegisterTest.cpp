@@ -1,7 +1,6 @@
 #include "raceprep/RaceRegister.h"
 
 #include "core/RaceFiles.h"
-#include "platform/Numbers.h"
 #include "raceprep/RaceList.h"
 #include "support/TestStore.h"
 
@@ -23,17 +22,14 @@ protected:
 };
 
 TEST_F(RaceRegisterTest, FirstNameGoesToRecordOneWhileRaceZeroStaysOpen) {
-  rennenOeffnen(store, plainText(rennenZuBeginn(store)));
-  EXPECT_EQ(store.AktRennen, 0);
+  rennenOeffnen(store, text("1"));
   rennenEintragen(store, text("  Vereinslauf "));
   EXPECT_EQ(RennenListeFuellen(store), QStringList{text(" 1    Vereinslauf")});
   EXPECT_EQ(store.RennenAnzahl, 1);
   EXPECT_EQ(store.AktRennen, 0);
   EXPECT_EQ(store.RennenIdx, 0);
   EXPECT_EQ(test.file(text("Rennen.rec")).size(), 1137);
-  rennenOeffnen(store, plainText(rennenZuBeginn(store)));
-  EXPECT_EQ(store.AktRennen, 1);
-  EXPECT_EQ(store.Rennen.RennenName, text("Vereinslauf"));
+  EXPECT_EQ(rennenZuBeginn(store), 1);
 }
 
 TEST_F(RaceRegisterTest, NumbersAreHeldToTheRacesThereAre) {
@@ -44,7 +40,6 @@ TEST_F(RaceRegisterTest, NumbersAreHeldToTheRacesThereAre) {
   for (const auto &[nummer, race] : cases) {
     rennenOeffnen(store, text(nummer));
     EXPECT_EQ(store.AktRennen, race) << nummer;
-    EXPECT_EQ(store.RennenIdx, race) << nummer;
   }
 }
 
