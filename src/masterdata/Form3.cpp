@@ -103,10 +103,11 @@ void Form3::setSex(int sex) {
   change([sex](LaeuferSatz &athlete) { athlete.Geschlecht = qint16(sex); });
 }
 
-// Qt moves between option buttons only when one is chosen; here an arrow key also makes the first choice.
+// Qt moves between option buttons only when one is chosen, and only along their row; here each arrow key goes to the
+// other one and chooses it.
 bool Form3::eventFilter(QObject *watched, QEvent *event) {
   const bool option = watched == ui->Option1 || watched == ui->Option2;
-  if (!option || !isArrow(event) || ui->Option1->isChecked() || ui->Option2->isChecked())
+  if (!option || !isArrow(event))
     return Screen::eventFilter(watched, event);
   auto *other = watched == ui->Option1 ? ui->Option2 : ui->Option1;
   other->setFocus();

@@ -138,6 +138,23 @@ void LineList::currentChanged(const QModelIndex &current, const QModelIndex &pre
 void LineList::focusInEvent(QFocusEvent *event) {
   m_aimedLines = event->reason() == Qt::MouseFocusReason ? lines() : QStringList();
   QListView::focusInEvent(event);
+  update();
+}
+
+void LineList::focusOutEvent(QFocusEvent *event) {
+  QListView::focusOutEvent(event);
+  update();
+}
+
+// A list without a chosen line shows by its frame that it has the focus.
+bool LineList::event(QEvent *event) {
+  const bool handled = QListView::event(event);
+  if (event->type() == QEvent::Paint && hasFocus()) {
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  }
+  return handled;
 }
 
 QModelIndex LineList::aimedAt(QPoint at) {
