@@ -73,12 +73,15 @@ void setQuiet(QWidget *widget) {
   widget->setPalette(palette);
 }
 
-// A plain frame is a white card on the pale ground of the screen.
+// A plain frame is a white card on the pale ground of the screen. The colour goes into the palette: a background role
+// of Base would make the labels inside take their letters from another role than the one they are coloured by.
 void setCard(QWidget *widget) {
   const auto *frame = qobject_cast<QFrame *>(widget);
   if (!frame || frame->metaObject() != &QFrame::staticMetaObject || frame->frameShape() != QFrame::StyledPanel)
     return;
-  widget->setBackgroundRole(QPalette::Base);
+  QPalette palette = widget->palette();
+  palette.setColor(QPalette::Window, palette.color(QPalette::Base));
+  widget->setPalette(palette);
   widget->setAutoFillBackground(true);
 }
 
