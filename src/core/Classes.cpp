@@ -49,3 +49,11 @@ void KlassenZuordnen(Store &store) {
         assign(store, row, k);
   }
 }
+
+void takeStandardClasses(Store &store) {
+  for (int k = 1; k <= 20; ++k) {
+    store.KlasseName[k] = store.StdKlasse[k].StdKlasseName;
+    store.KlasseVon[k] = store.StdKlasse[k].Von;
+    store.KlasseBis[k] = store.StdKlasse[k].Bis;
+  }
+}

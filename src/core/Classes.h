@@ -12,3 +12,15 @@ void KlassenZuordnen(Store &store);
 constexpr int exactClass(int klasse, int a, int b, int f) {
   return (klasse - 1) * 8 + a + 2 * b + 4 * f;
 }
+
+/// Calls `action(a, b, f)` for the eight exact classes of a class in the order of the K file and of the columns on the
+/// screen: boarder outermost, then guest, sex innermost.
+template <typename Action> void forEachExactClass(Action action) {
+  for (int f = 0; f <= 1; ++f)
+    for (int b = 0; b <= 1; ++b)
+      for (int a = 0; a <= 1; ++a)
+        action(a, b, f);
+}
+
+/// Names and years of the built-in classes into the class table, as they stand.
+void takeStandardClasses(Store &store);

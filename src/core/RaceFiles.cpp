@@ -1,5 +1,6 @@
 #include "core/RaceFiles.h"
 
+#include "core/Classes.h"
 #include "core/RecordFiles.h"
 #include "platform/Files.h"
 #include "platform/Numbers.h"
@@ -69,14 +70,6 @@ void readNames(const QString &path, Names &names) {
     file.lineInto(names[row]);
 }
 
-// The eight order numbers of a class stand with the boarder outermost and the sex innermost.
-template <typename Action> void forEachExactClass(Action action) {
-  for (int f = 0; f <= 1; ++f)
-    for (int b = 0; b <= 1; ++b)
-      for (int a = 0; a <= 1; ++a)
-        action(a, b, f);
-}
-
 void readClasses(Store &store, const QString &path) {
   TextReader file(path);
   for (int k = 1; k <= 20; ++k) {
@@ -87,14 +80,6 @@ void readClasses(Store &store, const QString &path) {
   }
   for (int row = 0; row <= 159; ++row)
     file.lineInto(store.KlasseGenauName[row]);
-}
-
-void takeStandardClasses(Store &store) {
-  for (int k = 1; k <= 20; ++k) {
-    store.KlasseName[k] = store.StdKlasse[k].StdKlasseName;
-    store.KlasseVon[k] = store.StdKlasse[k].Von;
-    store.KlasseBis[k] = store.StdKlasse[k].Bis;
-  }
 }
 
 void loadClasses(Store &store) {
@@ -157,14 +142,17 @@ QString raceFileName(const Store &store, char letter, int race) {
 }
 
 void RennDatenLaden(Store &store) {
+  store.TabellenRennen = -1;
   clearParticipants(store);
   readParticipants(store);
   readNames(raceFileName(store, 'M', store.AktRennen), store.MannschaftName);
   readNames(raceFileName(store, 'G', store.AktRennen), store.GruppeName);
   loadClasses(store);
+  store.TabellenRennen = store.AktRennen;
 }
 
 void RennDatenSpeichern(Store &store) {
+  store.TabellenRennen = store.AktRennen;
   store.umgebung.erinnern(missingAthleteData(store));
   store.vorDemSpeichern();
   for (const auto &file : raceFiles(store))
@@ -180,6 +168,13 @@ QList<RaceFile> raceFiles(const Store &store) {
     files.append({'G', nameFile(store.GruppeName)});
   files.append({'K', classFile(store)});
   return files;
+}
+
+QList<RaceFile> wholeRace(const Store &store) {
+  return {{'R', participantFile(store)},
+          {'M', nameFile(store.MannschaftName)},
+          {'G', nameFile(store.GruppeName)},
+          {'K', classFile(store)}};
 }
 
 QByteArray participantFile(const Store &store) {

@@ -97,6 +97,8 @@ struct Store {
 
   // The open race.
   int AktRennen = 0;
+  /// Number of the race that the tables hold whole; -1 before the first load and while one runs or has failed.
+  int TabellenRennen = -1;
   /// Participant row in work, and the counter that the numbering runs leave behind.
   int TnIdx = 0;
   Tabelle<TeilnehmerZeile, 0, 1000> Teilnehmer{"Teilnehmer"};
@@ -119,6 +121,43 @@ struct Store {
   double BestzeitDamen = 99999, BestzeitHerren = 99999;
   /// The listing of the provisional result, `Form13.List2`.
   QStringList ErgebnisZeilen;
+
+  // What the evaluation of clubs, teams and groups leaves behind; a unit is one of them, numbered 1 to 100.
+  /// Record number of the club a row starts for; rows without a club keep what they had.
+  Tabelle<int, 1, 1000> VereinRecNr{"VereinRecNr"};
+  /// Record number of the club with unit number k; 0 = free.
+  Tabelle<int, 1, 100> WertVerein{"WertVerein"};
+  /// Unit number of the row's club; 0 = none.
+  Tabelle<int, 1, 1000> WertVereinIdx{"WertVereinIdx"};
+  /// `Geschlecht`, copied for the filter.
+  Tabelle<qint16, 1, 1000> TnGeschlecht{"TnGeschlecht"};
+  /// Value of unit k in seconds, the lower the better.
+  Tabelle<double, 1, 100> WertErgebnis{"WertErgebnis"};
+  /// 1 = the time of this row went into a "Zeitsumme der besten".
+  Tabelle<qint16, 1, 1000> WertGezaehlt{"WertGezaehlt"};
+
+  // What a cup or a time sum leaves behind: entries are persons of a cup, or participant rows of a time sum; rounds 1
+  // to 10.
+  /// Points for place n.
+  Tabelle<qint16, 1, 100> CupPunkteTabelle{"CupPunkteTabelle"};
+  /// Record number of the athlete; 0 ends the table.
+  Tabelle<int, 1, 1000> CupLaeufer{"CupLaeufer"};
+  /// `KlasseGenau` in the first race in which the person was found.
+  Tabelle<int, 1, 1000> CupKlasse{"CupKlasse"};
+  Tabelle<QString, 0, 159> CupKlasseName{"CupKlasseName"};
+  int CupRunden = 0;
+  /// Place in the round, 99 = not in that race.
+  Tabelle2<int, 1, 1000, 1, 10> CupRang{"CupRang"};
+  /// Seconds, 0 = absent. Round 0 of a time sum holds the sum.
+  Tabelle2<double, 1, 1000, 0, 10> CupZeit{"CupZeit"};
+  /// Status of the run, 1 if absent. Round 0 of a time sum holds the status of the sum.
+  Tabelle2<int, 1, 1000, 0, 10> CupStatus{"CupStatus"};
+  /// 1 = struck.
+  Tabelle2<int, 1, 1000, 1, 10> CupStreich{"CupStreich"};
+  /// Points; round 0 holds the total.
+  Tabelle2<int, 1, 1000, 0, 10> CupPunkte{"CupPunkte"};
+  /// `RennenKurz` of the race of each round of a time sum.
+  Tabelle<QString, 1, 10> ZeitsummeRennenKurz{"ZeitsummeRennenKurz"};
 
   // Built-in tables, set once at the start.
   Tabelle<StandardKlasse, 1, 20> StdKlasse{"StdKlasse"};

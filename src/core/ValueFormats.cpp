@@ -18,10 +18,10 @@ QString wertText(double value, int width) {
 
 ZeitTeile ZeitZerlegen(double seconds) {
   ZeitTeile parts;
-  parts.ZeitStd = int(std::floor(seconds / 3600));
-  double rest = seconds - 3600.0 * parts.ZeitStd;
-  parts.ZeitMin = int(std::floor(rest / 60));
-  rest -= 60.0 * parts.ZeitMin;
+  parts.ZeitStd = std::floor(seconds / 3600);
+  double rest = seconds - 3600 * parts.ZeitStd;
+  parts.ZeitMin = std::floor(rest / 60);
+  rest -= 60 * parts.ZeitMin;
   // The small addend keeps 59.999999999 from losing a thousandth.
   parts.ZeitSek = std::floor(1000 * rest + 0.00001) / 1000;
   return parts;

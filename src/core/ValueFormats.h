@@ -2,10 +2,9 @@
 
 #include <QString>
 
-/// Hours, minutes and seconds of a time; seconds to the thousandth.
+/// Hours and minutes, whole, and seconds to the thousandth. A time has no limit, so hours may outgrow every whole type.
 struct ZeitTeile {
-  int ZeitStd = 0, ZeitMin = 0;
-  double ZeitSek = 0;
+  double ZeitStd = 0, ZeitMin = 0, ZeitSek = 0;
 };
 
 /// Splits seconds; the last fraction of a thousandth is cut, not rounded.

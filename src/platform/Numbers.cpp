@@ -135,6 +135,16 @@ QString trimmedBlanks(QStringView text) {
   return text.toString();
 }
 
+QString shownText(QString text) {
+  return text.remove(QChar(u'\0'));
+}
+
+QString upperCase(QString text) {
+  for (QChar &c : text)
+    c = c.toUpper();
+  return text;
+}
+
 QString padded(const QString &text, int width) {
   return text.left(width).leftJustified(width);
 }

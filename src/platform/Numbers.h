@@ -41,6 +41,10 @@ inline QString masked(int value, const char *mask) {
 
 /// Without the blanks (20 hex, and nothing else) on both sides.
 QString trimmedBlanks(QStringView text);
+/// The text as screens show it: without the NULs that fill the name of a record in a gap of its file.
+QString shownText(QString text);
+/// Upper case character by character, so that the length stays ("ß" stays "ß").
+QString upperCase(QString text);
 /// The text cut or filled with blanks on the right to `width` characters.
 QString padded(const QString &text, int width);
 /// The last `width` characters of `width` blanks and the text: right-aligned, a longer text loses its front.

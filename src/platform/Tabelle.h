@@ -3,6 +3,7 @@
 #include "platform/Faults.h"
 
 #include <algorithm>
+#include <array>
 #include <vector>
 
 /// A table of fixed bounds `First` to `Last`, both inclusive. An index outside is a RangeFault that names the table.
@@ -26,4 +27,32 @@ private:
 
   const char *m_name;
   std::vector<T> m_rows;
+};
+
+/// A table of two dimensions, such as person x round.
+template <typename T, int FirstRow, int LastRow, int FirstColumn, int LastColumn> class Tabelle2 {
+public:
+  explicit Tabelle2(const char *name) : m_name(name), m_rows(std::size_t(LastRow - FirstRow + 1)) {}
+
+  T &operator()(int row, int column) {
+    return m_rows[place(row, FirstRow, LastRow)][place(column, FirstColumn, LastColumn)];
+  }
+  const T &operator()(int row, int column) const {
+    return m_rows[place(row, FirstRow, LastRow)][place(column, FirstColumn, LastColumn)];
+  }
+
+  void fill(const T &value) {
+    for (auto &row : m_rows)
+      row.fill(value);
+  }
+
+private:
+  std::size_t place(int index, int first, int last) const {
+    if (index < first || index > last)
+      throw RangeFault(QString::fromUtf8(m_name), index, first, last);
+    return std::size_t(index - first);
+  }
+
+  const char *m_name;
+  std::vector<std::array<T, LastColumn - FirstColumn + 1>> m_rows;
 };

@@ -1,6 +1,5 @@
 #include "timing/Ranking.h"
 
-#include "core/RecordFiles.h"
 #include "core/ValueFormats.h"
 #include "platform/Numbers.h"
 #include "platform/SortedLines.h"
@@ -29,20 +28,6 @@ void clearValues(TeilnehmerZeile &participant) {
   participant.WertZeit1 = participant.WertZeit2 = participant.WertSumme = 0;
 }
 
-bool startsForClub(const Store &store, const TeilnehmerZeile &participant, int club) {
-  const auto &athlete = store.Laeufer;
-  switch (participant.VereinNr) {
-  case 1:
-    return athlete.Verein1 == club;
-  case 2:
-    return athlete.Verein2 == club;
-  case 3:
-    return athlete.Verein3 == club;
-  default:
-    return false;
-  }
-}
-
 // As soon as one person has a second time, everybody without one is out; whether the race has two runs does not matter.
 bool hasResult(const TeilnehmerZeile &participant, bool secondTimesExist) {
   return qint64(participant.Status1) + participant.Status2 <= 0 && participant.Zeit1 != 0 &&
@@ -52,7 +37,7 @@ bool hasResult(const TeilnehmerZeile &participant, bool secondTimesExist) {
 bool isRanked(Store &store, const TeilnehmerZeile &participant, bool secondTimesExist, std::optional<int> clubFilter) {
   if (!hasResult(participant, secondTimesExist) || !readAthlete(store, participant))
     return false;
-  return !clubFilter || (*clubFilter >= 1 && startsForClub(store, participant, *clubFilter));
+  return !clubFilter || (*clubFilter >= 1 && startClub(store, participant) == *clubFilter);
 }
 
 // Guests and men may have a surcharge on each run; added one after the other, as ties compare the exact sum.
@@ -236,12 +221,4 @@ QString secondRunKey(const TeilnehmerZeile &participant) {
 
 QString Reihungsschluessel(const Store &store, const TeilnehmerZeile &participant) {
   return masked(store.Rennen.WertKlassen == 1 ? participant.KlasseReihe : participant.GruppeNr, "0##");
-}
-
-bool readAthlete(Store &store, const TeilnehmerZeile &participant) {
-  if (participant.LaeuferNr == 0)
-    return false;
-  store.LaeuferIdx = participant.LaeuferNr;
-  LaeuferLesen(store);
-  return !store.Laeufer.Name.isEmpty();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/Store.h"
+#include "core/Participants.h"
 
 #include <optional>
 
@@ -25,7 +25,3 @@ QString secondRunKey(const TeilnehmerZeile &participant);
 
 /// The three characters of a sort line that keep a class or group together.
 QString Reihungsschluessel(const Store &store, const TeilnehmerZeile &participant);
-
-/// Makes the athlete of a participant row the current one; false, without reading, for a free row, and false for an
-/// athlete without a name.
-bool readAthlete(Store &store, const TeilnehmerZeile &participant);

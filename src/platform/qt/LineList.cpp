@@ -15,6 +15,7 @@ namespace {
 
 constexpr int NumberLength = 6;
 constexpr int GapBeforeNumber = 5;
+constexpr int GoodHeight = 22; // lines
 
 /// Where the trailing number of a line begins; nothing if the line has none.
 std::optional<qsizetype> numberStart(const QString &line) {
@@ -27,7 +28,7 @@ std::optional<qsizetype> numberStart(const QString &line) {
   return start;
 }
 
-/// Draws the number at the end of a line pale at the right edge.
+/// Draws the number at the end of a line pale at the right edge, if there is room.
 class LineDelegate : public QStyledItemDelegate {
 public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -36,9 +37,11 @@ public:
     const QString line = index.data().toString();
     const auto start = numberStart(line);
     QStyledItemDelegate::paint(painter, option, index);
-    if (!start)
+    if (!start || hidesNumbers)
       return;
     const QRect area = option.rect.adjusted(0, 0, -6, 0);
+    if (option.fontMetrics.horizontalAdvance(trimmedBlanks(line.left(*start)) + line.mid(*start - 1)) > area.width())
+      return;
     const bool chosen = option.state.testFlag(QStyle::State_Selected);
     painter->setFont(option.font);
     painter->setPen(option.palette.color(chosen ? QPalette::HighlightedText : QPalette::PlaceholderText));
@@ -47,6 +50,8 @@ public:
     painter->drawText(area, int(Qt::AlignRight | Qt::AlignVCenter), line.mid(*start));
     painter->setOpacity(1);
   }
+
+  bool hidesNumbers = false;
 
 protected:
   void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override {
@@ -96,6 +101,10 @@ void LineList::refill(QStringList lines, int number) {
   setAutoScroll(true);
 }
 
+void LineList::hideNumbers() {
+  static_cast<LineDelegate *>(itemDelegate())->hidesNumbers = true;
+}
+
 void LineList::choose(int line) {
   m_byCode = true;
   setCurrentIndex(line < 0 ? QModelIndex() : m_model.index(line));
@@ -112,6 +121,10 @@ int LineList::lineOfNumber(int number) const {
   const auto found = std::find_if(lines().begin(), lines().end(),
                                   [number](const QString &line) { return rowAtEnd(line, NumberLength) == number; });
   return found == lines().end() ? -1 : int(found - lines().begin());
+}
+
+QSize LineList::sizeHint() const {
+  return {QListView::sizeHint().width(), GoodHeight * fontMetrics().height()};
 }
 
 void LineList::currentChanged(const QModelIndex &current, const QModelIndex &previous) {
@@ -136,7 +149,8 @@ QModelIndex LineList::aimedAt(QPoint at) {
   const int line = height > 0 ? (at.y() + verticalOffset()) / height : -1;
   if (line < 0 || line >= before.size())
     return {};
-  return m_model.index(lineOfNumber(rowAtEnd(before[line], NumberLength)));
+  const bool numbered = before[line].back().isDigit(); // other lines are known by their position alone
+  return m_model.index(numbered ? lineOfNumber(rowAtEnd(before[line], NumberLength)) : line);
 }
 
 void LineList::mousePressEvent(QMouseEvent *event) {

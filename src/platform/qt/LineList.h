@@ -30,6 +30,8 @@ public:
   void fill(QStringList lines);
   /// The same with the line that ends in `number` highlighted, without scrolling to it.
   void refill(QStringList lines, int number);
+  /// The numbers at the end of the lines are not painted at all.
+  void hideNumbers();
   /// Highlights a line (from 0; −1 = none) without `chosen`, and scrolls to it.
   void choose(int line);
   /// Highlights the line that ends in `number`; none if there is none.
@@ -39,6 +41,7 @@ public:
   const QStringList &lines() const { return m_model.lines(); }
   /// The highlighted line, from 0; −1 = none.
   int chosenLine() const { return currentIndex().row(); }
+  QSize sizeHint() const override;
 
 Q_SIGNALS:
   /// The operator chose a line: a left press, also on the line already chosen, or keys. Never by code, never by focus.

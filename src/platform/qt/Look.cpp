@@ -1,5 +1,7 @@
 #include "platform/qt/Look.h"
 
+#include "platform/Fonts.h"
+
 #include <QApplication>
 #include <QComboBox>
 #include <QFontMetrics>
@@ -29,15 +31,6 @@ void setColors(QPalette &palette) {
   palette.setColor(QPalette::HighlightedText, Qt::white);
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
     palette.setColor(QPalette::Disabled, role, QColor(0x8A919C));
-}
-
-// The fonts asked for by name, where the system does not have them.
-void substituteFonts() {
-  QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans"));
-  QFont::insertSubstitution(QStringLiteral("Times"), QStringLiteral("Liberation Serif"));
-  QFont::insertSubstitution(QStringLiteral("Fraktur BT"), QStringLiteral("Blankenburg_UNZ1A"));
-  QFont::insertSubstitutions(QStringLiteral("Monospac821 BT"),
-                             {QStringLiteral("Liberation Mono"), QStringLiteral("DejaVu Sans Mono")});
 }
 
 void scaleFont(QWidget *widget) {
@@ -87,7 +80,13 @@ void setCard(QWidget *widget) {
 
 } // namespace
 
+// The pictures lie in a static library; only a call makes the linker keep them. It must stand outside every namespace.
+static void keepPictures() {
+  Q_INIT_RESOURCE(assets);
+}
+
 void Look::apply(QApplication &application) {
+  keepPictures();
   QApplication::setStyle(QStringLiteral("Fusion"));
   QPalette palette = QApplication::palette();
   setColors(palette);

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "core/Store.h"
+
+// The Z file of a generated time-sum race: the short names of its races and the single times of each row.
+
+/// Whether the open race has a Z file, and so is a combined one.
+bool hatSingleTimes(const Store &store);
+/// Writes all 1000 blocks from `ZeitsummeRennenKurz`, `CupLaeufer` and `CupZeit`.
+void singleTimesSpeichern(Store &store);
+/// Reads the Z file of the open race into these tables; a file that ends early leaves the rest as it was.
+void singleTimesLaden(Store &store);

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QImage>
+#include <QStringList>
+
+#include <variant>
+
+// A document as it was recorded: pages of operations, in millimetres from the top left corner of the printable page.
+// Paper, PDF file, preview and tests all play the same recording.
+
+/// A4 with a margin of 4 mm on all sides, whatever a device reports.
+namespace Blatt {
+constexpr double Rand = 4, Breite = 210, Hoehe = 297;
+} // namespace Blatt
+
+struct PrintFont {
+  QString name;
+  /// Points, also fractions.
+  double size = 10;
+  bool bold = false, italic = false;
+  bool operator==(const PrintFont &) const = default;
+};
+
+/// A picture; a file that cannot be read has a null image and prints nothing.
+struct PrintPicture {
+  QString path;
+  QImage image;
+  /// Natural size in millimetres at 96 pixels to the inch, whatever density the file states.
+  double width() const { return image.width() * 25.4 / 96; }
+  double height() const { return image.height() * 25.4 / 96; }
+};
+
+/// `x` and `y` are the top left corner of the text.
+struct TextOperation {
+  double x, y;
+  PrintFont font;
+  QString text;
+};
+/// `lineWidth` is in units of 1/300 inch, colours are 0xRRGGBB.
+struct LineOperation {
+  double x1, y1, x2, y2;
+  int lineWidth;
+  unsigned color;
+};
+/// The outline of a rectangle, black.
+struct BoxOperation {
+  double x1, y1, x2, y2;
+  int lineWidth;
+};
+struct FillOperation {
+  double x1, y1, x2, y2;
+  unsigned color;
+};
+/// The picture stretched to the rectangle.
+struct PictureOperation {
+  double x, y, width, height;
+  PrintPicture picture;
+};
+
+using PrintOperation = std::variant<TextOperation, LineOperation, BoxOperation, FillOperation, PictureOperation>;
+using PrintPage = QList<PrintOperation>;
+
+struct Recording {
+  /// What the document is called in the printer's queue and in file names.
+  QString name;
+  /// Number of the race that it belongs to, 0 = none.
+  int race = 0;
+  /// A document has one orientation for all its pages.
+  bool landscape = false;
+  QList<PrintPage> pages;
+};
+
+/// One line an operation, positions with two decimals: for comparing whole pages.
+QStringList asText(const Recording &recording);

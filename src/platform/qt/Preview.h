@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/print/Printers.h"
+
+#include <QWidget>
+
+class PreviewPages;
+class QBoxLayout;
+class QLabel;
+class QMenu;
+
+/// The printer "Vorschau am Bildschirm": one window that shows documents as they come out on paper. A document that
+/// ends while it is open is appended. From here they go to any other printer.
+///
+/// Page keys, Home and End turn pages; plus, minus and the wheel with Ctrl zoom; 0 fits the width; Esc closes.
+class Preview : public QWidget {
+  Q_OBJECT
+
+public:
+  Preview();
+
+  /// This window as a printer; the window must outlive it.
+  Printer printer();
+  /// The printers to which the shown documents can be sent; this one is left out of the menu.
+  void offer(Printers &printers) { m_printers = &printers; }
+
+protected:
+  void closeEvent(QCloseEvent *event) override;
+  void keyPressEvent(QKeyEvent *event) override;
+
+private:
+  QBoxLayout *buttons();
+  void append(const Recording &recording);
+  void takeFirstSize();
+  void fillMenu();
+  void send(const Printer &printer);
+  void showPosition();
+
+  PreviewPages *m_pages;
+  QLabel *m_position, *m_file;
+  QMenu *m_menu;
+  QList<Recording> m_documents;
+  Printers *m_printers = nullptr;
+};

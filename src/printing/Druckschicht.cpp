@@ -1,0 +1,91 @@
+#include "printing/Druckschicht.h"
+
+#include "platform/Numbers.h"
+#include "platform/print/PrintMetrics.h"
+
+#include <cmath>
+#include <utility>
+
+PrintItem::PrintItem(int number) : m_text(spacedText(number) + QLatin1Char(' ')) {}
+PrintItem::PrintItem(double number) : m_text(spacedText(number) + QLatin1Char(' ')) {}
+
+void Druckschicht::DocName(const QString &name, int race) {
+  m_recording.name = name;
+  m_recording.race = race;
+}
+
+void Druckschicht::Print(std::initializer_list<PrintItem> items, End end) {
+  const PrintFont present = font();
+  bool first = true;
+  for (const PrintItem &item : items) {
+    if (!std::exchange(first, false)) {
+      const double zone = PrintMetrics::printZone(present);
+      CurrentX = float((std::floor(double(CurrentX) / zone) + 1) * zone);
+    }
+    PrintPage &onPage = page();
+    if (!item.text().isEmpty())
+      onPage.append(TextOperation{double(CurrentX), double(CurrentY), present, item.text()});
+    CurrentX += TextWidth(item.text());
+  }
+  if (end == End::Line) {
+    CurrentX = 0;
+    CurrentY += float(PrintMetrics::lineHeight(present));
+  }
+}
+
+float Druckschicht::TextWidth(const QString &text) const {
+  return float(PrintMetrics::textWidth(font(), text));
+}
+
+float Druckschicht::ScaleWidth() const {
+  return float((Orientation == Landscape ? Blatt::Hoehe : Blatt::Breite) - 2 * Blatt::Rand);
+}
+
+void Druckschicht::Line(double x1, double y1, double x2, double y2, unsigned color) {
+  page().append(LineOperation{x1, y1, x2, y2, DrawWidth, color});
+}
+
+void Druckschicht::Box(double x1, double y1, double x2, double y2) {
+  page().append(BoxOperation{x1, y1, x2, y2, DrawWidth});
+}
+
+void Druckschicht::FilledBox(double x1, double y1, double x2, double y2, unsigned color) {
+  page().append(FillOperation{x1, y1, x2, y2, color});
+}
+
+void Druckschicht::PaintPicture(const PrintPicture &picture, double x, double y, double width, double height) {
+  page().append(PictureOperation{x, y, width, height, picture});
+}
+
+PrintPicture Druckschicht::LoadPicture(const QString &path) {
+  const auto known = m_pictures.constFind(path);
+  if (known != m_pictures.constEnd())
+    return *known;
+  return *m_pictures.insert(path, PrintPicture{path, QImage(path)});
+}
+
+// A page comes into being with its first operation, so that a document without any has none.
+PrintPage &Druckschicht::page() {
+  if (m_recording.pages.isEmpty())
+    m_recording.landscape = Orientation == Landscape;
+  if (!std::exchange(m_pageOpen, true))
+    m_recording.pages.append(PrintPage());
+  return m_recording.pages.last();
+}
+
+void Druckschicht::toTopLeft() {
+  m_pageOpen = false;
+  CurrentX = CurrentY = 0;
+}
+
+void Druckschicht::NewPage() {
+  page();
+  toTopLeft();
+}
+
+void Druckschicht::EndDoc() {
+  toTopLeft();
+  const Recording finished = std::exchange(m_recording, {});
+  if (!finished.pages.isEmpty())
+    m_sink(finished);
+}

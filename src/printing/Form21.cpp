@@ -1,0 +1,149 @@
+#include "printing/Form21.h"
+
+#include "platform/Numbers.h"
+#include "platform/qt/Look.h"
+#include "ui_Form21.h"
+
+#include <QFile>
+#include <QMouseEvent>
+#include <QPixmap>
+
+#include <cmath>
+
+namespace {
+
+// The preview shows the page from 163 mm down, 202 × 126 mm.
+constexpr double PageTop = 163, PageWidth = 202, PageHeight = 126;
+constexpr double LeftEdge = 20, RightEdge = 185, LineY = 228, TextY = 229;
+constexpr double DotsAMillimetre = 96 / 25.4; // before the desktop's scale
+
+} // namespace
+
+Form21::Form21(Desk &desk, Store &store)
+    : Screen(desk, QStringLiteral("Form21"), 21), ui(std::make_unique<Ui::Form21>()), m_store(store) {
+  ui->setupUi(this);
+  makePage();
+  for (int i = 0; i < int(m_rows.size()); ++i)
+    makeRow(i);
+  setUp();
+  fill(WerbungLesen(m_store));
+  connect(ui->Command2, &QPushButton::clicked, this, [this] { move(&Row::rechts, 2); });
+  connect(ui->Command3, &QPushButton::clicked, this, [this] { move(&Row::rechts, -2); });
+  connect(ui->Command4, &QPushButton::clicked, this, [this] { move(&Row::runter, -1); });
+  connect(ui->Command5, &QPushButton::clicked, this, [this] { move(&Row::runter, 1); });
+  connect(ui->Command1, &QPushButton::clicked, this, &QWidget::close);
+  ui->Command1->setFocus();
+  preview();
+}
+
+Form21::~Form21() = default;
+
+int Form21::pixels(double millimetres) const {
+  return int(std::lround(millimetres * DotsAMillimetre));
+}
+
+void Form21::makePage() {
+  ui->Image3->setFixedSize(pixels(PageWidth), pixels(PageHeight));
+  Look::setGround(ui->Image3, Qt::white);
+  auto *line = new QFrame(ui->Image3);
+  line->setObjectName(QStringLiteral("Line1"));
+  Look::setGround(line, Qt::black);
+  line->setGeometry(pixels(LeftEdge), pixels(LineY - PageTop), pixels(RightEdge - LeftEdge), 2);
+  auto *text = new QLabel(QStringLiteral("Mit freundlicher Unterstützung von"), ui->Image3);
+  text->setObjectName(QStringLiteral("Label5"));
+  QFont font(QStringLiteral("Times"), 8);
+  font.setBold(true);
+  text->setFont(font);
+  text->adjustSize();
+  text->move(pixels(PageWidth / 2) - text->width() / 2, pixels(TextY - PageTop));
+}
+
+void Form21::makeRow(int i) {
+  const auto named = [this, i](const char *name) { return QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(i); };
+  Row &row = m_rows[std::size_t(i)];
+  row.check = findChild<QCheckBox *>(named("Check1"));
+  row.datei = findChild<QLineEdit *>(named("Text1"));
+  row.rechts = findChild<QLineEdit *>(named("Text2"));
+  row.runter = findChild<QLineEdit *>(named("Text3"));
+  row.groesse = findChild<QLineEdit *>(named("Text4"));
+  row.image = new QLabel(ui->Image3);
+  row.image->setObjectName(named("Image1"));
+  row.image->setScaledContents(true);
+  row.image->installEventFilter(this);
+  connect(row.check, &QCheckBox::clicked, this, [this, i] { select(i); });
+  onEnter(row.datei, [this, i] { select(i); });
+  for (auto *field : {row.datei, row.rechts, row.runter, row.groesse})
+    onReturn(field, [this] { preview(); });
+  hold(row.rechts, WerbeGrenzen::rechts);
+  hold(row.runter, WerbeGrenzen::runter);
+  hold(row.groesse, WerbeGrenzen::groesse);
+}
+
+// The bound stands in the field at once, also while a number is being typed.
+void Form21::hold(QLineEdit *field, const WerbeGrenze &range) {
+  connect(field, &QLineEdit::textChanged, this, [field, &range](const QString &text) {
+    if (const QString held = range.held(text); held != text)
+      field->setText(held);
+  });
+}
+
+void Form21::fill(const Werbung &werbung) {
+  for (std::size_t i = 0; i < m_rows.size(); ++i) {
+    m_rows[i].check->setChecked(werbung[i].gewaehlt);
+    m_rows[i].datei->setText(werbung[i].datei);
+    m_rows[i].rechts->setText(werbung[i].rechts);
+    m_rows[i].runter->setText(werbung[i].runter);
+    m_rows[i].groesse->setText(werbung[i].groesse);
+  }
+}
+
+Werbung Form21::werbung() const {
+  Werbung werbung;
+  for (std::size_t i = 0; i < m_rows.size(); ++i)
+    werbung[i] = {m_rows[i].check->isChecked(), m_rows[i].datei->text(), m_rows[i].rechts->text(),
+                  m_rows[i].runter->text(), m_rows[i].groesse->text()};
+  return werbung;
+}
+
+void Form21::select(int i) {
+  m_selection = i;
+  preview();
+}
+
+void Form21::move(QLineEdit *Row::*field, int step) {
+  if (m_selection < 0)
+    return;
+  QLineEdit *box = m_rows[std::size_t(m_selection)].*field;
+  box->setText(plainText(leadingNumber(box->text()) + step));
+  preview();
+}
+
+void Form21::preview() {
+  for (const Row &row : m_rows)
+    showBanner(row);
+}
+
+void Form21::showBanner(const Row &row) {
+  const QString path = m_store.DatenOrdner + row.datei->text();
+  const QPixmap picture =
+      row.check->isChecked() && !row.datei->text().isEmpty() && QFile::exists(path) ? QPixmap(path) : QPixmap();
+  row.image->setVisible(!picture.isNull());
+  if (picture.isNull())
+    return;
+  const double scale = leadingNumber(row.groesse->text()) / 100;
+  row.image->setPixmap(picture);
+  row.image->setGeometry(pixels(leadingNumber(row.rechts->text())), pixels(leadingNumber(row.runter->text()) - PageTop),
+                         int(std::lround(picture.width() * scale)), int(std::lround(picture.height() * scale)));
+}
+
+bool Form21::eventFilter(QObject *watched, QEvent *event) {
+  if (event->type() == QEvent::MouseButtonPress)
+    for (std::size_t i = 0; i < m_rows.size(); ++i)
+      if (m_rows[i].image == watched)
+        select(int(i));
+  return Screen::eventFilter(watched, event);
+}
+
+void Form21::closing() {
+  WerbungSchreiben(m_store, werbung());
+}

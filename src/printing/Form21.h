@@ -1,0 +1,55 @@
+#pragma once
+
+#include "platform/qt/Screen.h"
+#include "printing/Werbung.h"
+
+#include <array>
+#include <memory>
+
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+
+namespace Ui {
+class Form21;
+}
+
+/// "Werbebanner am Deckblatt": up to eight sponsor pictures on the foot of the title page. Of banner i (0 to 7):
+/// Check1_i uses it, Text1_i is its file, Text2_i and Text3_i its place on the page in millimetres, Text4_i its size in
+/// percent of the natural one, Image1_i the picture in the preview. Image3 is the foot of the page in true scale with
+/// Line1 and Label5. Command2 to Command5 move the banner last clicked; Enter in a field renews the preview; Command1
+/// closes, which writes werbung.dat.
+class Form21 : public Screen {
+  Q_OBJECT
+
+public:
+  Form21(Desk &desk, Store &store);
+  ~Form21() override;
+
+protected:
+  void closing() override;
+  bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+  struct Row {
+    QCheckBox *check;
+    QLineEdit *datei, *rechts, *runter, *groesse;
+    QLabel *image;
+  };
+  void makePage();
+  void makeRow(int i);
+  void fill(const Werbung &werbung);
+  Werbung werbung() const;
+  void hold(QLineEdit *field, const WerbeGrenze &range);
+  void select(int i);
+  void move(QLineEdit *Row::*field, int step);
+  void preview();
+  void showBanner(const Row &row);
+  int pixels(double millimetres) const;
+
+  std::unique_ptr<Ui::Form21> ui;
+  Store &m_store;
+  std::array<Row, 8> m_rows{};
+  /// 0 to 7; −1 = none.
+  int m_selection = -1;
+};

@@ -1,0 +1,54 @@
+#include "printing/ListRows.h"
+
+#include "core/Participants.h"
+#include "platform/Numbers.h"
+
+namespace {
+
+constexpr int RowsBeforeABreak = 10;
+constexpr unsigned BandColor = 0xC0C0C0;
+
+} // namespace
+
+void Zelle(Druckschicht &druck, double x, double y, const PrintItem &item) {
+  druck.CurrentX = float(x);
+  druck.CurrentY = float(y);
+  druck.Print(item);
+}
+
+const QString &Klassentext(const Store &store, const TeilnehmerZeile &participant) {
+  return store.Rennen.WertKlassen == 1 ? store.KlasseGenauName[participant.KlasseGenau]
+                                       : store.GruppeName[participant.GruppeNr];
+}
+
+QString Klassenspalte(const Store &store) {
+  return store.Rennen.WertKlassen == 1 ? QStringLiteral("Klasse") : QStringLiteral("Gruppe");
+}
+
+QString Vereinstext(Store &store, const TeilnehmerZeile &participant, bool orLong) {
+  if (!readClub(store, participant))
+    return {};
+  const QString kurz = trimmedBlanks(store.Verein.VereinKurz);
+  return kurz.isEmpty() && orLong ? trimmedBlanks(store.Verein.VereinName) : kurz;
+}
+
+QString rechtsbuendig(int number, int width) {
+  return rightAligned(plainText(number), width);
+}
+
+bool seiteVoll(const Druckschicht &druck, int zeilenNr, double limit) {
+  return zeilenNr > RowsBeforeABreak && double(druck.CurrentY) > limit;
+}
+
+void Klassenbalken(const Store &store, Druckschicht &druck, const TeilnehmerZeile &participant, int zeilenNr,
+                   double left, double right, double textX) {
+  const double y = gitterY(zeilenNr);
+  druck.FilledBox(left, y + 2 - 2.1, right, y + 2 + 2.5, BandColor);
+  druck.FontSize = 11;
+  druck.FontBold = false;
+  druck.FontItalic = true;
+  druck.CurrentX = float(textX);
+  druck.CurrentY = float(y);
+  druck.Print(Klassentext(store, participant) + QLatin1Char(' '), Druckschicht::End::Continued);
+  druck.FontItalic = false;
+}

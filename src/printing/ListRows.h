@@ -1,0 +1,33 @@
+#pragma once
+
+#include "core/Store.h"
+#include "printing/Druckschicht.h"
+
+// What the lists of participants share: the grid of their rows, the cells, and the texts of class and club.
+
+/// Height of row r of a list page, millimetres.
+constexpr double gitterY(double row) {
+  return 40 + row * 4.5;
+}
+
+/// Prints one cell of a row; the line ends, so `CurrentY` stands one line height below.
+void Zelle(Druckschicht &druck, double x, double y, const PrintItem &item);
+
+/// The exact class of a participant, or his group in a race that is evaluated by groups.
+const QString &Klassentext(const Store &store, const TeilnehmerZeile &participant);
+/// Head of the column with that text.
+QString Klassenspalte(const Store &store);
+
+/// Short name of the participant's club; with `orLong` the long one if there is no short one. The athlete must be read.
+QString Vereinstext(Store &store, const TeilnehmerZeile &participant, bool orLong);
+
+/// Right-aligned number of three or four characters; a longer one loses its front.
+QString rechtsbuendig(int number, int width);
+
+/// The break by position: a page that has begun is full when the last print ended below `limit` millimetres.
+bool seiteVoll(const Druckschicht &druck, int zeilenNr, double limit);
+
+/// The grey band of a class from `left` to `right` on row `zeilenNr`, with its text at `textX`; printed without line
+/// end.
+void Klassenbalken(const Store &store, Druckschicht &druck, const TeilnehmerZeile &participant, int zeilenNr,
+                   double left, double right, double textX);

@@ -1,0 +1,46 @@
+#include "printing/PrintChoices.h"
+
+#include "core/RecordFiles.h"
+#include "platform/Numbers.h"
+
+namespace {
+
+QString ranglisteZeile(Store &store, int row) {
+  const TeilnehmerZeile &participant = store.Teilnehmer[row];
+  store.LaeuferIdx = participant.LaeuferNr;
+  LaeuferLesen(store);
+  return rightAligned(plainText(participant.Rang), 4) + QStringLiteral(". ") + padded(store.Laeufer.Name, 25) +
+         QLatin1Char(' ') + padded(store.KlasseGenauName[participant.KlasseGenau], 20) +
+         QStringLiteral("            ") + plainText(row);
+}
+
+} // namespace
+
+QStringList ranglisteZeilen(Store &store) {
+  QStringList lines;
+  for (int place = 1; place <= 1000; ++place) {
+    const int row = store.RangListe[place];
+    const TeilnehmerZeile &participant = store.Teilnehmer[row];
+    if (participant.StartNr != 0 && participant.Status1 + participant.Status2 <= 0)
+      lines.append(ranglisteZeile(store, row));
+  }
+  return lines;
+}
+
+QStringList vereinKurznamen(Store &store) {
+  QStringList names;
+  const int before = store.VereinIdx;
+  for (store.VereinIdx = 1; store.VereinIdx <= store.VereinAnzahl; ++store.VereinIdx) {
+    VereinLesen(store);
+    names.append(trimmedBlanks(store.Verein.VereinKurz));
+  }
+  store.VereinIdx = before;
+  return names;
+}
+
+QStringList klassenNamen(const Store &store) {
+  QStringList names;
+  for (int klasse = 1; klasse <= 20; ++klasse)
+    names.append(store.KlasseName[klasse]);
+  return names;
+}

@@ -1,0 +1,60 @@
+#include "printing/PrintHelpers.h"
+
+#include "core/ValueFormats.h"
+
+#include <QFile>
+
+namespace {
+
+void printCentred(Druckschicht &druck, const QString &text, double middle) {
+  druck.CurrentX = float(middle - double(druck.TextWidth(text)) / 2);
+  druck.Print(text);
+}
+
+} // namespace
+
+void Rahmen(Druckschicht &druck, double x1, double y1, double x2, double y2) {
+  druck.Line(x1, y1, x2, y1);
+  druck.Line(x2, y1, x2, y2);
+  druck.Line(x2, y2, x1, y2);
+  druck.Line(x1, y2, x1, y1);
+}
+
+void MitteDrucken(Druckschicht &druck, const QString &text) {
+  printCentred(druck, text, double(druck.ScaleWidth()) / 2);
+}
+
+void ViertelDrucken(Druckschicht &druck, const QString &text) {
+  printCentred(druck, text, double(druck.ScaleWidth()) * 0.25 + 7);
+}
+
+void DreiviertelDrucken(Druckschicht &druck, const QString &text) {
+  printCentred(druck, text, double(druck.ScaleWidth()) * 0.75 + 3);
+}
+
+void RechtsDrucken(Druckschicht &druck, const PrintItem &item) {
+  const float end = druck.CurrentX;
+  druck.CurrentX = end - druck.TextWidth(item.text());
+  druck.Print(item);
+  druck.CurrentX = end;
+}
+
+QString ZeitDruckText(const Druckschicht &druck, double seconds) {
+  constexpr float field = 14;
+  QString text = ZeitText(seconds);
+  while (druck.TextWidth(text) < field)
+    text.prepend(QLatin1Char(' '));
+  return text;
+}
+
+void TitelAnpassen(Druckschicht &druck, const QString &title, double limit) {
+  druck.FontSize = 24;
+  while (druck.FontSize > 1 && double(druck.TextWidth(title)) > limit)
+    druck.FontSize -= 1;
+}
+
+void LogoDrucken(Druckschicht &druck, double x, double y) {
+  const QString path = QStringLiteral("Logo.jpg");
+  if (QFile::exists(path))
+    druck.PaintPicture(druck.LoadPicture(path), x, y, 35, 18);
+}

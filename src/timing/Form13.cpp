@@ -1,0 +1,18 @@
+#include "timing/Form13.h"
+
+#include "ui_Form13.h"
+
+Form13::Form13(Desk &desk, Store &store)
+    : Screen(desk, QStringLiteral("Form13"), 13), ui(std::make_unique<Ui::Form13>()), m_store(store) {
+  ui->setupUi(this);
+  setUp();
+  connect(ui->Command1, &QPushButton::clicked, this, &Form13::close);
+  ui->Command1->setFocus();
+  zeigen();
+}
+
+Form13::~Form13() = default;
+
+void Form13::zeigen() {
+  ui->List2->fill(m_store.ErgebnisZeilen);
+}

@@ -1,0 +1,252 @@
+#include "timing/Form7.h"
+
+#include "core/Participants.h"
+#include "core/RaceFiles.h"
+#include "core/Start.h"
+#include "core/ValueFormats.h"
+#include "platform/Dates.h"
+#include "platform/Numbers.h"
+#include "platform/qt/Look.h"
+#include "timing/Ranking.h"
+#include "ui_Form7.h"
+
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int StatusCount = 6; // the last two have no text and can be chosen all the same
+
+/// Seconds out of hours, minutes and seconds as typed; nothing if one of them is no number.
+std::optional<double> joined(const QString &stunden, const QString &minuten, const QString &sekunden) {
+  const auto h = regionalNumber(stunden), m = regionalNumber(minuten), s = regionalNumber(sekunden);
+  return h && m && s ? std::optional(3600 * *h + 60 * *m + *s) : std::nullopt;
+}
+
+// The seconds box of the parts is put into form but not stored; blanks around a text without a point stay.
+void tidySeconds(QLineEdit *box) {
+  const QString text = box->text();
+  if (text.contains(QLatin1Char('.')) || trimmedBlanks(text).isEmpty())
+    box->setText(KommaEingabe(text));
+}
+
+// A status that a file may hold and the box does not chooses nothing.
+void chooseStatus(QComboBox *combo, int status) {
+  combo->setCurrentIndex(status >= 0 && status < StatusCount ? status : -1);
+}
+
+void showPair(QLabel *caption, QLabel *value, bool visible, const QString &text) {
+  value->setText(text);
+  caption->setVisible(visible);
+  value->setVisible(visible);
+}
+
+} // namespace
+
+Form7::Form7(Desk &desk, Store &store)
+    : Screen(desk, QStringLiteral("Form7"), 7), ui(std::make_unique<Ui::Form7>()), m_store(store) {
+  ui->setupUi(this);
+  m_lauf1 = {ui->Text1, {ui->Text2, ui->Text3, ui->Text4}, &TeilnehmerZeile::Zeit1};
+  m_lauf2 = {ui->Text6, {ui->Text7, ui->Text8, ui->Text9}, &TeilnehmerZeile::Zeit2};
+  setUp();
+  hideUnused();
+  Look::setGround(ui->Label11, QColor(FarbTabelle::Hellgrau));
+  ui->Label1->setText(m_store.Rennen.RennenName);
+  for (int status = 0; status < StatusCount; ++status)
+    for (auto *combo : {ui->Combo1, ui->Combo2})
+      combo->addItem(m_store.StatusText[status]);
+  connectControls();
+  refill();
+  ui->List2->setFocus();
+}
+
+Form7::~Form7() = default;
+
+void Form7::hideUnused() {
+  for (QWidget *control : secondRunControls())
+    control->hide();
+  for (QWidget *control : {ui->Label21, ui->Label22, ui->Label23, ui->Label24}) {
+    QSizePolicy policy = control->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    control->setSizePolicy(policy);
+    control->hide();
+  }
+}
+
+QList<QWidget *> Form7::secondRunControls() const {
+  return {ui->titel2, ui->Text6, ui->Text7, ui->Text8, ui->Text9, ui->Combo1, ui->Command1, ui->Command6, ui->Option5};
+}
+
+void Form7::connectControls() {
+  for (auto *option : {ui->Option1, ui->Option2, ui->Option3, ui->Option4, ui->Option5})
+    connect(option, &QRadioButton::clicked, this, &Form7::refill);
+  connect(ui->List2, &LineList::chosen, this, &Form7::lineChosen);
+  onReturn(ui->List2, [this] { returnInList(); });
+  connectLauf(m_lauf1, ui->Command4, ui->Command2);
+  connectLauf(m_lauf2, ui->Command1, ui->Command6);
+  connectStatus(ui->Combo2, &TeilnehmerZeile::Status1);
+  connectStatus(ui->Combo1, &TeilnehmerZeile::Status2);
+  onLeave(ui->Text5, [this] { takePunkte(); });
+  connect(ui->Command5, &QPushButton::clicked, this, &Form7::takePunkte);
+  connect(ui->Check1, &QCheckBox::clicked, this, &Form7::showResult);
+  connect(ui->Command7, &QPushButton::clicked, this, &Form7::hilfszeitVerlangt);
+  connect(ui->Command3, &QPushButton::clicked, this, &Form7::close);
+}
+
+void Form7::connectLauf(const Lauf &lauf, QPushButton *split, QPushButton *join) {
+  onReturn(lauf.sekunden, [this] { ui->List2->setFocus(); });
+  onLeave(lauf.sekunden, [this, &lauf] { takeTime(lauf); });
+  onLeave(lauf.teile[2], [&lauf] { tidySeconds(lauf.teile[2]); });
+  connect(split, &QPushButton::clicked, this, [this, &lauf] { showParts(lauf, selected().*lauf.zeit); });
+  connect(join, &QPushButton::clicked, this, [this, &lauf] { joinTime(lauf); });
+}
+
+void Form7::connectStatus(QComboBox *combo, int TeilnehmerZeile::*status) {
+  onLeave(combo, [this, combo, status] {
+    if (combo->currentIndex() >= 0)
+      selected().*status = combo->currentIndex();
+  });
+}
+
+void Form7::becomeActive() {
+  if (m_store.Rennen.ZweiDurchgaenge == 0)
+    return;
+  for (QWidget *control : secondRunControls())
+    control->show();
+}
+
+void Form7::closing() {
+  RennDatenSpeichern(m_store);
+}
+
+// The emptied list is painted before the ranking runs.
+void Form7::refill() {
+  auto *list = ui->List2;
+  const int scrolled = list->verticalScrollBar()->value();
+  list->fill({});
+  list->viewport()->repaint();
+  list->fill(ZeitlisteFuellen(m_store, mode()));
+  list->doItemsLayout();
+  list->verticalScrollBar()->setValue(scrolled);
+  Q_EMIT ergebnisGerechnet();
+}
+
+ListMode Form7::mode() const {
+  if (ui->Option5->isChecked())
+    return ListMode::ZweiterDurchgang;
+  if (ui->Option4->isChecked())
+    return ListMode::KlasseZeit;
+  if (ui->Option3->isChecked())
+    return ListMode::KlasseStartnummer;
+  return ui->Option2->isChecked() ? ListMode::Zeiten : ListMode::Startnummer;
+}
+
+void Form7::lineChosen(int line) {
+  m_store.TnIdx = participantRow(ui->List2->lines()[line]);
+  setInputsEnabled(m_store.TnIdx != 0);
+  if (m_store.TnIdx == 0)
+    return;
+  ui->Label11->setText(plainText(m_store.TnIdx));
+  ui->Command7->setEnabled(true);
+  showPerson(selected());
+  showInputs(selected());
+  focusTime();
+  if (timeBox()->text() == QStringLiteral("0"))
+    timeBox()->clear();
+}
+
+void Form7::returnInList() {
+  const int line = ui->List2->chosenLine();
+  if (line >= 0 && participantRow(ui->List2->lines()[line]) != 0)
+    focusTime();
+}
+
+void Form7::setInputsEnabled(bool enabled) {
+  for (QWidget *control : std::initializer_list<QWidget *>{
+           ui->Text1, ui->Text2, ui->Text3, ui->Text4, ui->Text5, ui->Text6, ui->Text7, ui->Text8, ui->Text9,
+           ui->Command1, ui->Command2, ui->Command4, ui->Command5, ui->Command6, ui->Combo1, ui->Combo2})
+    setControlEnabled(control, enabled, ui->List2);
+}
+
+void Form7::showPerson(const TeilnehmerZeile &participant) {
+  readAthlete(m_store, participant);
+  const auto &athlete = m_store.Laeufer;
+  ui->Label5->setText(plainText(participant.StartNr));
+  ui->Label18->setText(participant.Gast == 1 ? QStringLiteral("JA") : QStringLiteral("-"));
+  ui->Label2->setText(athlete.Name);
+  ui->Label14->setText(plainText(yearOf(athlete.Geburtsdatum)));
+  ui->Label16->setText(m_store.KlasseName[participant.KlasseNr]);
+  if (athlete.Geschlecht < 2) // of a person without sex the colour stays that of the last one; meant
+    Look::setGround(ui->Label2, QColor(athlete.Geschlecht == 1 ? FarbTabelle::BlassCyan : FarbTabelle::BlassRot));
+  ui->Label19->setText(readClub(m_store, participant) ? trimmedBlanks(m_store.Verein.VereinKurz) : QString());
+  showPair(ui->Label21, ui->Label22, participant.MannschaftNr != 0, m_store.MannschaftName[participant.MannschaftNr]);
+  showPair(ui->Label24, ui->Label23, participant.GruppeNr != 0, m_store.GruppeName[participant.GruppeNr]);
+}
+
+void Form7::showInputs(const TeilnehmerZeile &participant) {
+  for (const Lauf *lauf : {&m_lauf1, &m_lauf2}) {
+    const double time = participant.*lauf->zeit;
+    lauf->sekunden->setText(plainText(time));
+    showParts(*lauf, time);
+  }
+  ui->Text5->setText(plainText(participant.Punkte));
+  chooseStatus(ui->Combo2, participant.Status1);
+  chooseStatus(ui->Combo1, participant.Status2);
+}
+
+void Form7::showParts(const Lauf &lauf, double time) {
+  const ZeitTeile parts = ZeitZerlegen(time);
+  lauf.teile[0]->setText(plainText(parts.ZeitStd));
+  lauf.teile[1]->setText(plainText(parts.ZeitMin));
+  lauf.teile[2]->setText(plainText(parts.ZeitSek));
+}
+
+QLineEdit *Form7::timeBox() const {
+  return mode() == ListMode::ZweiterDurchgang ? ui->Text6 : ui->Text1;
+}
+
+// Arriving as by Tab selects the whole time, so that typing replaces it.
+void Form7::focusTime() {
+  timeBox()->setFocus(Qt::TabFocusReason);
+}
+
+TeilnehmerZeile &Form7::selected() {
+  m_store.TnIdx = int(wholeNumber(ui->Label11->text()));
+  return m_store.Teilnehmer[m_store.TnIdx];
+}
+
+void Form7::takeTime(const Lauf &lauf) {
+  const QString typed = KommaEingabe(lauf.sekunden->text());
+  lauf.sekunden->setText(typed);
+  if (const auto time = regionalNumber(typed))
+    selected().*lauf.zeit = *time;
+}
+
+void Form7::joinTime(const Lauf &lauf) {
+  const auto time = joined(lauf.teile[0]->text(), lauf.teile[1]->text(), lauf.teile[2]->text());
+  if (!time)
+    return;
+  selected().*lauf.zeit = *time;
+  lauf.sekunden->setText(plainText(*time));
+}
+
+// Reading stops at the decimal comma that the box itself shows, so passing through it cuts the fraction; this is meant.
+void Form7::takePunkte() {
+  selected().Punkte = float(leadingNumber(ui->Text5->text()));
+}
+
+void Form7::zeitUebernehmen(const QString &zeit) {
+  if (const auto time = regionalNumber(zeit)) {
+    selected().Zeit1 = *time;
+    ui->Text1->setText(zeit);
+  }
+}
+
+void Form7::showResult(bool open) {
+  Q_EMIT ergebnisVerlangt(open);
+  if (!open)
+    return;
+  ErgebnisRechnen(m_store);
+  Q_EMIT ergebnisGerechnet();
+}
