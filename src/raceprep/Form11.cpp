@@ -7,9 +7,10 @@
 
 namespace {
 
-// As Tab does, so that what is typed next takes the place of what is there.
+// As by Tab: what is typed next takes the place of what is there.
 void enter(QLineEdit *field) {
-  field->setFocus(Qt::TabFocusReason);
+  field->setFocus();
+  field->selectAll();
 }
 
 } // namespace
