@@ -72,9 +72,8 @@ QString headLine(const Store &store, int klasse) {
 QString personLine(const Store &store, int person, int place, const QString &name) {
   QString line = rightAligned(plainText(place), 4) + QStringLiteral(". ") + padded(name, NameLength);
   for (int round = 1; round <= store.CupRunden; ++round)
-    line += rightAligned(isStruck(store, person, round) ? QStringLiteral("X")
-                                                        : plainText(store.CupPunkte(person, round)),
-                         RoundLength);
+    line += rightAligned(
+        isStruck(store, person, round) ? QStringLiteral("X") : plainText(store.CupPunkte(person, round)), RoundLength);
   return line + rightAligned(plainText(store.CupPunkte(person, 0)), RoundLength);
 }
 

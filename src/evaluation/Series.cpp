@@ -70,3 +70,10 @@ QHash<int, int> zeilenDerLaeufer(const Store &store) {
 int rennenDerWertung(const QString &line) {
   return int(wholeNumber(QStringView(line).left(NumberLength)));
 }
+
+QList<int> rennenDerWertung(const QStringList &lines, const QList<int> &marked) {
+  QList<int> races;
+  for (const int line : marked)
+    races.append(rennenDerWertung(lines[line]));
+  return races;
+}

@@ -32,3 +32,5 @@ QHash<int, int> zeilenDerLaeufer(const Store &store);
 
 /// Number that the evaluations read at the head of a line of the race list; it holds three digits at most.
 int rennenDerWertung(const QString &line);
+/// The races of the marked lines.
+QList<int> rennenDerWertung(const QStringList &lines, const QList<int> &marked);

@@ -36,8 +36,9 @@ QStringList gruppenZeilen(const Store &store);
 
 /// Ranks the race and its units; gives the lines of the units with value, name and unit number, the best first. For
 /// each unit of a "Zeitsumme der besten" `arbeitsliste` gets its times in order, each with its row.
-QStringList teamWertung(Store &store, const Wertung &wertung,
-                        const std::function<void(const QStringList &)> &arbeitsliste = [](const QStringList &) {});
+QStringList teamWertung(
+    Store &store, const Wertung &wertung,
+    const std::function<void(const QStringList &)> &arbeitsliste = [](const QStringList &) {});
 
 /// Unit number at the end of such a line.
 int einheitAmEnde(const QString &line);
