@@ -20,6 +20,9 @@ void LaeuferLesen(Store &store);
 /// RennenLeeren first, whatever comes next; texts are trimmed but for `RennenNrText`. Outside the range: a beep.
 void RennenLesen(Store &store);
 
+/// A race from its record as RennenLesen takes it.
+RennenSatz trimmedRace(const QByteArray &record);
+
 /// The count is raised if needed; Vext.dat is written anew whenever the index is not below the count.
 void VereinSchreiben(Store &store);
 /// Does nothing at an index below 1; VereinSchreiben and RennenSchreiben have no such guard and fault there, on
@@ -32,6 +35,11 @@ void LaeuferLeeren(Store &store);
 /// Leaves the eight criteria and choices (`WertKlassen` … `BestzeitText`) alone, so that a new race inherits those of
 /// the race before it.
 void RennenLeeren(Store &store);
+
+/// Makes the last athlete (club) the current one, as a register opens; in an empty register that is a new record 1,
+/// which counts from then on in memory, though nothing has been written yet.
+void letztenLaeuferLesen(Store &store);
+void letztenVereinLesen(Store &store);
 
 /// Lines of `Form2.List1`: all clubs with a name, sorted; ends in the record number. The index is restored.
 QStringList VereinListeFuellen(Store &store);

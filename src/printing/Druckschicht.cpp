@@ -46,8 +46,8 @@ void Druckschicht::Line(double x1, double y1, double x2, double y2, unsigned col
   page().append(LineOperation{x1, y1, x2, y2, DrawWidth, color});
 }
 
-void Druckschicht::Box(double x1, double y1, double x2, double y2) {
-  page().append(BoxOperation{x1, y1, x2, y2, DrawWidth});
+void Druckschicht::Box(double x1, double y1, double x2, double y2, unsigned color) {
+  page().append(BoxOperation{x1, y1, x2, y2, DrawWidth, color});
 }
 
 void Druckschicht::FilledBox(double x1, double y1, double x2, double y2, unsigned color) {

@@ -59,7 +59,7 @@ public:
 
   /// Colours are 0xRRGGBB. None of these moves the current position.
   void Line(double x1, double y1, double x2, double y2, unsigned color = 0);
-  void Box(double x1, double y1, double x2, double y2);
+  void Box(double x1, double y1, double x2, double y2, unsigned color = 0);
   void FilledBox(double x1, double y1, double x2, double y2, unsigned color);
   void PaintPicture(const PrintPicture &picture, double x, double y, double width, double height);
   /// Reads a picture, once for each path; what cannot be read prints nothing.

@@ -71,14 +71,14 @@ TEST_F(DruckschichtTest, ShapesDoNotMoveThePosition) {
   druck.CurrentY = 6;
   druck.DrawWidth = 3;
   druck.Line(1, 2, 3, 4, 0xC0C0C0);
-  druck.Box(1, 2, 3, 4);
+  druck.Box(1, 2, 3, 4, 0x505050);
   druck.FilledBox(1, 2, 3, 4.005, 0xD0D0D0);
   druck.PaintPicture(druck.LoadPicture(QStringLiteral(":/kopf1.jpg")), 191, 11, 5.5, 18);
   EXPECT_EQ(druck.CurrentX, 5);
   EXPECT_EQ(druck.CurrentY, 6);
   EXPECT_FALSE(druck.LoadPicture(QStringLiteral(":/kopf1.jpg")).image.isNull());
   EXPECT_EQ(text(), (QStringList{QStringLiteral("page"), QStringLiteral("line 1.00 2.00 3.00 4.00 width 3 C0C0C0"),
-                                 QStringLiteral("box 1.00 2.00 3.00 4.00 width 3"),
+                                 QStringLiteral("box 1.00 2.00 3.00 4.00 width 3 505050"),
                                  QStringLiteral("fill 1.00 2.00 3.00 4.00 D0D0D0"),
                                  QStringLiteral("picture 191.00 11.00 5.50 18.00 kopf1.jpg")}));
 }

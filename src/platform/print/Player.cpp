@@ -39,7 +39,7 @@ public:
     m_painter.drawLine(QPointF(o.x1, o.y1) * DotsAMillimetre, QPointF(o.x2, o.y2) * DotsAMillimetre);
   }
   void operator()(const BoxOperation &o) {
-    m_painter.setPen(pen(o.lineWidth, 0));
+    m_painter.setPen(pen(o.lineWidth, o.color));
     m_painter.setBrush(Qt::NoBrush);
     m_painter.drawRect(inDots(o.x1, o.y1, o.x2, o.y2));
   }

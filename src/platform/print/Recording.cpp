@@ -25,7 +25,7 @@ struct Describe {
     return QStringLiteral("line") + positions({o.x1, o.y1, o.x2, o.y2}) + width(o.lineWidth) + hex(o.color);
   }
   QString operator()(const BoxOperation &o) const {
-    return QStringLiteral("box") + positions({o.x1, o.y1, o.x2, o.y2}) + width(o.lineWidth);
+    return QStringLiteral("box") + positions({o.x1, o.y1, o.x2, o.y2}) + width(o.lineWidth) + hex(o.color);
   }
   QString operator()(const FillOperation &o) const {
     return QStringLiteral("fill") + positions({o.x1, o.y1, o.x2, o.y2}) + hex(o.color);

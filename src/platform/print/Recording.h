@@ -42,10 +42,11 @@ struct LineOperation {
   int lineWidth;
   unsigned color;
 };
-/// The outline of a rectangle, black.
+/// The outline of a rectangle.
 struct BoxOperation {
   double x1, y1, x2, y2;
   int lineWidth;
+  unsigned color;
 };
 struct FillOperation {
   double x1, y1, x2, y2;

@@ -62,8 +62,7 @@ void setQuiet(QWidget *widget) {
   if (!widget->property("leise").toBool())
     return;
   QPalette palette = widget->palette();
-  for (const auto role : {QPalette::WindowText, QPalette::Text}) // on a card a label takes the second
-    palette.setColor(role, palette.color(QPalette::PlaceholderText));
+  palette.setColor(QPalette::WindowText, palette.color(QPalette::PlaceholderText));
   widget->setPalette(palette);
 }
 
@@ -81,7 +80,13 @@ void setCard(QWidget *widget) {
 
 } // namespace
 
+// The pictures lie in a static library; only a call makes the linker keep them. It must stand outside every namespace.
+static void keepPictures() {
+  Q_INIT_RESOURCE(assets);
+}
+
 void Look::apply(QApplication &application) {
+  keepPictures();
   QApplication::setStyle(QStringLiteral("Fusion"));
   QPalette palette = QApplication::palette();
   setColors(palette);

@@ -1,17 +1,11 @@
 #include "platform/qt/PrintRun.h"
 
 #include "platform/print/Printers.h"
+#include "platform/qt/BusyPointer.h"
 
-#include <QGuiApplication>
 #include <QMessageBox>
 
 namespace {
-
-struct BusyPointer {
-  BusyPointer() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-  ~BusyPointer() { QGuiApplication::restoreOverrideCursor(); }
-  Q_DISABLE_COPY(BusyPointer)
-};
 
 QString faultOf(const std::function<void()> &documents) {
   const BusyPointer busy;

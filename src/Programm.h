@@ -1,0 +1,56 @@
+#pragma once
+
+#include "core/Store.h"
+#include "platform/qt/Desk.h"
+
+#include <QHash>
+#include <QObject>
+#include <QPointer>
+
+class Form1;
+class Form17;
+class Form4;
+class Screen;
+
+/// The roof: makes the screens and is the only place that knows which screen opens which.
+///
+/// A screen is made anew each time it opens and destroyed after it has closed. It either takes the place of its opener,
+/// which is hidden until it closes, or stands beside it and closes with it.
+class Programm : public QObject {
+  Q_OBJECT
+
+public:
+  /// The store is started; the screens and the reminder of the saves work on it.
+  explicit Programm(Store &store);
+  ~Programm() override;
+
+  /// Shows the menu. Its closing, and nothing else, ends the event loop of the application.
+  void start();
+  /// A quiet line on the menu; an empty text takes it away.
+  void sicherungHinweis(const QString &text);
+
+private:
+  using Opening = std::function<void()>;
+
+  QHash<QString, Opening> openings();
+  void open(const QString &screen);
+  void openRaceRegister();
+  void askDeletion();
+  void remind(const QStringList &lines);
+
+  /// Shows `screen` in the place of `opener`.
+  template <typename S> S &replace(Screen &opener, S *screen);
+  /// Shows `screen` beside `opener`.
+  template <typename S> S &beside(Screen &opener, S *screen);
+  void adopt(Screen &screen);
+  void showInPlace(Screen &opener, Screen &screen);
+  void showBeside(Screen &opener, Screen &screen);
+
+  Store &m_store;
+  Desk m_desk;
+  QHash<QString, Opening> m_openings;
+  QPointer<Form1> m_menu;
+  QPointer<Form4> m_hub;
+  QPointer<Form17> m_reminder;
+  QList<QPointer<Screen>> m_screens;
+};

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "platform/qt/Screen.h"
+
+#include <QTimer>
+
+#include <array>
+#include <memory>
+
+class Picture;
+struct Store;
+namespace Ui {
+class Form1;
+}
+
+/// The menu. `Label1` the organisation's name, and the makers' web address for a moment when the mouse moves over it
+/// (`Timer1`, 2 seconds); `Image1` to `Image8` pictures, one drawn by lot each time; `Label2`, `Label3`, `Label4` the
+/// counts of athletes, clubs and races over `Command1`, `Command2`, `Command3`, which open the registers; `Command4`
+/// ends the program. `SicherungHinweis` tells of a safety copy that failed.
+class Form1 : public Screen {
+  Q_OBJECT
+
+public:
+  Form1(Desk &desk, Store &store);
+  ~Form1() override;
+
+  void becomeActive() override;
+  /// A quiet line at the foot; an empty text takes it away.
+  void sicherungHinweis(const QString &text);
+
+Q_SIGNALS:
+  /// A register is to be opened, by its object name.
+  void oeffnet(const QString &screen);
+
+protected:
+  void closing() override;
+  bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+  void makePictures();
+  void showName();
+  void showAddress();
+
+  static constexpr int PictureCount = 8;
+  std::unique_ptr<Ui::Form1> ui;
+  Store &m_store;
+  std::array<Picture *, PictureCount> m_pictures{};
+  QTimer m_timer;
+};

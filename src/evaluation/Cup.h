@@ -1,0 +1,42 @@
+#pragma once
+
+#include "core/Store.h"
+
+/// What the screen of the cup shows after an evaluation.
+struct CupErgebnis {
+  /// Names of all persons, in the order in which they were found.
+  QStringList namen;
+  /// One line for each person in the order of the result, see cupSchluessel.
+  QStringList schluessel;
+  /// The listing.
+  QStringList zeilen;
+  /// Results struck per person: as many as were wanted, at most one for each round.
+  int gestrichen = 0;
+};
+
+/// Scores the cup of `races`, which stand as in the list of races; round 1 is the last of them. A second run counts as
+/// a round of its own if at least five have a second time. The criteria and the race record of the last race hold for
+/// all. Fills the cup tables; the tables of the race are left with the last one ranked. More than ten rounds are a
+/// RangeFault.
+///
+/// A person is a name: of two athletes with the same name only the first one found gets results. A person without a
+/// name does not take part.
+CupErgebnis cupAuswerten(Store &store, const QList<int> &races, qint64 streichresultate);
+
+/// The names in the order of a list of persons.
+QStringList teilnehmerZeilen(const QStringList &names);
+
+/// Lines of the points table: the places with more than 0 points; with `auchNegative` all that are not 0.
+QStringList punkteZeilen(const Store &store, bool auchNegative);
+
+/// What Cup.dat holds beside the points table.
+struct CupAuswahl {
+  QString bezeichnung;
+  QList<int> rennen;
+};
+/// Sets the points table from Cup.dat, or as usual where there is none.
+CupAuswahl cupLaden(Store &store);
+/// Writes Cup.dat anew.
+void cupSpeichern(const Store &store, const CupAuswahl &auswahl);
+/// Number that Cup.dat holds for a line of the race list.
+int rennenDesCups(const QString &line);

@@ -1,0 +1,129 @@
+#include "evaluation/Form20.h"
+
+#include "evaluation/Cup.h"
+#include "evaluation/Series.h"
+#include "platform/Numbers.h"
+#include "platform/qt/BusyPointer.h"
+#include "platform/qt/PrintRun.h"
+#include "printing/CupList.h"
+#include "raceprep/RaceList.h"
+#include "ui_Form20.h"
+
+#include <QMouseEvent>
+
+#include <algorithm>
+#include <limits>
+
+Form20::Form20(Desk &desk, Store &store, Printers &printers)
+    : Screen(desk, QStringLiteral("Form20"), 20), m_store(store), m_printers(printers),
+      ui(std::make_unique<Ui::Form20>()), m_openRace(store.AktRennen) {
+  ui->setupUi(this);
+  setUp();
+  load();
+  connectControls();
+  ui->List1->setFocus();
+}
+
+Form20::~Form20() = default;
+
+void Form20::load() {
+  ui->List1->fill(rennenZeilen(m_store));
+  const CupAuswahl cup = cupLaden(m_store);
+  ui->Text4->setText(cup.bezeichnung);
+  const QStringList &lines = ui->List1->lines();
+  for (int line = 0; line < lines.size(); ++line)
+    if (cup.rennen.contains(rennenDesCups(lines[line])))
+      ui->List1->setMarked(line, true);
+  ui->Command1->setEnabled(!ui->List1->marked().isEmpty());
+  ui->List2->fill(punkteZeilen(m_store, false));
+}
+
+void Form20::connectControls() {
+  connect(ui->List1, &MarkList::markToggled, this, &Form20::marksChanged);
+  connect(ui->Text1, &QLineEdit::textChanged, this, &Form20::placeChanged);
+  connect(ui->Text2, &QLineEdit::textChanged, this, &Form20::pointsChanged);
+  onReturn(ui->Text1, [this] { ui->Text2->setFocus(Qt::TabFocusReason); });
+  onReturn(ui->Text2, [this] { nextPlace(); });
+  onLeave(ui->Text2, [this] { ui->List2->fill(punkteZeilen(m_store, true)); });
+  ui->Text3->installEventFilter(this);
+  connect(ui->Command1, &QPushButton::clicked, this, &Form20::evaluate);
+  connect(ui->Command2, &QPushButton::clicked, this, &Form20::print);
+  connect(ui->Command3, &QPushButton::clicked, this, &Form20::close);
+}
+
+void Form20::lockPrint() {
+  setControlEnabled(ui->Command2, false, ui->Command3);
+}
+
+// A click into the number of strokes, not the Tab key, makes a new evaluation necessary.
+bool Form20::eventFilter(QObject *watched, QEvent *event) {
+  if (watched == ui->Text3 && event->type() == QEvent::MouseButtonPress &&
+      static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton)
+    lockPrint();
+  return Screen::eventFilter(watched, event);
+}
+
+void Form20::marksChanged() {
+  lockPrint();
+  setControlEnabled(ui->Command1, !ui->List1->marked().isEmpty(), ui->Command3);
+}
+
+int Form20::place() const {
+  return int(std::clamp<qint64>(wholeNumber(trimmedBlanks(ui->Text1->text())), 1, 100));
+}
+
+void Form20::placeChanged() {
+  lockPrint();
+  ui->Text2->setEnabled(true);
+  if (const QString held = plainText(place()); ui->Text1->text() != held)
+    ui->Text1->setText(held);
+  const int points = m_store.CupPunkteTabelle[place()];
+  ui->Text2->setText(points == 0 ? QString() : plainText(points));
+}
+
+void Form20::pointsChanged() {
+  lockPrint();
+  const qint64 points = wholeNumber(ui->Text2->text());
+  using Limits = std::numeric_limits<qint16>;
+  if (points < Limits::min() || points > Limits::max())
+    return m_store.umgebung.piep();
+  m_store.CupPunkteTabelle[place()] = qint16(points);
+}
+
+void Form20::nextPlace() {
+  ui->Text1->setText(plainText(place() + 1));
+  ui->Text1->setFocus(Qt::TabFocusReason);
+}
+
+void Form20::evaluate() {
+  const BusyPointer busy;
+  Q_EMIT arbeitBegonnen();
+  const qint64 wanted = wholeNumber(trimmedBlanks(ui->Text3->text()));
+  const CupErgebnis result = cupAuswerten(m_store, rennenDerWertung(ui->List1->lines(), ui->List1->marked()), wanted);
+  Q_EMIT arbeitBeendet();
+  ui->List3->fill(teilnehmerZeilen(result.namen));
+  ui->Label8->setText(plainText(int(result.namen.size())));
+  if (result.gestrichen < std::abs(wanted))
+    ui->Text3->setText(plainText(result.gestrichen));
+  ui->List4->fill(result.schluessel);
+  ui->List5->fill(result.zeilen);
+  ui->Command2->setEnabled(true);
+}
+
+// One print for each evaluation.
+void Form20::print() {
+  lockPrint();
+  runPrinting(this, [this] {
+    Druckschicht druck(m_printers);
+    Cupliste(m_store, druck, {ui->Text4->text(), ui->Check1->isChecked(), ui->List4->lines()});
+  });
+}
+
+void Form20::closing() {
+  CupAuswahl cup{ui->Text4->text(), {}};
+  for (const int line : ui->List1->marked())
+    cup.rennen.append(rennenDesCups(ui->List1->lines()[line]));
+  cupSpeichern(m_store, cup);
+  rennenLaden(m_store, m_openRace);
+  rennsatzLesen(m_store);
+}

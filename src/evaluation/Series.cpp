@@ -1,0 +1,79 @@
+#include "evaluation/Series.h"
+
+#include "core/Classes.h"
+#include "core/RaceFiles.h"
+#include "core/RecordFiles.h"
+#include "platform/Numbers.h"
+#include "timing/Ranking.h"
+
+namespace {
+
+constexpr int NumberLength = 4; // with the leading blank; a fourth digit is cut off
+
+} // namespace
+
+Kriterien kriterienMerken(const Store &store) {
+  const auto &race = store.Rennen;
+  return {race.WertKlassen, race.WertGeschlecht, race.WertGaeste, race.WertBoarder, race.WertZeit};
+}
+
+void rennenLaden(Store &store, int race) {
+  store.AktRennen = race;
+  RennDatenLaden(store);
+}
+
+void rennsatzLesen(Store &store) {
+  store.RennenIdx = store.AktRennen;
+  RennenLesen(store);
+}
+
+void zweitenLaufStreichen(Store &store) {
+  for (int row = 1; row <= 1000; ++row) {
+    store.Teilnehmer[row].Zeit2 = 0;
+    store.Teilnehmer[row].Status2 = 0;
+  }
+}
+
+void zweitenLaufVorziehen(Store &store) {
+  for (int row = 1; row <= 1000; ++row) {
+    auto &participant = store.Teilnehmer[row];
+    participant.Zeit1 = participant.Zeit2;
+    participant.Status1 = participant.Status2;
+  }
+  zweitenLaufStreichen(store);
+}
+
+void werten(Store &store, const Kriterien &kriterien) {
+  auto &race = store.Rennen;
+  race.WertKlassen = kriterien.WertKlassen;
+  race.WertGeschlecht = kriterien.WertGeschlecht;
+  race.WertGaeste = kriterien.WertGaeste;
+  race.WertBoarder = kriterien.WertBoarder;
+  race.WertZeit = kriterien.WertZeit;
+  KlassenZuordnen(store);
+  ErgebnisRechnen(store);
+}
+
+void klassenNamenMerken(Store &store) {
+  for (int klasse = 0; klasse <= 159; ++klasse)
+    store.CupKlasseName[klasse] = store.KlasseGenauName[klasse];
+}
+
+QHash<int, int> zeilenDerLaeufer(const Store &store) {
+  QHash<int, int> rows;
+  for (int row = 1; row <= 1000; ++row)
+    if (const int athlete = store.Teilnehmer[row].LaeuferNr; athlete != 0)
+      rows[athlete] = row;
+  return rows;
+}
+
+int rennenDerWertung(const QString &line) {
+  return int(wholeNumber(QStringView(line).left(NumberLength)));
+}
+
+QList<int> rennenDerWertung(const QStringList &lines, const QList<int> &marked) {
+  QList<int> races;
+  for (const int line : marked)
+    races.append(rennenDerWertung(lines[line]));
+  return races;
+}

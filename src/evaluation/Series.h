@@ -1,0 +1,36 @@
+#pragma once
+
+#include "core/Store.h"
+
+#include <QHash>
+
+// What cup and time sum share: one race after another is loaded into the tables and ranked under the criteria of one of
+// them. Only the tables change, no file.
+
+/// The criteria of one race that hold for all.
+struct Kriterien {
+  quint8 WertKlassen, WertGeschlecht, WertGaeste, WertBoarder, WertZeit;
+};
+Kriterien kriterienMerken(const Store &store);
+
+/// Loads the tables of a race; the race record stays.
+void rennenLaden(Store &store, int race);
+/// Makes the record of the loaded race the current one.
+void rennsatzLesen(Store &store);
+
+/// Leaves only the first run to be ranked.
+void zweitenLaufStreichen(Store &store);
+/// Puts the second run in the place of the first.
+void zweitenLaufVorziehen(Store &store);
+/// Assigns the classes and ranks under the criteria. The surcharges are those of the current race record.
+void werten(Store &store, const Kriterien &kriterien);
+
+/// The exact designations of the loaded race become those of the series.
+void klassenNamenMerken(Store &store);
+/// Row of each athlete; of an athlete in several rows the last.
+QHash<int, int> zeilenDerLaeufer(const Store &store);
+
+/// Number that the evaluations read at the head of a line of the race list; it holds three digits at most.
+int rennenDerWertung(const QString &line);
+/// The races of the marked lines.
+QList<int> rennenDerWertung(const QStringList &lines, const QList<int> &marked);

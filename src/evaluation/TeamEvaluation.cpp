@@ -1,0 +1,296 @@
+#include "evaluation/TeamEvaluation.h"
+
+#include "core/Participants.h"
+#include "core/RecordFiles.h"
+#include "core/ValueFormats.h"
+#include "platform/Numbers.h"
+#include "platform/SortedLines.h"
+#include "timing/Ranking.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int Units = 100;
+constexpr int NameLength = 20, UnitLength = 6, TimeLength = 10, RowLength = 4;
+constexpr double NoTime = 99999999;
+/// What each missing member of a "Zeitsumme der besten" costs, so that incomplete units stand behind complete ones.
+constexpr double MissingMember = 100000;
+
+QString blanks(int count) {
+  return QString(count, QLatin1Char(' '));
+}
+
+// A row without a club of its own keeps what it had: that is meant.
+void findClubs(Store &store) {
+  for (int row = 1; row <= 1000; ++row) {
+    const auto &participant = store.Teilnehmer[row];
+    if (participant.LaeuferNr == 0)
+      continue;
+    readAthlete(store, participant);
+    if (participant.VereinNr < 1 || participant.VereinNr > 3)
+      continue;
+    const int club = startClub(store, participant);
+    store.VereinRecNr[row] = club >= 1 && club <= store.VereinAnzahl ? club : 0;
+  }
+}
+
+/// Number of the unit that is this club; 0 if it has none.
+int unitOfClub(const Store &store, int club) {
+  for (int k = 1; k <= Units; ++k)
+    if (store.WertVerein[k] == club)
+      return k;
+  return 0;
+}
+
+void numberClubs(Store &store) {
+  store.WertVerein.fill(0);
+  int last = 0;
+  for (int row = 1; row <= 1000; ++row) {
+    const int club = store.VereinRecNr[row];
+    if (club <= 0 || unitOfClub(store, club) != 0)
+      continue;
+    last = std::min(last + 1, Units);
+    store.WertVerein[last] = club;
+  }
+}
+
+void assignUnits(Store &store) {
+  store.WertVereinIdx.fill(0);
+  for (int row = 1; row <= 1000; ++row) {
+    const auto &participant = store.Teilnehmer[row];
+    if (participant.LaeuferNr != 0 && participant.VereinNr != 0 && store.VereinRecNr[row] != 0)
+      store.WertVereinIdx[row] = unitOfClub(store, store.VereinRecNr[row]);
+  }
+}
+
+bool isRanked(const TeilnehmerZeile &participant) {
+  return participant.WertSumme != 0 && participant.LaeuferNr != 0 &&
+         qint64(participant.Status1) + participant.Status2 <= 0;
+}
+
+bool passes(const Store &store, int row, WertungsFilter filter) {
+  switch (filter) {
+  case WertungsFilter::NurMaennlich:
+    return store.TnGeschlecht[row] != 0;
+  case WertungsFilter::NurWeiblich:
+    return store.TnGeschlecht[row] != 1;
+  default:
+    return true;
+  }
+}
+
+QList<int> countingRows(const Store &store, WertungsFilter filter) {
+  QList<int> rows;
+  for (int row = 1; row <= 1000; ++row)
+    if (isRanked(store.Teilnehmer[row]) && passes(store, row, filter))
+      rows.append(row);
+  return rows;
+}
+
+int unitOfRow(const Store &store, Einheit einheit, int row) {
+  switch (einheit) {
+  case Einheit::Verein:
+    return store.WertVereinIdx[row];
+  case Einheit::Mannschaft:
+    return store.Teilnehmer[row].MannschaftNr;
+  case Einheit::Gruppe:
+    return store.Teilnehmer[row].GruppeNr;
+  default:
+    return 0;
+  }
+}
+
+// With nothing chosen every row counts for every unit: that is meant.
+bool countsFor(const Store &store, Einheit einheit, int row, int unit) {
+  return einheit == Einheit::Keine || unitOfRow(store, einheit, row) == unit;
+}
+
+bool exists(const Store &store, Einheit einheit, int unit) {
+  switch (einheit) {
+  case Einheit::Verein:
+    return store.WertVerein[unit] != 0;
+  case Einheit::Mannschaft:
+    return !store.MannschaftName[unit].isEmpty();
+  case Einheit::Gruppe:
+    return !store.GruppeName[unit].isEmpty();
+  default:
+    return true;
+  }
+}
+
+// Only with a filter are the marks of an earlier sum taken away: that is meant.
+void prepareFilter(Store &store, WertungsFilter filter) {
+  if (filter == WertungsFilter::Gemischt)
+    return;
+  store.WertGezaehlt.fill(0);
+  for (int row = 1; row <= 1000; ++row) {
+    if (!isRanked(store.Teilnehmer[row]))
+      continue;
+    readAthlete(store, store.Teilnehmer[row]);
+    store.TnGeschlecht[row] = store.Laeufer.Geschlecht;
+  }
+}
+
+void takeBestTimes(Store &store, const Wertung &wertung) {
+  store.WertErgebnis.fill(NoTime);
+  for (const int row : countingRows(store, wertung.filter))
+    if (const int unit = unitOfRow(store, wertung.einheit, row); unit != 0)
+      store.WertErgebnis[unit] = std::min(store.WertErgebnis[unit], store.Teilnehmer[row].WertSumme);
+}
+
+void takeAverages(Store &store, const Wertung &wertung) {
+  store.WertErgebnis.fill(0);
+  Tabelle<int, 1, Units> counted("WertAnzahl");
+  for (const int row : countingRows(store, wertung.filter)) {
+    if (const int unit = unitOfRow(store, wertung.einheit, row); unit != 0) {
+      store.WertErgebnis[unit] += store.Teilnehmer[row].WertSumme;
+      ++counted[unit];
+    }
+  }
+  for (int k = 1; k <= Units; ++k)
+    if (counted[k] > 0)
+      store.WertErgebnis[k] /= counted[k];
+}
+
+// The times are added as they are listed, rounded to hundredths.
+double sumOfBest(Store &store, const QStringList &times, int wanted) {
+  const auto best = times.first(std::min<qsizetype>(times.size(), wanted));
+  double sum = 0;
+  for (const QString &line : best) {
+    sum += regionalNumber(QStringView(line).left(TimeLength)).value_or(0);
+    store.WertGezaehlt[rowAtEnd(line, RowLength)] = 1;
+  }
+  return sum + double(wanted - best.size()) * MissingMember;
+}
+
+void takeSumsOfBest(Store &store, const Wertung &wertung, const std::function<void(const QStringList &)> &workList) {
+  store.WertErgebnis.fill(0);
+  const QList<int> rows = countingRows(store, wertung.filter);
+  for (int k = 1; k <= Units; ++k) {
+    if (!exists(store, wertung.einheit, k))
+      continue;
+    SortedLines lines;
+    for (const int row : rows)
+      if (countsFor(store, wertung.einheit, row, k))
+        lines.add(WertText10(store.Teilnehmer[row].WertSumme) + blanks(10) + plainText(row));
+    const QStringList times = lines.take();
+    store.WertErgebnis[k] = sumOfBest(store, times, wertung.anzahlBeste);
+    workList(times);
+  }
+}
+
+QStringList unitLines(Store &store, Einheit einheit) {
+  SortedLines lines;
+  for (int k = 1; k <= Units; ++k) {
+    const double value = store.WertErgebnis[k];
+    if (value != NoTime && value != 0)
+      lines.add(WertText10(value) + QLatin1Char(' ') + einheitName(store, einheit, k).left(NameLength) + blanks(5) +
+                spacedText(k));
+  }
+  return lines.take();
+}
+
+// A club has those members too that only an earlier race put there.
+bool isMember(const Store &store, Einheit einheit, int row, int unit) {
+  return einheit == Einheit::Verein ? store.VereinRecNr[row] == store.WertVerein[unit]
+                                    : countsFor(store, einheit, row, unit);
+}
+
+QString memberPrefix(const TeilnehmerZeile &participant, MitgliederOrdnung ordnung) {
+  switch (ordnung) {
+  case MitgliederOrdnung::NachZeit:
+    return WertText8(participant.WertSumme);
+  case MitgliederOrdnung::NachKlassen:
+    return rightAligned(plainText(participant.KlasseReihe), 3);
+  default:
+    return {};
+  }
+}
+
+} // namespace
+
+void wertungVorbereiten(Store &store) {
+  findClubs(store);
+  ErgebnisRechnen(store);
+  numberClubs(store);
+  assignUnits(store);
+}
+
+QStringList vereinsZeilen(Store &store) {
+  QStringList lines;
+  for (int k = 1; k <= Units; ++k)
+    if (store.WertVerein[k] != 0)
+      lines << trimmedBlanks(einheitName(store, Einheit::Verein, k));
+  return lines;
+}
+
+QStringList mannschaftsZeilen(const Store &store) {
+  QStringList lines;
+  for (int k = 1; k <= Units; ++k) {
+    int members = 0;
+    for (int row = 1; row <= 1000; ++row)
+      members += store.Teilnehmer[row].MannschaftNr == k;
+    if (members != 0 && exists(store, Einheit::Mannschaft, k))
+      lines << rightAligned(plainText(members), 3) + QLatin1Char(' ') + store.MannschaftName[k] + blanks(12) +
+                   spacedText(k);
+  }
+  return lines;
+}
+
+QStringList gruppenZeilen(const Store &store) {
+  QStringList lines;
+  for (int k = 1; k <= Units; ++k)
+    if (exists(store, Einheit::Gruppe, k))
+      lines << store.GruppeName[k];
+  return lines;
+}
+
+QStringList teamWertung(Store &store, const Wertung &wertung,
+                        const std::function<void(const QStringList &)> &arbeitsliste) {
+  ErgebnisRechnen(store);
+  prepareFilter(store, wertung.filter);
+  switch (wertung.art) {
+  case WertungsArt::Bestzeit:
+    takeBestTimes(store, wertung);
+    break;
+  case WertungsArt::Durchschnitt:
+    takeAverages(store, wertung);
+    break;
+  case WertungsArt::ZeitsummeDerBesten:
+    takeSumsOfBest(store, wertung, arbeitsliste);
+    break;
+  }
+  return unitLines(store, wertung.einheit);
+}
+
+int einheitAmEnde(const QString &line) {
+  return rowAtEnd(line, UnitLength);
+}
+
+QString einheitName(Store &store, Einheit einheit, int unit) {
+  switch (einheit) {
+  case Einheit::Verein:
+    store.VereinIdx = store.WertVerein[unit];
+    VereinLesen(store);
+    return store.Verein.VereinKurz;
+  case Einheit::Mannschaft:
+    return store.MannschaftName[unit];
+  case Einheit::Gruppe:
+    return store.GruppeName[unit];
+  default:
+    return {};
+  }
+}
+
+QStringList mitgliederZeilen(Store &store, const Wertung &wertung, int unit, MitgliederOrdnung ordnung) {
+  SortedLines lines;
+  for (const int row : countingRows(store, wertung.filter)) {
+    if (!isMember(store, wertung.einheit, row, unit))
+      continue;
+    readAthlete(store, store.Teilnehmer[row]);
+    lines.add(memberPrefix(store.Teilnehmer[row], ordnung) + blanks(3) + trimmedBlanks(store.Laeufer.Name) + blanks(7) +
+              spacedText(row));
+  }
+  return lines.take();
+}

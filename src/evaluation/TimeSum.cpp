@@ -1,0 +1,117 @@
+#include "evaluation/TimeSum.h"
+
+#include "core/Participants.h"
+#include "core/RaceFiles.h"
+#include "core/RecordFiles.h"
+#include "core/SingleTimes.h"
+#include "evaluation/Series.h"
+#include "platform/Dates.h"
+#include "platform/Numbers.h"
+#include "raceprep/RaceList.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int Disqualified = 3;
+
+// The table is not emptied first: entries behind the last row keep what an earlier cup or time sum left; meant.
+void takeBaseRace(Store &store, int race) {
+  rennenLaden(store, race);
+  rennsatzLesen(store);
+  klassenNamenMerken(store);
+  for (int row = 1; row <= 1000; ++row) {
+    const auto &participant = store.Teilnehmer[row];
+    if (participant.LaeuferNr == 0)
+      continue;
+    store.CupLaeufer[row] = participant.LaeuferNr;
+    store.CupKlasse[row] = participant.KlasseGenau;
+  }
+}
+
+void addTime(Store &store, int entry, const TeilnehmerZeile &participant) {
+  store.CupZeit(entry, 0) += participant.WertZeit1;
+  store.CupZeit(entry, store.CupRunden) = participant.WertZeit1;
+  if (participant.Status1 > 0 || participant.Zeit1 == 0)
+    store.CupStatus(entry, 0) = Disqualified;
+}
+
+void addTimes(Store &store) {
+  const QHash<int, int> rows = zeilenDerLaeufer(store);
+  for (int entry = 1; entry <= 1000 && store.CupLaeufer[entry] != 0; ++entry) {
+    const auto row = rows.constFind(store.CupLaeufer[entry]);
+    if (row == rows.constEnd())
+      store.CupStatus(entry, 0) = Disqualified;
+    else
+      addTime(store, entry, store.Teilnehmer[*row]);
+  }
+}
+
+// The race record is read behind the ranking, so each round is ranked with the surcharges of the round before it, and
+// the first one with those of the base race; this is meant.
+void addRound(Store &store, int race, const Kriterien &kriterien) {
+  rennenLaden(store, race);
+  zweitenLaufStreichen(store);
+  werten(store, kriterien);
+  ++store.CupRunden;
+  addTimes(store);
+  rennsatzLesen(store);
+  store.ZeitsummeRennenKurz[store.CupRunden] = store.Rennen.RennenKurz;
+}
+
+// The tables hold the base race, which was loaded last.
+void putSums(Store &store) {
+  zweitenLaufStreichen(store);
+  for (int row = 1; row <= 1000; ++row) {
+    auto &participant = store.Teilnehmer[row];
+    participant.Status1 = store.CupStatus(row, 0);
+    participant.Zeit1 = store.CupZeit(row, 0);
+    participant.ZeitReserve = 0;
+  }
+}
+
+// The surcharges are in the sums already.
+void writeRace(Store &store, int number) {
+  auto &race = store.Rennen;
+  race.RennenName = race.RennenKurz = QStringLiteral("Kombilauf");
+  race.RennenNrText = plainText(number);
+  race.RennenOrt.clear();
+  race.RennenDatum = toDays(store.umgebung.heute());
+  race.Veranstalter.clear();
+  race.ZuschlagGast = race.ZuschlagMann = 0;
+  race.ZweiDurchgaenge = 0;
+  store.RennenIdx = store.AktRennen = number;
+  RennenSchreiben(store);
+  RennDatenSpeichern(store);
+  singleTimesSpeichern(store);
+}
+
+} // namespace
+
+int zeitsummeNummer(const QStringList &races) {
+  QSet<int> taken;
+  int highest = 0;
+  for (const QString &line : races) {
+    taken.insert(rennenNummer(line));
+    highest = std::max(highest, rennenDerWertung(line));
+  }
+  int number = highest + 1;
+  while (taken.contains(number))
+    ++number;
+  return number;
+}
+
+void zeitsummeErzeugen(Store &store, const QList<int> &races, int number) {
+  store.CupZeit.fill(0);
+  store.CupStatus.fill(0);
+  store.ZeitsummeRennenKurz.fill({});
+  store.CupRunden = 0;
+  takeBaseRace(store, races.first());
+  const Kriterien kriterien = kriterienMerken(store);
+  for (auto race = races.crbegin(); race != races.crend(); ++race)
+    addRound(store, *race, kriterien);
+  putSums(store);
+  writeRace(store, number);
+}

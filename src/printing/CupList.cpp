@@ -1,0 +1,184 @@
+#include "printing/CupList.h"
+
+#include "core/RecordFiles.h"
+#include "evaluation/CupScoring.h"
+#include "platform/Dates.h"
+#include "platform/Numbers.h"
+#include "printing/CupColumns.h"
+#include "printing/ListRows.h"
+#include "printing/PrintHelpers.h"
+
+#include <optional>
+
+namespace {
+
+constexpr unsigned FrameColor = 0x505050;
+constexpr int NameAndClub = 38; // characters
+constexpr double PageEnd = 160;
+// Rows are counted in tenths: a heading takes 2.7 of them.
+constexpr int Row = 10, BehindHeading = 17, NearlyEmpty = 100, NoRoomForClass = 300, LastRow = 380;
+
+QList<int> personsOf(const QStringList &keys) {
+  QList<int> persons;
+  for (const QString &key : keys)
+    persons.append(cupPerson(key));
+  return persons;
+}
+
+class CupPrinter {
+public:
+  CupPrinter(Store &store, Druckschicht &druck, const CupListe &liste)
+      : m_store(store), m_druck(druck), m_liste(liste), m_persons(personsOf(liste.schluessel)),
+        m_columns(store, druck, m_persons) {
+    printHead();
+  }
+
+  void printPersons() {
+    for (qsizetype i = 0; i < m_persons.size(); ++i) {
+      printPerson(m_persons[i]);
+      if (m_row > LastRow && double(m_druck.CurrentY) > PageEnd && i + 1 < m_persons.size())
+        continueOnNewPage(m_persons[i + 1]);
+    }
+  }
+
+private:
+  double y() const { return 40 + m_row * 0.4; }
+
+  void printPerson(int person) {
+    if (m_store.CupKlasse[person] != m_klasse)
+      startClass(m_store.CupKlasse[person]);
+    printRow(person, m_places.naechster(m_store.CupPunkte(person, 0)));
+    m_row += Row;
+  }
+
+  void startClass(int klasse) {
+    m_klasse = klasse;
+    m_places.neueKlasse();
+    if (m_liste.klassenAufGetrenntenSeiten && m_row > NearlyEmpty)
+      breakPage();
+    if (m_row > NoRoomForClass)
+      breakPage();
+    printClassName(Druckschicht::End::Line);
+    m_row += BehindHeading;
+  }
+
+  void printClassName(Druckschicht::End end) {
+    m_row += Row;
+    m_druck.CurrentX = 36;
+    m_druck.CurrentY = float(y());
+    m_druck.FontSize = 12;
+    m_druck.FontBold = true;
+    m_druck.Print(m_store.CupKlasseName[m_klasse], end);
+  }
+
+  void breakPage() {
+    m_druck.NewPage();
+    printHead();
+  }
+
+  void continueOnNewPage(int nextPerson) {
+    breakPage();
+    if (m_store.CupKlasse[nextPerson] != m_klasse)
+      return;
+    printClassName(Druckschicht::End::Continued);
+    m_druck.FontBold = false;
+    m_druck.Print(QStringLiteral("  - Fortsetzung"));
+    m_row += BehindHeading;
+  }
+
+  void printRow(int person, int place) {
+    m_druck.FontSize = 9;
+    m_druck.FontBold = true;
+    Zelle(m_druck, 25, y(), place);
+    m_druck.FontBold = false;
+    printNameAndClub(person);
+    Zelle(m_druck, 96, y(), yearOf(m_store.Laeufer.Geburtsdatum));
+    m_columns.printRounds(person, y());
+    Zelle(m_druck, 265, y(), m_store.CupPunkte(person, 0));
+    m_druck.DrawWidth = 2;
+    m_druck.Box(23, y() + 2 - 2.4, 272, y() + 2 + 1.6, FrameColor);
+  }
+
+  void printNameAndClub(int person) {
+    m_store.LaeuferIdx = m_store.CupLaeufer[person];
+    LaeuferLesen(m_store);
+    const QString name = trimmedBlanks(m_store.Laeufer.Name);
+    const QString club = clubText(NameAndClub - int(name.size()));
+    m_druck.CurrentX = 36;
+    m_druck.CurrentY = float(y());
+    m_druck.Print(name, Druckschicht::End::Continued);
+    if (!club.isEmpty())
+      m_druck.Print(QStringLiteral(", ") + club, Druckschicht::End::Continued);
+    m_druck.Print(QStringLiteral(" "));
+  }
+
+  QString clubText(int room) {
+    const auto club = clubOfAthlete();
+    if (!club || room <= 0)
+      return {};
+    m_store.VereinIdx = *club;
+    VereinLesen(m_store);
+    return trimmedBlanks(m_store.Verein.VereinKurz).left(room);
+  }
+
+  // The second club is passed over, and the club of the race plays no part; this is meant.
+  std::optional<int> clubOfAthlete() const {
+    for (const int club : {int(m_store.Laeufer.Verein1), int(m_store.Laeufer.Verein3)})
+      if (club != 0 && club <= m_store.VereinAnzahl)
+        return club;
+    return {};
+  }
+
+  void printHead() {
+    ++m_page;
+    m_row = 0;
+    printTitle();
+    m_druck.FontBold = false;
+    text(260, 12, 8, QStringLiteral("Seite -") + plainText(m_page));
+    text(260, 25, 7, shortDate(m_store.umgebung.heute()));
+    m_druck.DrawWidth = 5;
+    Rahmen(m_druck, 20, 10, 275, 30);
+    m_druck.DrawWidth = 1;
+    m_druck.FontItalic = false;
+    LogoDrucken(m_druck, 205, 11);
+    text(22, 32, 11, QStringLiteral("Rang"));
+    text(36, 32, 11, QStringLiteral("Name / Klasse"));
+    text(96, 32, 11, QStringLiteral("Jahrg."));
+    m_columns.printHeads(32);
+    text(255, 32, 11, QStringLiteral("Ges. Pkte"));
+  }
+
+  void printTitle() {
+    const QString title = QStringLiteral("Ergebnisliste ") + m_liste.bezeichnung;
+    m_druck.FontName = QStringLiteral("Arial");
+    m_druck.FontBold = m_druck.FontItalic = true;
+    TitelAnpassen(m_druck, title, 190);
+    Zelle(m_druck, 22, 15, title);
+  }
+
+  void text(double x, double top, double size, const QString &what) {
+    m_druck.FontSize = size;
+    Zelle(m_druck, x, top, what);
+  }
+
+  Store &m_store;
+  Druckschicht &m_druck;
+  const CupListe &m_liste;
+  QList<int> m_persons;
+  CupColumns m_columns;
+  CupPlatz m_places;
+  int m_klasse = -1, m_page = 0;
+  /// Tenths of a row.
+  int m_row = 0;
+};
+
+} // namespace
+
+void Cupliste(Store &store, Druckschicht &druck, const CupListe &liste) {
+  druck.Orientation = Druckschicht::Landscape;
+  druck.ScaleMode = Druckschicht::Scale::Millimetres;
+  druck.DocName(QStringLiteral("Cupliste"), 0);
+  CupPrinter(store, druck, liste).printPersons();
+  druck.EndDoc();
+  druck.Orientation = Druckschicht::Portrait; // the other lists assume it
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "core/Store.h"
+#include "printing/Druckschicht.h"
+
+/// What the list of a cup shows beside the cup tables.
+struct CupListe {
+  QString bezeichnung;
+  bool klassenAufGetrenntenSeiten = false;
+  /// One line for each person in the order of the result, with the person at its end.
+  QStringList schluessel;
+};
+
+/// Prints the cup as the last evaluation left it in the cup tables, in landscape: class by class with time and points
+/// of each round and the total; a struck result shows "X" for its points. More than five rounds stand in narrower
+/// columns.
+void Cupliste(Store &store, Druckschicht &druck, const CupListe &liste);

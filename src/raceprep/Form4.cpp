@@ -1,0 +1,130 @@
+#include "raceprep/Form4.h"
+
+#include "core/RecordFiles.h"
+#include "platform/Numbers.h"
+#include "raceprep/RaceList.h"
+#include "raceprep/RaceRegister.h"
+#include "ui_Form4.h"
+
+#include <QMouseEvent>
+
+Form4::Form4(Desk &desk, Store &store)
+    : Screen(desk, QStringLiteral("Form4"), 4), ui(std::make_unique<Ui::Form4>()), m_store(store) {
+  ui->setupUi(this);
+  setUp();
+  resize(sizeHint().width(), fontMetrics().height() * 32);
+  connectRegister();
+  for (const auto &function : functions())
+    connectFunction(function);
+  listeFuellen();
+  ui->List1->setFocus();
+}
+
+Form4::~Form4() = default;
+
+void Form4::connectRegister() {
+  connect(ui->Text1, &QLineEdit::textChanged, this, &Form4::openRace);
+  connect(ui->Command2, &QPushButton::clicked, this,
+          [this] { ui->Text1->setText(vorherigesRennen(m_store, ui->Text1->text())); });
+  connect(ui->Command3, &QPushButton::clicked, this, &Form4::nextRace);
+  connect(ui->Command7, &QPushButton::clicked, this, &Form4::enterName);
+  connect(ui->Command9, &QPushButton::clicked, this, &Form4::askDeletion);
+  connect(ui->List1, &LineList::chosen, this, [this](int line) { waehlen(rennenNummer(ui->List1->lines()[line])); });
+  connect(ui->Command1, &QPushButton::clicked, this, [this] {
+    RennenSchliessen(m_store);
+    close();
+  });
+  ui->Text2->installEventFilter(this);
+}
+
+QList<Form4::Function> Form4::functions() const {
+  return {
+      {ui->Command4, QStringLiteral("Form5"), true, true},       {ui->Command5, QStringLiteral("Form6"), true, true},
+      {ui->Command6, QStringLiteral("Form7"), true, true},       {ui->Command8, QStringLiteral("Form8"), true, true},
+      {ui->Command10, QStringLiteral("Form11"), true, true},     {ui->Command11, QStringLiteral("Form12"), true, true},
+      {ui->Command12, QStringLiteral("Form16"), true, true},     {ui->Command13, QStringLiteral("Form10"), true, true},
+      {ui->Command14, QStringLiteral("Form14"), true, true},     {ui->Command15, QStringLiteral("Form15"), true, true},
+      {ui->Command16, QStringLiteral("CupKopie"), false, false}, {ui->Command17, QStringLiteral("Form20"), false, true},
+      {ui->Command18, QStringLiteral("Form19"), false, false}};
+}
+
+void Form4::connectFunction(const Function &function) {
+  connect(function.button, &QPushButton::clicked, this, [this, function] {
+    if (isReady(function))
+      Q_EMIT oeffnet(function.screen);
+  });
+}
+
+bool Form4::isReady(const Function &function) const {
+  if (function.button == ui->Command8 && m_store.umgebung.druckerAnzahl() == 0)
+    return false;
+  return !function.needsName || !trimmedBlanks(ui->Text2->text()).isEmpty();
+}
+
+void Form4::becomeActive() {
+  m_store.AktRennen = m_store.RennenIdx;
+}
+
+void Form4::waehlen(int nummer) {
+  ui->Text1->setText(plainText(nummer));
+}
+
+QString Form4::bezeichnung() const {
+  return ui->Text2->text();
+}
+
+// The emptied list is painted before the records are read; clicks and keys wait.
+void Form4::listeFuellen() {
+  ui->List1->fill({});
+  ui->List1->viewport()->repaint();
+  ui->List1->fill(RennenListeFuellen(m_store));
+}
+
+void Form4::geloeschtZeigen() {
+  listeFuellen();
+  ui->Text2->setText(QStringLiteral("leer"));
+}
+
+// A number out of range stays as it was typed.
+void Form4::openRace() {
+  rennenOeffnen(m_store, ui->Text1->text());
+  ui->Text2->setText(m_store.Rennen.RennenName);
+}
+
+void Form4::nextRace() {
+  if (const auto next = naechstesRennen(m_store, ui->Text1->text(), ui->Text2->text()))
+    ui->Text1->setText(*next);
+}
+
+void Form4::enterName() {
+  rennenEintragen(m_store, ui->Text2->text());
+  listeFuellen();
+  lockFunctions(false);
+}
+
+void Form4::askDeletion() {
+  if (m_store.RennenIdx < 1 || m_store.RennenIdx > m_store.RennenAnzahl)
+    return;
+  m_store.AktRennen = m_store.RennenIdx;
+  Q_EMIT oeffnet(QStringLiteral("Form9"));
+}
+
+void Form4::setOpenable(const QStringList &screens) {
+  m_openable = screens;
+  for (const auto &function : functions())
+    function.button->setEnabled(screens.contains(function.screen));
+}
+
+void Form4::lockFunctions(bool locked) {
+  for (const auto &function : functions())
+    if (function.locked)
+      function.button->setEnabled(!locked && m_openable.contains(function.screen));
+}
+
+// A click into the name, not the Tab key, locks the functions: the new name is to be stored first.
+bool Form4::eventFilter(QObject *watched, QEvent *event) {
+  if (watched == ui->Text2 && event->type() == QEvent::MouseButtonPress &&
+      static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton)
+    lockFunctions(true);
+  return Screen::eventFilter(watched, event);
+}

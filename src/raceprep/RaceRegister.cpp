@@ -1,0 +1,64 @@
+#include "raceprep/RaceRegister.h"
+
+#include "core/RaceFiles.h"
+#include "core/RecordFiles.h"
+#include "platform/Files.h"
+#include "platform/Numbers.h"
+
+#include <algorithm>
+
+namespace {
+
+void makeRace(Store &store) {
+  RennenLeeren(store); // leaves the criteria alone: the new race inherits them
+  store.RennenIdx = store.RennenAnzahl + 1;
+  RennenSchreiben(store);
+}
+
+} // namespace
+
+int rennenZuBeginn(const Store &store) {
+  if (store.AktRennen != 0)
+    return store.AktRennen;
+  return std::max(store.RennenAnzahl, 1);
+}
+
+void rennenOeffnen(Store &store, const QString &nummer) {
+  const qint64 wanted = std::max<qint64>(wholeNumber(nummer), 1);
+  store.RennenIdx = store.AktRennen = int(std::min<qint64>(wanted, store.RennenAnzahl));
+  RennenLesen(store);
+  RennDatenLaden(store);
+}
+
+QString vorherigesRennen(Store &store, const QString &nummer) {
+  const qint64 before = wholeNumber(nummer) - 1;
+  if (before < 1)
+    store.umgebung.piep();
+  return QString::number(std::max<qint64>(before, 1));
+}
+
+std::optional<QString> naechstesRennen(Store &store, const QString &nummer, const QString &name) {
+  const qint64 next = wholeNumber(nummer) + 1;
+  if (next > store.RennenAnzahl) {
+    if (trimmedBlanks(name).isEmpty())
+      return {};
+    makeRace(store);
+  }
+  return QString::number(next);
+}
+
+// The first name goes into record 1, but the open race stays number 0 until another one is opened; this is meant.
+void rennenEintragen(Store &store, const QString &name) {
+  RennenLesen(store);
+  store.Rennen.RennenName = trimmedBlanks(name);
+  if (store.RennenIdx == 0)
+    store.RennenIdx = 1;
+  RennenSchreiben(store);
+}
+
+void rennenLoeschen(Store &store) {
+  RennenLeeren(store);
+  RennenSchreiben(store);
+  for (const char letter : {'R', 'K', 'G', 'M', 'Z'})
+    removeFile(raceFileName(store, letter, store.AktRennen));
+}
