@@ -4,6 +4,8 @@
 
 #include <QFile>
 
+#include <algorithm>
+
 namespace {
 
 void printCentred(Druckschicht &druck, const QString &text, double middle) {
@@ -42,6 +44,8 @@ void RechtsDrucken(Druckschicht &druck, const PrintItem &item) {
 QString ZeitDruckText(const Druckschicht &druck, double seconds) {
   constexpr float field = 14;
   QString text = ZeitText(seconds);
+  const float missing = std::max(0.0F, field - druck.TextWidth(text)), blank = druck.TextWidth(QStringLiteral(" "));
+  text.prepend(QString(int(missing / blank), QLatin1Char(' '))); // the last one or two are measured
   while (druck.TextWidth(text) < field)
     text.prepend(QLatin1Char(' '));
   return text;

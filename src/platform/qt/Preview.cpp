@@ -22,6 +22,7 @@ QString deviceName() {
 QPushButton *addButton(QBoxLayout *row, const QString &name, const QString &caption) {
   auto *button = new QPushButton(caption);
   button->setObjectName(name);
+  button->setProperty("zeichen", caption.size() + 1);
   row->addWidget(button);
   return button;
 }
