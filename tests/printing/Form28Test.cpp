@@ -27,18 +27,3 @@ TEST(Form28Test, TheChosenPrinterBecomesTheCurrentOne) {
   EXPECT_FALSE(form.isVisible());
   EXPECT_EQ(fake.printers->DeviceName(), QStringLiteral("Alt"));
 }
-
-TEST(Form28Test, ClosingChangesNothingAndAnotherOpeningAsksAnew) {
-  TestStore test;
-  Desk desk{test.store.Fenster, [] {}};
-  FakePrinters fake;
-  for (int opening = 1; opening <= 2; ++opening) {
-    Form28 form(desk, *fake.printers);
-    desk.show(form);
-    auto *list = form.findChild<LineList *>(QStringLiteral("List1"));
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(1, 0)).center());
-    QTest::mouseClick(form.findChild<QPushButton *>(QStringLiteral("Command1")), Qt::LeftButton);
-    EXPECT_EQ(fake.asked, opening);
-  }
-  EXPECT_EQ(fake.printers->DeviceName(), QStringLiteral("Laser"));
-}

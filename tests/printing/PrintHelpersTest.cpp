@@ -74,14 +74,6 @@ TEST_F(PrintHelpersTest, TitleShrinksByWholePointsAndStopsAtOne) {
   EXPECT_EQ(druck.FontSize, 1);
 }
 
-TEST_F(PrintHelpersTest, FrameIsFourLines) {
-  Rahmen(druck, 20, 10, 190, 30);
-  EXPECT_EQ(text(), (QStringList{QStringLiteral("line 20.00 10.00 190.00 10.00 width 1 000000"),
-                                 QStringLiteral("line 190.00 10.00 190.00 30.00 width 1 000000"),
-                                 QStringLiteral("line 190.00 30.00 20.00 30.00 width 1 000000"),
-                                 QStringLiteral("line 20.00 30.00 20.00 10.00 width 1 000000")}));
-}
-
 TEST_F(PrintHelpersTest, HeadOfAListWithPictures) {
   TestStore test;
   test.store.Rennen.RennenName = QStringLiteral("Vereinsmeisterschaft im Riesentorlauf");
@@ -102,16 +94,4 @@ TEST_F(PrintHelpersTest, HeadOfAListWithPictures) {
   EXPECT_EQ(lines.value(13), QStringLiteral("picture 4.00 10.00 15.50 20.00 kopf2.jpg"));
   EXPECT_EQ(lines.value(14), QStringLiteral("text 6.00 38.00 Arial 10 bold |Rang|"));
   EXPECT_EQ(lines.size(), 15);
-}
-
-TEST_F(PrintHelpersTest, HeadOfAListWithoutPicturesHasTheLongTitle) {
-  TestStore test;
-  test.store.Rennen.RennenName = QStringLiteral("Vereinsmeisterschaft");
-  test.store.Rennen.RennenKurz = QStringLiteral("VM");
-  int seite = 0;
-  Seitenkopf(test.store, druck, Listenkoepfe::nichtInDerWertung(), {{45, QStringLiteral("Name")}}, seite);
-  const QStringList lines = text();
-  EXPECT_EQ(lines.value(0), QStringLiteral("text 22.00 12.00 Arial 24 bold italic |Vereinsmeisterschaft|"));
-  EXPECT_EQ(lines.value(8), QStringLiteral("text 45.00 37.00 Arial 11 bold |Name|"));
-  EXPECT_EQ(lines.size(), 9);
 }

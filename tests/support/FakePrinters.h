@@ -2,6 +2,8 @@
 
 #include "platform/print/Printers.h"
 
+#include <memory>
+
 /// Printers that keep what they are given; the system's default is the first.
 class FakePrinters {
 public:

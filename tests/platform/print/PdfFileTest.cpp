@@ -10,6 +10,9 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+#include <sys/resource.h>
+
 namespace {
 
 const QDateTime When(QDate(2026, 1, 15), QTime(14, 30, 5));
@@ -62,11 +65,22 @@ TEST(PdfFileTest, TextStaysTextFontsAreEmbeddedAndAPictureStandsInItOnce) {
     EXPECT_TRUE(font.isEmpty() || font.contains("Identity-H       yes")) << font.toStdString();
 }
 
-TEST(PdfFileTest, AFailureIsReportedAndLeavesNoFile) {
+TEST(PdfFileTest, AFullDiskIsReportedAndLeavesNoCutOffFile) {
+  const QTemporaryDir folder;
+  rlimit before;
+  getrlimit(RLIMIT_FSIZE, &before);
+  std::signal(SIGXFSZ, SIG_IGN);
+  const rlimit small{4096, before.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &small);
+  EXPECT_THROW(writePdf(folder.path(), When, document()), FileFault);
+  setrlimit(RLIMIT_FSIZE, &before);
+  EXPECT_TRUE(QDir(folder.path()).isEmpty());
+}
+
+TEST(PdfFileTest, AFailureIsAFaultOfPrinting) {
   const QTemporaryDir folder;
   const QString blocked = folder.path() + QStringLiteral("/Ausdrucke");
   writeFile(blocked, "a file stands where the folder must go");
-  EXPECT_THROW(writePdf(blocked, When, document()), FileFault);
   Printers printers([] { return SystemPrinters(); }, {pdfPrinter(blocked, [] { return When; })});
   try {
     printers.print(document());
