@@ -1,15 +1,21 @@
 #pragma once
 
 #include "core/Store.h"
+#include "platform/print/Printers.h"
 #include "platform/qt/Desk.h"
+#include "platform/qt/Preview.h"
 
 #include <QHash>
 #include <QObject>
 #include <QPointer>
 
+class CupKopie;
 class Form1;
+class Form13;
 class Form17;
+class Form3;
 class Form4;
+class Form6;
 class Screen;
 
 /// The roof: makes the screens and is the only place that knows which screen opens which.
@@ -20,7 +26,7 @@ class Programm : public QObject {
   Q_OBJECT
 
 public:
-  /// The store is started; the screens and the reminder of the saves work on it.
+  /// The store is started; the screens, the reminder of the saves and the printers of this run work on it.
   explicit Programm(Store &store);
   ~Programm() override;
 
@@ -34,8 +40,29 @@ private:
 
   QHash<QString, Opening> openings();
   void open(const QString &screen);
+
+  void openClubs();
+  void openAthletes();
   void openRaceRegister();
   void askDeletion();
+  void copyRace();
+
+  void openParticipants();
+  void openAthleteOnTop(Screen &participants, const std::function<void(Form3 &)> &begin);
+  void openNumbersOnTop(Screen &participants, int row);
+  void openNumbers();
+  void openClassOrder();
+  void openTiming();
+  void openPrinting();
+  void openTeamEvaluation();
+  void openTitlePageData();
+  void openCup();
+  void openTimeSum();
+  /// What the race register opens and needs no more than its own constructor.
+  template <typename S> void openPlain();
+
+  template <typename S> void connectWorkSign(S &screen);
+  void showResult(Screen &opener, bool open);
   void remind(const QStringList &lines);
 
   /// Shows `screen` in the place of `opener`.
@@ -47,10 +74,16 @@ private:
   void showBeside(Screen &opener, Screen &screen);
 
   Store &m_store;
+  Preview m_preview;
+  Printers m_printers;
   Desk m_desk;
   QHash<QString, Opening> m_openings;
   QPointer<Form1> m_menu;
   QPointer<Form4> m_hub;
+  QPointer<CupKopie> m_copy;
+  QPointer<Form3> m_athletes;
+  QPointer<Form6> m_numbers;
+  QPointer<Form13> m_result;
   QPointer<Form17> m_reminder;
   QList<QPointer<Screen>> m_screens;
 };
