@@ -3,6 +3,7 @@
 #include "platform/Numbers.h"
 #include "platform/print/PrintMetrics.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -54,7 +55,22 @@ void Druckschicht::FilledBox(double x1, double y1, double x2, double y2, unsigne
 }
 
 void Druckschicht::PaintPicture(const PrintPicture &picture, double x, double y, double width, double height) {
-  page().append(PictureOperation{x, y, width, height, picture});
+  page().append(PictureOperation{x, y, width, height, heldToPrint(picture, width, height)});
+}
+
+// A picture far finer than paper shows would only swell the PDF and slow the preview. It is made smaller once for each
+// size, so that all pages share it.
+PrintPicture Druckschicht::heldToPrint(const PrintPicture &picture, double width, double height) {
+  constexpr double dotsAMillimetre = 400 / 25.4;
+  const QSize enough(std::max(1, int(width * dotsAMillimetre)), std::max(1, int(height * dotsAMillimetre)));
+  if (picture.image.width() <= enough.width() || picture.image.height() <= enough.height())
+    return picture;
+  const QString key = QStringLiteral("%1 %2x%3").arg(picture.path).arg(enough.width()).arg(enough.height());
+  const auto known = m_pictures.constFind(key);
+  if (known != m_pictures.constEnd())
+    return *known;
+  const QImage smaller = picture.image.scaled(enough, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  return *m_pictures.insert(key, PrintPicture{picture.path, smaller});
 }
 
 PrintPicture Druckschicht::LoadPicture(const QString &path) {

@@ -73,6 +73,7 @@ public:
 private:
   PrintFont font() const { return {FontName, FontSize, FontBold, FontItalic}; }
   PrintPage &page();
+  PrintPicture heldToPrint(const PrintPicture &picture, double width, double height);
   void toTopLeft();
 
   Sink m_sink;

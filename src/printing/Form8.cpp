@@ -84,7 +84,9 @@ void Form8::becomeActive() {
 
 void Form8::showPrinter() {
   ui->Label3->setText(m_printers.DeviceName());
-  ui->letzteDatei->setText(QFileInfo(m_printers.lastFile()).fileName());
+  const QString file = QFileInfo(m_printers.lastFile()).fileName();
+  ui->letzteDatei->setText(file);
+  ui->dateiTitel->setVisible(!file.isEmpty());
 }
 
 // With nothing chosen in the list of clubs nobody passes: that is meant.
