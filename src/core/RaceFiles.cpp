@@ -142,14 +142,17 @@ QString raceFileName(const Store &store, char letter, int race) {
 }
 
 void RennDatenLaden(Store &store) {
+  store.TabellenRennen = -1;
   clearParticipants(store);
   readParticipants(store);
   readNames(raceFileName(store, 'M', store.AktRennen), store.MannschaftName);
   readNames(raceFileName(store, 'G', store.AktRennen), store.GruppeName);
   loadClasses(store);
+  store.TabellenRennen = store.AktRennen;
 }
 
 void RennDatenSpeichern(Store &store) {
+  store.TabellenRennen = store.AktRennen;
   store.umgebung.erinnern(missingAthleteData(store));
   store.vorDemSpeichern();
   for (const auto &file : raceFiles(store))
@@ -165,6 +168,13 @@ QList<RaceFile> raceFiles(const Store &store) {
     files.append({'G', nameFile(store.GruppeName)});
   files.append({'K', classFile(store)});
   return files;
+}
+
+QList<RaceFile> wholeRace(const Store &store) {
+  return {{'R', participantFile(store)},
+          {'M', nameFile(store.MannschaftName)},
+          {'G', nameFile(store.GruppeName)},
+          {'K', classFile(store)}};
 }
 
 QByteArray participantFile(const Store &store) {

@@ -20,9 +20,12 @@ void RennDatenSpeichern(Store &store);
 struct RaceFile {
   char letter;
   QByteArray bytes;
+  bool operator==(const RaceFile &) const = default;
 };
 /// The files that a save would write now, in its order; M and G only if row 1 or 2 has a name. Reads no record.
 QList<RaceFile> raceFiles(const Store &store);
+/// All four files, M and G also where a save would pass them over. Reads no record.
+QList<RaceFile> wholeRace(const Store &store);
 /// The R and K files as a save writes them.
 QByteArray participantFile(const Store &store);
 QByteArray classFile(const Store &store);

@@ -84,16 +84,8 @@ void LaeuferLesen(Store &store) {
   laeufer.Geschlecht = std::clamp<qint16>(laeufer.Geschlecht, 0, 2);
 }
 
-void RennenLesen(Store &store) {
-  RennenLeeren(store);
-  if (store.RennenIdx < 1 || store.RennenIdx > store.RennenAnzahl) {
-    store.umgebung.piep();
-    return;
-  }
-  if (!store.RennenDatei.holds(store.RennenIdx))
-    return;
-  auto &rennen = store.Rennen;
-  rennen = rennenFromBytes(store.RennenDatei.read(store.RennenIdx));
+RennenSatz trimmedRace(const QByteArray &record) {
+  RennenSatz rennen = rennenFromBytes(record);
   for (QString *text :
        {&rennen.RennenName, &rennen.RennenKurz, &rennen.RennenOrt, &rennen.Veranstalter, &rennen.DurchfVerein,
         &rennen.Startzeit, &rennen.Rennleiter, &rennen.Kurssetzung, &rennen.Tore, &rennen.Startrichter,
@@ -102,6 +94,17 @@ void RennenLesen(Store &store) {
     *text = trimmedBlanks(*text);
   if (rennen.BestzeitAbKlasse > LastBestzeitKlasse)
     rennen.BestzeitAbKlasse = 0;
+  return rennen;
+}
+
+void RennenLesen(Store &store) {
+  RennenLeeren(store);
+  if (store.RennenIdx < 1 || store.RennenIdx > store.RennenAnzahl) {
+    store.umgebung.piep();
+    return;
+  }
+  if (store.RennenDatei.holds(store.RennenIdx))
+    store.Rennen = trimmedRace(store.RennenDatei.read(store.RennenIdx));
 }
 
 void VereinSchreiben(Store &store) {

@@ -20,6 +20,9 @@ void LaeuferLesen(Store &store);
 /// RennenLeeren first, whatever comes next; texts are trimmed but for `RennenNrText`. Outside the range: a beep.
 void RennenLesen(Store &store);
 
+/// A race from its record as RennenLesen takes it.
+RennenSatz trimmedRace(const QByteArray &record);
+
 /// The count is raised if needed; Vext.dat is written anew whenever the index is not below the count.
 void VereinSchreiben(Store &store);
 /// Does nothing at an index below 1; VereinSchreiben and RennenSchreiben have no such guard and fault there, on

@@ -97,6 +97,8 @@ struct Store {
 
   // The open race.
   int AktRennen = 0;
+  /// Number of the race that the tables hold whole; -1 before the first load and while one runs or has failed.
+  int TabellenRennen = -1;
   /// Participant row in work, and the counter that the numbering runs leave behind.
   int TnIdx = 0;
   Tabelle<TeilnehmerZeile, 0, 1000> Teilnehmer{"Teilnehmer"};

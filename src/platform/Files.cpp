@@ -3,6 +3,7 @@
 #include "platform/Faults.h"
 
 #include <QFile>
+#include <QSaveFile>
 
 QByteArray readFile(const QString &path) {
   QFile file(path);
@@ -20,6 +21,15 @@ void writeFile(const QString &path, const QByteArray &bytes) {
   if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
     throw FileFault(path, QStringLiteral("geöffnet"));
   if (file.write(bytes) != bytes.size() || !file.flush())
+    throw FileFault(path, QStringLiteral("geschrieben"));
+}
+
+// commit() would put a cut-off file in place after a flush that failed.
+void replaceFile(const QString &path, const QByteArray &bytes) {
+  QSaveFile file(path);
+  if (!file.open(QIODevice::WriteOnly))
+    throw FileFault(path, QStringLiteral("geöffnet"));
+  if (file.write(bytes) != bytes.size() || !file.flush() || !file.commit())
     throw FileFault(path, QStringLiteral("geschrieben"));
 }
 

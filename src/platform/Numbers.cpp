@@ -3,7 +3,11 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
+#include <cstdlib>
+#include <string>
 #include <string_view>
 
 namespace {
@@ -20,45 +24,64 @@ qsizetype skipDigits(QStringView text, qsizetype at) {
   return at;
 }
 
-// Decimal digits d1 d2 d3 … of a value 0.d1d2d3… × 10^exponent.
+void roundUp(std::string &digits) {
+  auto at = digits.size() - 1;
+  for (; digits[at] == '9'; --at)
+    digits[at] = '0';
+  ++digits[at];
+}
+
+// Decimal digits of a value 0.ddd… × 10^exponent with a zero in front, in case a half carries.
 struct Decimal {
-  QByteArray digits;
+  std::string digits;
   int exponent;
 };
 
 Decimal decimalOf(double value, int significant) {
-  const QByteArray text = QByteArray::number(std::fabs(value), 'e', significant - 1); // "d.ddde±xx"
-  const auto e = text.indexOf('e');
-  return {text.left(1) + text.mid(2, std::max<qsizetype>(0, e - 2)), text.mid(e + 1).toInt() + 1};
+  constexpr int Guard = 9;     // digits more than wanted, so that an exact half is seen as one and goes up
+  std::array<char, 48> text{}; // "d.ddde±xx", so that digit n stands at n, but for the first
+  std::to_chars(text.data(), text.data() + text.size(), std::fabs(value), std::chars_format::scientific,
+                significant - 1 + Guard);
+  std::string digits{'0', text[0]};
+  digits.append(&text[2], std::size_t(significant) - 1);
+  if (text[std::size_t(significant) + 1] >= '5')
+    roundUp(digits);
+  return {digits, std::atoi(&text[std::size_t(significant) + Guard + 2]) + 1};
 }
 
-// All digits before and `decimals` digits behind the point, rounded half up.
-QByteArray fixedDigits(Decimal number, int decimals) {
-  const auto keep = number.exponent + decimals;
+// All digits before and `decimals` digits behind the point, with one zero or more in front, rounded half up.
+std::string fixedDigits(Decimal number, std::size_t decimals) {
+  const int keep = number.exponent + int(decimals);
   if (keep < 0)
-    return QByteArray(decimals, '0');
-  QByteArray digits = '0' + number.digits.leftJustified(keep, '0').left(keep);
-  if (keep < number.digits.size() && number.digits[keep] >= '5') {
-    auto at = digits.size() - 1;
-    for (; digits[at] == '9'; --at)
-      digits[at] = '0';
-    ++digits[at];
-  }
-  return digits.rightJustified(decimals, '0');
+    return std::string(decimals, '0');
+  std::string &digits = number.digits;
+  const auto length = std::size_t(keep) + 1;
+  const bool up = length < digits.size() && digits[length] >= '5';
+  digits.resize(length, '0');
+  if (up)
+    roundUp(digits);
+  digits.insert(0, decimals - std::min(decimals, length), '0');
+  return digits;
 }
 
 QString maskedDigits(double value, int significant, std::string_view mask) {
   const auto point = std::min(mask.find('.'), mask.size());
-  const auto firstZero = std::min(mask.find('0'), point);
-  const int decimals = int(mask.size() - std::min(point + 1, mask.size()));
-  const QByteArray digits = fixedDigits(decimalOf(value, significant), decimals);
-  QByteArray whole = digits.left(digits.size() - decimals);
-  whole.remove(0, std::find_if(whole.begin(), whole.end(), [](char c) { return c != '0'; }) - whole.begin());
-  QByteArray text = whole.rightJustified(qsizetype(point - firstZero), '0');
+  const auto width = point - std::min(mask.find('0'), point);
+  const auto decimals = mask.size() - std::min(point + 1, mask.size());
+  std::string digits = fixedDigits(decimalOf(value, significant), decimals);
+  const bool zero = digits.find_first_not_of('0') == std::string::npos;
+  const auto whole = digits.size() - decimals;
+  const auto leadingZeros = std::min(digits.find_first_not_of('0'), whole);
+  const auto wanted = std::max(width, whole - leadingZeros);
+  if (wanted > whole)
+    digits.insert(0, wanted - whole, '0');
+  else
+    digits.erase(0, whole - wanted);
   if (decimals > 0)
-    text += ',' + digits.right(decimals);
-  const bool zero = std::all_of(digits.begin(), digits.end(), [](char c) { return c == '0'; });
-  return QString::fromLatin1(value < 0 && !zero ? '-' + text : text);
+    digits.insert(wanted, 1, ',');
+  if (value < 0 && !zero)
+    digits.insert(0, 1, '-');
+  return QString::fromLatin1(digits.data(), qsizetype(digits.size()));
 }
 
 } // namespace
@@ -83,6 +106,11 @@ double leadingNumber(QStringView text) {
 
 qint64 wholeNumber(QStringView text) {
   return qint64(std::nearbyint(std::clamp(leadingNumber(text), -WholeLimit, WholeLimit)));
+}
+
+std::optional<qint16> shortNumber(QStringView text) {
+  const qint64 number = wholeNumber(text);
+  return number == qint16(number) ? std::optional(qint16(number)) : std::nullopt;
 }
 
 int rowAtEnd(QStringView line, int length) {
@@ -132,6 +160,12 @@ QString trimmedBlanks(QStringView text) {
 
 QString shownText(QString text) {
   return text.remove(QChar(u'\0'));
+}
+
+QString upperCase(QString text) {
+  for (QChar &c : text)
+    c = c.toUpper();
+  return text;
 }
 
 QString padded(const QString &text, int width) {

@@ -12,6 +12,8 @@
 double leadingNumber(QStringView text);
 /// The leading number as a whole one, halves to even ("12.5" is 12, "13.5" is 14). Any size; held to ±10^15.
 qint64 wholeNumber(QStringView text);
+/// The same where a field is 16-bit; nothing if the number is outside −32768 to 32767.
+std::optional<qint16> shortNumber(QStringView text);
 /// The number at the end of a list line: the leading number of its last `length` characters.
 int rowAtEnd(QStringView line, int length);
 /// Decimal comma, optional exponent ("1E+15"), blanks around; nothing if the text is anything else, or empty.
@@ -41,6 +43,8 @@ inline QString masked(int value, const char *mask) {
 QString trimmedBlanks(QStringView text);
 /// The text as screens show it: without the NULs that fill the name of a record in a gap of its file.
 QString shownText(QString text);
+/// Upper case character by character, so that the length stays ("ß" stays "ß").
+QString upperCase(QString text);
 /// The text cut or filled with blanks on the right to `width` characters.
 QString padded(const QString &text, int width);
 /// The last `width` characters of `width` blanks and the text: right-aligned, a longer text loses its front.

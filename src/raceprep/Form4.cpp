@@ -29,7 +29,6 @@ void Form4::connectRegister() {
   connect(ui->Command3, &QPushButton::clicked, this, &Form4::nextRace);
   connect(ui->Command7, &QPushButton::clicked, this, &Form4::enterName);
   connect(ui->Command9, &QPushButton::clicked, this, &Form4::askDeletion);
-  connect(ui->Command16, &QPushButton::clicked, this, [this] { Q_EMIT oeffnet(QStringLiteral("CupKopie")); });
   connect(ui->List1, &LineList::chosen, this, [this](int line) { waehlen(rennenNummer(ui->List1->lines()[line])); });
   connect(ui->Command1, &QPushButton::clicked, this, [this] {
     RennenSchliessen(m_store);

@@ -37,7 +37,7 @@ public:
     const QString line = index.data().toString();
     const auto start = numberStart(line);
     QStyledItemDelegate::paint(painter, option, index);
-    if (!start)
+    if (!start || hidesNumbers)
       return;
     const QRect area = option.rect.adjusted(0, 0, -6, 0);
     if (option.fontMetrics.horizontalAdvance(trimmedBlanks(line.left(*start)) + line.mid(*start - 1)) > area.width())
@@ -50,6 +50,8 @@ public:
     painter->drawText(area, int(Qt::AlignRight | Qt::AlignVCenter), line.mid(*start));
     painter->setOpacity(1);
   }
+
+  bool hidesNumbers = false;
 
 protected:
   void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override {
@@ -92,6 +94,17 @@ void LineList::fill(QStringList lines) {
   verticalScrollBar()->setValue(scrolled);
 }
 
+void LineList::refill(QStringList lines, int number) {
+  setAutoScroll(false);
+  fill(std::move(lines));
+  chooseByNumber(number);
+  setAutoScroll(true);
+}
+
+void LineList::hideNumbers() {
+  static_cast<LineDelegate *>(itemDelegate())->hidesNumbers = true;
+}
+
 void LineList::choose(int line) {
   m_byCode = true;
   setCurrentIndex(line < 0 ? QModelIndex() : m_model.index(line));
@@ -125,6 +138,23 @@ void LineList::currentChanged(const QModelIndex &current, const QModelIndex &pre
 void LineList::focusInEvent(QFocusEvent *event) {
   m_aimedLines = event->reason() == Qt::MouseFocusReason ? lines() : QStringList();
   QListView::focusInEvent(event);
+  update();
+}
+
+void LineList::focusOutEvent(QFocusEvent *event) {
+  QListView::focusOutEvent(event);
+  update();
+}
+
+// A list without a chosen line shows by its frame that it has the focus.
+bool LineList::event(QEvent *event) {
+  const bool handled = QListView::event(event);
+  if (event->type() == QEvent::Paint && hasFocus()) {
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  }
+  return handled;
 }
 
 QModelIndex LineList::aimedAt(QPoint at) {

@@ -28,6 +28,10 @@ public:
 
   /// Sets the lines anew: nothing is chosen, the scroll position is kept.
   void fill(QStringList lines);
+  /// The same with the line that ends in `number` highlighted, without scrolling to it.
+  void refill(QStringList lines, int number);
+  /// The numbers at the end of the lines are not painted at all.
+  void hideNumbers();
   /// Highlights a line (from 0; −1 = none) without `chosen`, and scrolls to it.
   void choose(int line);
   /// Highlights the line that ends in `number`; none if there is none.
@@ -51,6 +55,8 @@ protected:
   void mouseMoveEvent(QMouseEvent *event) override;
   void mouseDoubleClickEvent(QMouseEvent *event) override;
   void focusInEvent(QFocusEvent *event) override;
+  void focusOutEvent(QFocusEvent *event) override;
+  bool event(QEvent *event) override;
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index, const QEvent *event) const override;
 
 private:

@@ -62,8 +62,7 @@ void setQuiet(QWidget *widget) {
   if (!widget->property("leise").toBool())
     return;
   QPalette palette = widget->palette();
-  for (const auto role : {QPalette::WindowText, QPalette::Text}) // on a card a label takes the second
-    palette.setColor(role, palette.color(QPalette::PlaceholderText));
+  palette.setColor(QPalette::WindowText, palette.color(QPalette::PlaceholderText));
   widget->setPalette(palette);
 }
 

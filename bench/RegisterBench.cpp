@@ -1,0 +1,180 @@
+// How long the registers take with 30,000 athletes, and beside it the bare work: one pass over the records, one sort.
+
+#include "core/RecordFiles.h"
+#include "core/Start.h"
+#include "masterdata/Form3.h"
+#include "platform/Dates.h"
+#include "platform/Numbers.h"
+#include "platform/SortedLines.h"
+#include "platform/qt/Desk.h"
+#include "platform/qt/LineList.h"
+#include "platform/qt/Look.h"
+#include "raceprep/Form5.h"
+#include "raceprep/ParticipantList.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+constexpr int Athletes = 30'000, Clubs = 300, Participants = 1000;
+
+const QStringList Names{QStringLiteral("MÜLLER"), QStringLiteral("Huber"),   QStringLiteral("GROSS-BAUER"),
+                        QStringLiteral("ÖLLER"),  QStringLiteral("STEINER"), QStringLiteral("WEIß")};
+
+/// A large club register and a full race.
+struct Event {
+  Event() {
+    store.DatenOrdner = folder.path() + QLatin1Char('/');
+    storeStarten(store);
+    alleDateienOeffnen(store);
+    for (store.VereinIdx = 1; store.VereinIdx <= Clubs; ++store.VereinIdx) {
+      store.Verein.VereinName = store.Verein.VereinKurz = QStringLiteral("Verein ") + plainText(store.VereinIdx);
+      VereinSchreiben(store);
+    }
+    for (store.LaeuferIdx = 1; store.LaeuferIdx <= Athletes; ++store.LaeuferIdx)
+      addAthlete();
+    for (int row = 1; row <= Participants; ++row)
+      store.Teilnehmer[row].LaeuferNr = row * 7;
+  }
+
+  void addAthlete() {
+    const int n = store.LaeuferIdx;
+    store.Laeufer.Name = Names[n * 7 % Names.size()] + QStringLiteral(" Vorname") + plainText(n * 7919 % Athletes);
+    store.Laeufer.Verein1 = qint16(1 + n % Clubs);
+    store.Laeufer.Geburtsdatum = toDays(QDate(1950 + n % 70, 7, 1));
+    LaeuferSchreiben(store);
+  }
+
+  QTemporaryDir folder;
+  Umgebung umgebung;
+  Store store{umgebung};
+  Desk desk{store.Fenster, [] {}};
+};
+
+Event &event() {
+  static Event large;
+  return large;
+}
+
+template <typename Form> void openAndPaint(Form &form) {
+  event().desk.show(form);
+  QCoreApplication::processEvents();
+}
+
+template <typename Control> Control *control(QWidget &form, const char *name) {
+  return form.findChild<Control *>(QLatin1String(name));
+}
+
+void passOverRecords(benchmark::State &state) {
+  auto &store = event().store;
+  for ([[maybe_unused]] auto _ : state)
+    for (store.LaeuferIdx = 1; store.LaeuferIdx <= store.LaeuferAnzahl; ++store.LaeuferIdx)
+      LaeuferLesen(store);
+}
+
+void sortLines(benchmark::State &state) {
+  QStringList unsorted;
+  for (int n = 1; n <= Athletes; ++n)
+    unsorted.append(Names[n * 7 % Names.size()] + QStringLiteral(" Vorname") + plainText(n * 7919 % Athletes) +
+                    QStringLiteral("        ") + plainText(n));
+  for ([[maybe_unused]] auto _ : state) {
+    SortedLines lines;
+    for (const auto &line : unsorted)
+      lines.add(line);
+    benchmark::DoNotOptimize(lines.take());
+  }
+}
+
+void listOfAthletes(benchmark::State &state) {
+  for ([[maybe_unused]] auto _ : state)
+    benchmark::DoNotOptimize(LaeuferListeFuellen(event().store));
+}
+
+void listOfParticipants(benchmark::State &state) {
+  for ([[maybe_unused]] auto _ : state)
+    benchmark::DoNotOptimize(TeilnehmerlisteFuellen(event().store, {}, ByName));
+}
+
+template <typename Form> void opening(benchmark::State &state) {
+  for ([[maybe_unused]] auto _ : state) {
+    Form form(event().desk, event().store);
+    openAndPaint(form);
+  }
+}
+
+void nameChange(benchmark::State &state) {
+  Form3 form(event().desk, event().store);
+  openAndPaint(form);
+  auto *name = control<QLineEdit>(form, "Text2");
+  for ([[maybe_unused]] auto _ : state) {
+    name->setFocus();
+    QTest::keyClick(name, Qt::Key_A);
+    QTest::keyClick(name, Qt::Key_Tab);
+    QCoreApplication::processEvents();
+  }
+}
+
+void typedIndex(benchmark::State &state) {
+  Form3 form(event().desk, event().store);
+  openAndPaint(form);
+  auto *index = control<QLineEdit>(form, "Text1");
+  index->setFocus();
+  int digit = 0;
+  for ([[maybe_unused]] auto _ : state) {
+    if (++digit % 5 == 0)
+      index->selectAll();
+    QTest::keyClick(index, char('1' + digit % 9));
+    QCoreApplication::processEvents();
+  }
+}
+
+void filter(benchmark::State &state) {
+  Form5 form(event().desk, event().store);
+  openAndPaint(form);
+  auto *beginning = control<QLineEdit>(form, "Text1");
+  beginning->setFocus();
+  QTest::keyClicks(beginning, state.range(0) ? QStringLiteral("hub") : QString());
+  for ([[maybe_unused]] auto _ : state) {
+    QTest::keyClick(beginning, Qt::Key_Return);
+    QCoreApplication::processEvents();
+  }
+}
+
+void clickOnAthlete(benchmark::State &state) {
+  Form5 form(event().desk, event().store);
+  openAndPaint(form);
+  auto *list = control<LineList>(form, "List1");
+  for ([[maybe_unused]] auto _ : state) {
+    QTest::keyClick(list, Qt::Key_Down);
+    QCoreApplication::processEvents();
+  }
+}
+
+BENCHMARK(passOverRecords)->Unit(benchmark::kMillisecond);
+BENCHMARK(sortLines)->Unit(benchmark::kMillisecond);
+BENCHMARK(listOfAthletes)->Unit(benchmark::kMillisecond);
+BENCHMARK(listOfParticipants)->Unit(benchmark::kMillisecond);
+BENCHMARK(opening<Form3>)->Unit(benchmark::kMillisecond);
+BENCHMARK(opening<Form5>)->Unit(benchmark::kMillisecond);
+BENCHMARK(nameChange)->Unit(benchmark::kMillisecond);
+BENCHMARK(typedIndex)->Unit(benchmark::kMillisecond);
+BENCHMARK(filter)->Arg(0)->Arg(1)->ArgName("filtered")->Unit(benchmark::kMillisecond);
+BENCHMARK(clickOnAthlete)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char **argv) {
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  Look::apply(application);
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}

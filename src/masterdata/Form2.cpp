@@ -1,0 +1,85 @@
+#include "masterdata/Form2.h"
+
+#include "core/RecordFiles.h"
+#include "masterdata/ClubRegister.h"
+#include "platform/Numbers.h"
+#include "ui_Form2.h"
+
+Form2::Form2(Desk &desk, Store &store)
+    : Screen(desk, QStringLiteral("Form2"), 2), m_store(store), ui(std::make_unique<Ui::Form2>()) {
+  ui->setupUi(this);
+  setUp();
+  connectFields();
+  connectButtons();
+  openLastClub(m_store);
+  showAndFill();
+  ui->List1->setFocus();
+}
+
+Form2::~Form2() = default;
+
+void Form2::connectFields() {
+  m_fields = {{ui->Text2, &VereinSatz::VereinName, ui->Text2},
+              {ui->Text3, &VereinSatz::VereinKurz, ui->Text3},
+              {ui->Text4, &VereinSatz::VereinOrt, ui->Text4},
+              {ui->Text5, &VereinSatz::VereinOesvNr, ui->Text5},
+              {ui->Text6, &VereinSatz::Ansprechpartner, ui->Text6},
+              {ui->Text7, &VereinSatz::Adresse, ui->Text7},
+              // The telephone takes the text of the contact person; it is meant.
+              {ui->Text8, &VereinSatz::Telefon, ui->Text6},
+              {ui->Text9, &VereinSatz::Handy, ui->Text9},
+              {ui->Text10, &VereinSatz::Homepage, ui->Text10},
+              {ui->Text11, &VereinSatz::EMail, ui->Text11}};
+  for (const auto &field : m_fields)
+    onLeave(field.box, [this, field] { storeField(field); });
+}
+
+void Form2::connectButtons() {
+  onReturn(ui->Text1, [this] {
+    goToClub(m_store, typedIndex());
+    showAndFill();
+  });
+  connect(ui->Command2, &QPushButton::clicked, this, [this] {
+    if (goToClubBefore(m_store, typedIndex()))
+      showAndFill();
+  });
+  connect(ui->Command3, &QPushButton::clicked, this, [this] {
+    if (goToClubBehind(m_store, typedIndex(), ui->Text2->text()))
+      showAndFill();
+  });
+  connect(ui->List1, &LineList::chosen, this, [this](int line) {
+    const int number = rowAtEnd(ui->List1->lines()[line], 6);
+    if (!isClub(m_store, number))
+      return;
+    goToClub(m_store, number);
+    VereinZeigen();
+  });
+  connect(ui->Command1, &QPushButton::clicked, this, &Form2::close);
+}
+
+void Form2::storeField(const Field &field) {
+  storeClubField(m_store, m_shown, field.field, field.source->text());
+  if (field.box == ui->Text2)
+    ui->List1->refill(VereinListeFuellen(m_store), m_shown);
+}
+
+void Form2::VereinZeigen() {
+  m_shown = m_store.VereinIdx;
+  ui->Text1->setText(plainText(m_shown));
+  for (const auto &field : m_fields)
+    field.box->setText(trimmedBlanks(m_store.Verein.*field.field));
+}
+
+void Form2::showAndFill() {
+  VereinZeigen();
+  ui->List1->fill(VereinListeFuellen(m_store));
+  ui->List1->chooseByNumber(m_shown);
+}
+
+qint64 Form2::typedIndex() const {
+  return wholeNumber(ui->Text1->text());
+}
+
+void Form2::closing() {
+  VereinSchliessen(m_store);
+}

@@ -1,0 +1,152 @@
+#include "masterdata/Form3.h"
+
+#include "core/RecordFiles.h"
+#include "masterdata/AthleteRegister.h"
+#include "masterdata/ClubRegister.h"
+#include "platform/Dates.h"
+#include "platform/Numbers.h"
+#include "ui_Form3.h"
+
+#include <QKeyEvent>
+
+namespace {
+
+bool isArrow(const QEvent *event) {
+  if (event->type() != QEvent::KeyPress)
+    return false;
+  const int key = static_cast<const QKeyEvent *>(event)->key();
+  return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_Left || key == Qt::Key_Right;
+}
+
+// Taking away the choice of an option button needs its group to be open for a moment.
+void setChosen(QRadioButton *option, bool chosen) {
+  option->setAutoExclusive(false);
+  option->setChecked(chosen);
+  option->setAutoExclusive(true);
+}
+
+} // namespace
+
+Form3::Form3(Desk &desk, Store &store)
+    : Screen(desk, QStringLiteral("Form3"), 3), m_store(store), ui(std::make_unique<Ui::Form3>()) {
+  ui->setupUi(this);
+  setUp();
+  fillList();
+  fillClubs();
+  connectNavigation();
+  connectFields();
+  openLastAthlete(m_store);
+  LaeuferZeigen();
+  ui->List1->setFocus();
+}
+
+Form3::~Form3() = default;
+
+void Form3::fillClubs() {
+  const QStringList choices = clubChoices(m_store);
+  for (auto *combo : {ui->Combo1, ui->Combo2, ui->Combo3})
+    combo->addItems(choices);
+}
+
+void Form3::connectNavigation() {
+  connect(ui->Text1, &QLineEdit::textChanged, this, [this](const QString &text) {
+    goToAthlete(m_store, wholeNumber(text));
+    LaeuferZeigen();
+  });
+  connect(ui->Command2, &QPushButton::clicked, this, [this] {
+    if (goToAthleteBefore(m_store, wholeNumber(ui->Text1->text())))
+      LaeuferZeigen();
+  });
+  connect(ui->Command3, &QPushButton::clicked, this, [this] {
+    if (goToAthleteBehind(m_store, wholeNumber(ui->Text1->text()), ui->Text2->text(), ui->Text4->text()))
+      LaeuferZeigen();
+  });
+  connect(ui->Command4, &QPushButton::clicked, this, [this] {
+    if (!looksUndated(ui->Text4->text()))
+      zeigen(m_store.LaeuferAnzahl);
+  });
+  connect(ui->List1, &LineList::chosen, this, [this](int line) { zeigen(rowAtEnd(ui->List1->lines()[line], 6)); });
+  connect(ui->Command1, &QPushButton::clicked, this, &Form3::close);
+}
+
+void Form3::connectFields() {
+  onLeave(ui->Text2, [this] {
+    change([this](LaeuferSatz &athlete) { athlete.Name = trimmedBlanks(ui->Text2->text()); });
+    fillList();
+  });
+  onLeave(ui->Text3,
+          [this] { change([this](LaeuferSatz &athlete) { athlete.OesvNr = trimmedBlanks(ui->Text3->text()); }); });
+  onLeave(ui->Text4, [this] { ui->Text4->setText(storeBirthDate(m_store, m_shown, ui->Text4->text())); });
+  // The points are shown with a comma and read only up to it; it is meant.
+  onLeave(ui->Text5, [this] {
+    change([this](LaeuferSatz &athlete) { athlete.LaeuferPunkte = float(leadingNumber(ui->Text5->text())); });
+  });
+  connect(ui->Option1, &QRadioButton::clicked, this, [this] { setSex(1); });
+  connect(ui->Option2, &QRadioButton::clicked, this, [this] { setSex(0); });
+  connectClub(ui->Combo1, &LaeuferSatz::Verein1);
+  connectClub(ui->Combo2, &LaeuferSatz::Verein2);
+  connectClub(ui->Combo3, &LaeuferSatz::Verein3);
+}
+
+void Form3::connectClub(QComboBox *combo, qint16 LaeuferSatz::*club) {
+  onLeave(combo, [this, combo, club] {
+    if (combo->currentIndex() >= 0)
+      change([&](LaeuferSatz &athlete) { athlete.*club = qint16(combo->currentIndex()); });
+  });
+}
+
+void Form3::change(const std::function<void(LaeuferSatz &)> &change) {
+  changeAthlete(m_store, m_shown, change);
+}
+
+void Form3::setSex(int sex) {
+  change([sex](LaeuferSatz &athlete) { athlete.Geschlecht = qint16(sex); });
+}
+
+// Qt moves between option buttons only when one is chosen, and only along their row; here each arrow key goes to the
+// other one and chooses it.
+bool Form3::eventFilter(QObject *watched, QEvent *event) {
+  const bool option = watched == ui->Option1 || watched == ui->Option2;
+  if (!option || !isArrow(event))
+    return Screen::eventFilter(watched, event);
+  auto *other = watched == ui->Option1 ? ui->Option2 : ui->Option1;
+  other->setFocus();
+  other->click();
+  return true;
+}
+
+void Form3::zeigen(int record) {
+  goToAthlete(m_store, record);
+  LaeuferZeigen();
+}
+
+void Form3::neuaufnehmen(const QString &name) {
+  zeigen(firstFreeAthlete(m_store));
+  ui->Text2->setText(name);
+  ui->Text2->setFocus();
+}
+
+// Setting another number into Text1 reads and shows the record once more.
+void Form3::LaeuferZeigen() {
+  m_shown = m_store.LaeuferIdx;
+  ui->Text1->setText(plainText(m_shown));
+  const auto &athlete = m_store.Laeufer;
+  ui->Text2->setText(athlete.Name);
+  ui->Text3->setText(trimmedBlanks(athlete.OesvNr));
+  showSex();
+  ui->Text4->setText(shortDate(fromDays(athlete.Geburtsdatum)));
+  ui->Text5->setText(plainText(athlete.LaeuferPunkte));
+  ui->Combo1->setCurrentIndex(athlete.Verein1);
+  ui->Combo2->setCurrentIndex(athlete.Verein2);
+  ui->Combo3->setCurrentIndex(athlete.Verein3);
+  ui->List1->chooseByNumber(m_shown);
+}
+
+void Form3::showSex() {
+  setChosen(ui->Option1, m_store.Laeufer.Geschlecht == 1);
+  setChosen(ui->Option2, m_store.Laeufer.Geschlecht == 0);
+}
+
+void Form3::fillList() {
+  ui->List1->refill(LaeuferListeFuellen(m_store), m_shown);
+}

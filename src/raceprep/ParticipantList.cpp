@@ -1,0 +1,120 @@
+#include "raceprep/ParticipantList.h"
+
+#include "core/RecordFiles.h"
+#include "masterdata/ClubRegister.h"
+#include "platform/Numbers.h"
+#include "platform/SortedLines.h"
+
+#include <array>
+#include <tuple>
+
+namespace {
+
+constexpr int LastRow = 1000;
+constexpr int ClubTextLength = 20;
+constexpr int RecordDigits = 6, RowDigits = 4;
+
+std::array<int, 3> clubSlots(const Store &store) {
+  return {store.Laeufer.Verein1, store.Laeufer.Verein2, store.Laeufer.Verein3};
+}
+
+QString shortNameOfClub(Store &store, int club) {
+  store.VereinIdx = club;
+  VereinLesen(store);
+  return trimmedBlanks(store.Verein.VereinKurz);
+}
+
+// Slots 0 (not chosen) and 4 (no club) have no text.
+QString clubTextOfSlot(Store &store, int slot) {
+  if (slot < 1 || slot > 3)
+    return {};
+  const int club = clubSlots(store)[std::size_t(slot - 1)];
+  return isClub(store, club) ? QStringLiteral(" --- ") + shortNameOfClub(store, club).left(ClubTextLength) : QString();
+}
+
+QString sortPrefix(int row, int order) {
+  if (order != ByEntry && order != LatestFirst)
+    return {};
+  return plainText(order == ByEntry ? row : LastRow - row) + QStringLiteral("  ");
+}
+
+QString participantLine(Store &store, int row, int order) {
+  const auto &line = store.Teilnehmer[row];
+  return sortPrefix(row, order) + store.Laeufer.Name + QStringLiteral("   ") + clubTextOfSlot(store, line.VereinNr) +
+         QString(50, QLatin1Char(' ')) + masked(row, "0###") + masked(line.LaeuferNr, "0#####");
+}
+
+// The columns that belong to the participant and move with him.
+template <typename Row> auto ownColumns(Row &row) {
+  return std::tie(row.LaeuferNr, row.StartNr, row.KlasseNr, row.Punkte, row.Zeit1, row.Zeit2, row.Status1, row.Status2,
+                  row.VereinNr, row.GruppeNr, row.MannschaftNr, row.Gast, row.Bezahlt, row.Boarder);
+}
+
+} // namespace
+
+QStringList athleteLines(Store &store, const QString &beginning) {
+  SortedLines lines;
+  for (int n = 1; n <= store.LaeuferAnzahl; ++n) {
+    store.LaeuferIdx = n;
+    LaeuferLesen(store);
+    const QString &name = store.Laeufer.Name;
+    if (!name.isEmpty() && upperCase(name.left(beginning.size())) == beginning)
+      lines.add(name + QString(20, QLatin1Char(' ')) + plainText(n));
+  }
+  return lines.take();
+}
+
+QStringList TeilnehmerlisteFuellen(Store &store, const QString &beginning, int order) {
+  SortedLines lines;
+  for (int row = 1; row <= LastRow; ++row) {
+    if (store.Teilnehmer[row].LaeuferNr == 0)
+      continue;
+    store.LaeuferIdx = store.Teilnehmer[row].LaeuferNr;
+    LaeuferLesen(store);
+    if (upperCase(store.Laeufer.Name.left(beginning.size())) == beginning)
+      lines.add(participantLine(store, row, order));
+  }
+  return lines.take();
+}
+
+int rowOfLine(QStringView line) {
+  return rowAtEnd(line.chopped(std::min<qsizetype>(RecordDigits, line.size())), RowDigits);
+}
+
+AthleteClubs clubsOfAthlete(Store &store) {
+  AthleteClubs clubs;
+  const auto slots = clubSlots(store);
+  for (int slot = 1; slot <= 3; ++slot) {
+    const int club = slots[std::size_t(slot - 1)];
+    if (!isClub(store, club))
+      continue;
+    // The dash stands before a lone club of a later slot too; it is meant.
+    clubs.text += (slot > 1 ? QStringLiteral(" - ") : QString()) + shortNameOfClub(store, club);
+    clubs.lastSlot = slot;
+    ++clubs.count;
+  }
+  return clubs;
+}
+
+bool isParticipant(const Store &store, int athlete) {
+  for (int row = 1; row <= LastRow; ++row)
+    if (store.Teilnehmer[row].LaeuferNr == athlete)
+      return true;
+  return false;
+}
+
+void addParticipant(Store &store, int athlete, int clubCount, int lastSlot) {
+  int row = 1;
+  while (row <= LastRow && store.Teilnehmer[row].LaeuferNr != 0)
+    ++row;
+  if (row > LastRow)
+    return store.umgebung.piep();
+  store.Teilnehmer[row].LaeuferNr = athlete;
+  if (clubCount == 1)
+    store.Teilnehmer[row].VereinNr = lastSlot;
+}
+
+void removeParticipant(Store &store, int row) {
+  for (int i = row; i < LastRow; ++i)
+    ownColumns(store.Teilnehmer[i]) = ownColumns(store.Teilnehmer[i + 1]);
+}

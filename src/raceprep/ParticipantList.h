@@ -1,0 +1,35 @@
+#pragma once
+
+#include "core/Store.h"
+
+// The rules of the participant list: which athletes of the register start in the open race.
+
+/// Lines of `Form5.List1`: the athletes whose name begins with `beginning` (upper case; empty = all), sorted; ends in
+/// the record number. Leaves the index and the buffer at the last record.
+QStringList athleteLines(Store &store, const QString &beginning);
+
+/// The orders of `Form5.Combo1`, by position.
+enum ListOrder { ByName = 0, ByEntry = 1, LatestFirst = 2 };
+/// Lines of `Form5.List2`: the participants whose name in upper case begins with `beginning` as it stands, sorted; ends
+/// in four digits of the table row and six of the record number. The orders by entry sort unpadded digits as text on
+/// purpose: 1, 10, 100, 2. Leaves index and buffer at the last row's athlete and at the last club read.
+QStringList TeilnehmerlisteFuellen(Store &store, const QString &beginning, int order);
+/// The table row in a line of `Form5.List2`.
+int rowOfLine(QStringView line);
+
+/// The clubs of the current athlete as they are shown, how many they are, and the last of his slots (1 to 3) that holds
+/// one, 0 = none.
+struct AthleteClubs {
+  QString text;
+  int count = 0, lastSlot = 0;
+};
+AthleteClubs clubsOfAthlete(Store &store);
+
+/// Whether an athlete has a row in the open race; the whole protection against entering him twice.
+bool isParticipant(const Store &store, int athlete);
+/// Takes an athlete into the first free row; with exactly one club he starts for that one, in slot `lastSlot`. Nothing
+/// but a beep if all 1000 rows are in use.
+void addParticipant(Store &store, int athlete, int clubCount, int lastSlot);
+/// All rows behind `row` move up by one, times included. `ZeitReserve`, `KlasseGenau` and what the ranking left stay
+/// with their rows, and row 1000 is not cleared; both on purpose.
+void removeParticipant(Store &store, int row);

@@ -1,0 +1,103 @@
+#include "raceprep/StartNumbers.h"
+
+#include "core/RecordFiles.h"
+#include "platform/Numbers.h"
+#include "platform/SortedLines.h"
+#include "timing/Ranking.h"
+
+#include <limits>
+
+namespace {
+
+constexpr int NumberWidth = 5;
+constexpr int RowWidth = 5;
+constexpr int KeyWidth = 3;
+constexpr int RowsOfDeletion = 50;
+
+// The lines of the draw for all participants that `wanted` takes: order key, draw, name, row. `draw` is asked once for
+// each of them.
+template <typename Wanted, typename Draw> QStringList numberingLines(Store &store, Wanted wanted, Draw draw) {
+  const int athlete = store.LaeuferIdx;
+  const LaeuferSatz record = store.Laeufer;
+  SortedLines lines;
+  for (int row = 1; row <= store.Teilnehmer.last(); ++row) {
+    const auto &participant = store.Teilnehmer[row];
+    if (wanted(participant) && readAthlete(store, participant))
+      lines.add(Reihungsschluessel(store, participant) + draw() + QStringLiteral("   ") + store.Laeufer.Name +
+                QStringLiteral("     ") + plainText(row));
+  }
+  store.LaeuferIdx = athlete;
+  store.Laeufer = record;
+  return lines.take();
+}
+
+bool fitsColumn(qint64 number) {
+  return number >= std::numeric_limits<int>::min() && number <= std::numeric_limits<int>::max();
+}
+
+// Counts on from `number` over the lines, and on by `reserve` where the key changes. The counter of the loop is the
+// row in work of the whole program, on purpose: a flag left before the next participant is chosen goes to that row.
+void handOut(Store &store, const QStringList &lines, qint64 number, qint64 reserve) {
+  QString key;
+  for (store.TnIdx = 0; store.TnIdx < lines.size(); ++store.TnIdx, ++number) {
+    const QString &line = lines[store.TnIdx];
+    if (!key.isEmpty() && line.left(KeyWidth) != key)
+      number += reserve;
+    key = line.left(KeyWidth);
+    if (!fitsColumn(number))
+      return store.umgebung.piep();
+    store.Teilnehmer[rowAtEnd(line, RowWidth)].StartNr = int(number);
+  }
+}
+
+} // namespace
+
+QStringList NummernlisteFuellen(Store &store) {
+  SortedLines lines;
+  for (int row = 1; row <= store.Teilnehmer.last(); ++row)
+    if (readAthlete(store, store.Teilnehmer[row]))
+      lines.add(rightAligned(plainText(store.Teilnehmer[row].StartNr), NumberWidth) + QStringLiteral("  ") +
+                store.Laeufer.Name + QStringLiteral("          ") + plainText(row));
+  return lines.take();
+}
+
+// Equal draws of two digits are common and then go by name, which is meant.
+QStringList nummernAuslosen(Store &store, int reserve) {
+  const auto everybody = [](const TeilnehmerZeile &) { return true; };
+  const auto draw = [&store] { return masked(int(store.umgebung.zufallszahl() * 100), "0#"); };
+  const QStringList lines = numberingLines(store, everybody, draw);
+  handOut(store, lines, 1, reserve);
+  return lines;
+}
+
+// Also where the race goes by groups and the operator picks one, the class number is compared; this is meant.
+QStringList nummernFuerKlasse(Store &store, int klasse, qint64 first, qint64 reserve) {
+  const auto ofClass = [klasse](const TeilnehmerZeile &participant) { return participant.KlasseNr == klasse; };
+  const auto noDraw = [] { return QString(); };
+  const QStringList lines = numberingLines(store, ofClass, noDraw);
+  handOut(store, lines, first, reserve);
+  return lines;
+}
+
+qint64 ersteNummer(const QString &text) {
+  return text.isEmpty() ? 1 : wholeNumber(text);
+}
+
+bool startNrVergeben(const Store &store, int startNr) {
+  for (int row = 1; row <= store.Teilnehmer.last(); ++row)
+    if (store.Teilnehmer[row].StartNr == startNr)
+      return true;
+  return false;
+}
+
+bool startNummernVorhanden(const Store &store) {
+  qint64 sum = 0;
+  for (int row = 1; row <= RowsOfDeletion; ++row)
+    sum += store.Teilnehmer[row].StartNr;
+  return sum > 0;
+}
+
+void startNummernLoeschen(Store &store) {
+  for (int row = 1; row <= store.Teilnehmer.last(); ++row)
+    store.Teilnehmer[row].StartNr = 0;
+}

@@ -1,0 +1,119 @@
+#include "Programm.h"
+
+#include "core/RaceFiles.h"
+#include "platform/qt/LineList.h"
+#include "platform/qt/Screen.h"
+#include "support/TestStore.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+class ProgrammTest : public testing::Test {
+protected:
+  ~ProgrammTest() override { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+
+  void start() {
+    programm = std::make_unique<Programm>(test.store);
+    programm->start();
+  }
+  Screen *window(const char *name) {
+    for (auto *widget : QApplication::topLevelWidgets())
+      if (widget->objectName() == QLatin1String(name) && widget->isVisible())
+        return qobject_cast<Screen *>(widget);
+    return nullptr;
+  }
+  template <typename T> T *control(const char *screen, const char *name) {
+    return window(screen)->findChild<T *>(QLatin1String(name));
+  }
+  void press(const char *screen, const char *button) {
+    QTest::mouseClick(control<QPushButton>(screen, button), Qt::LeftButton);
+  }
+  std::string visible() {
+    QStringList names;
+    for (auto *widget : QApplication::topLevelWidgets())
+      if (widget->isVisible())
+        names << widget->objectName();
+    names.sort();
+    return names.join(QLatin1Char(' ')).toStdString();
+  }
+  QString text(const char *screen, const char *box) { return control<QLineEdit>(screen, box)->text(); }
+
+  TestStore test;
+  std::unique_ptr<Programm> programm;
+};
+
+TEST_F(ProgrammTest, TheRegisterTakesThePlaceOfTheMenuAndKeepsTheOpenRace) {
+  test.addRace(QStringLiteral("Slalom"));
+  test.addRace(QStringLiteral("Abfahrt"));
+  test.store.AktRennen = test.store.RennenIdx = 0;
+  start();
+  press("Form1", "Command3");
+  EXPECT_EQ(visible(), "Form4");
+  EXPECT_EQ(text("Form4", "Text2"), QStringLiteral("Abfahrt"));
+  EXPECT_EQ(test.beeps, 1); // race 0 is read while the list is filled for the first time
+  press("Form4", "Command2");
+  press("Form4", "Command1");
+  EXPECT_EQ(visible(), "Form1");
+  press("Form1", "Command3");
+  EXPECT_EQ(text("Form4", "Text2"), QStringLiteral("Slalom"));
+  window("Form4")->close();
+  EXPECT_EQ(visible(), "Form1");
+}
+
+TEST_F(ProgrammTest, ADeletedRaceStaysOpenAsLeer) {
+  test.addRace(QStringLiteral("Slalom"));
+  RennDatenSpeichern(test.store);
+  start();
+  press("Form1", "Command3");
+  press("Form4", "Command9");
+  EXPECT_EQ(visible(), "Form9");
+  press("Form9", "Command2");
+  EXPECT_TRUE(test.hasFile(QStringLiteral("R 1.dat")));
+  press("Form4", "Command9");
+  press("Form9", "Command1");
+  EXPECT_EQ(visible(), "Form4");
+  EXPECT_FALSE(test.hasFile(QStringLiteral("R 1.dat")));
+  EXPECT_EQ(text("Form4", "Text1") + text("Form4", "Text2"), QStringLiteral("1leer"));
+  EXPECT_TRUE(control<LineList>("Form4", "List1")->lines().isEmpty());
+}
+
+TEST_F(ProgrammTest, TheReminderFollowsTheSaves) {
+  test.addRace(QStringLiteral("Slalom"));
+  start();
+  const int row = test.enter(test.addAthlete(QStringLiteral("BERGER Eva"), 2000, 2));
+  RennDatenSpeichern(test.store);
+  RennDatenSpeichern(test.store);
+  EXPECT_EQ(visible(), "Form1 Form17");
+  EXPECT_EQ(control<LineList>("Form17", "List1")->lines(), QStringList{QStringLiteral("1   BERGER Eva m/w ?")});
+  window("Form17")->close();
+  RennDatenSpeichern(test.store); // closed by hand and wanted again at once
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_EQ(visible(), "Form1 Form17");
+  test.store.Teilnehmer[row].LaeuferNr = 0;
+  RennDatenSpeichern(test.store);
+  EXPECT_EQ(visible(), "Form1");
+}
+
+TEST_F(ProgrammTest, OnlyTheMenuEndsTheProgramAlsoBesideTheReminder) {
+  start();
+  test.umgebung.erinnern({QStringLiteral("1")});
+  press("Form1", "Command3");
+  int ended = 0;
+  QTimer::singleShot(0, [&] {
+    window("Form4")->close();
+    EXPECT_EQ(visible(), "Form1 Form17");
+    ended = 1;
+    press("Form1", "Command4");
+  });
+  QTimer::singleShot(10000, programm.get(), [] { QCoreApplication::exit(1); });
+  EXPECT_EQ(QApplication::exec(), 0);
+  EXPECT_EQ(ended, 1);
+  EXPECT_FALSE(test.store.VereinDatei.isOpen() || test.store.LaeuferDatei.isOpen() || test.store.RennenDatei.isOpen());
+}
+
+} // namespace

@@ -1,0 +1,77 @@
+#include "platform/qt/Preview.h"
+
+#include "platform/qt/PreviewPages.h"
+#include "support/FakePrinters.h"
+#include "support/Print.h"
+
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+Recording document(const char *name, int pages) {
+  Recording recording;
+  recording.name = QString::fromLatin1(name);
+  const PrintPage page{TextOperation{20, 20, PrintFont(), recording.name}, FillOperation{0, 100, 202, 150, 0xFF0000}};
+  recording.pages = QList<PrintPage>(pages, page);
+  return recording;
+}
+
+class PreviewTest : public testing::Test {
+protected:
+  PreviewTest() { preview.offer(*fake.printers); }
+  void print(const Recording &recording) { preview.printer().print(recording); }
+  QString position() { return preview.findChild<QLabel *>(QStringLiteral("Seite"))->text(); }
+  void press(const char *button) {
+    QTest::mouseClick(preview.findChild<QPushButton *>(QLatin1String(button)), Qt::LeftButton);
+  }
+  PreviewPages *pages() { return preview.findChild<PreviewPages *>(); }
+
+  FakePrinters fake;
+  Preview preview;
+};
+
+} // namespace
+
+TEST_F(PreviewTest, ShowsThePagesAndTurnsThem) {
+  print(document("Liste", 3));
+  EXPECT_TRUE(preview.isVisible());
+  EXPECT_EQ(position(), QStringLiteral("Seite 1 von 3"));
+  QTest::keyClick(pages(), Qt::Key_PageDown);
+  EXPECT_EQ(position(), QStringLiteral("Seite 2 von 3"));
+  press("vor");
+  press("groesser");
+  press("breite");
+  EXPECT_EQ(position(), QStringLiteral("Seite 3 von 3"));
+  QTest::keyClick(pages(), Qt::Key_Home);
+  press("zurueck");
+  EXPECT_EQ(position(), QStringLiteral("Seite 1 von 3"));
+  const QImage seen = pages()->viewport()->grab().toImage();
+  EXPECT_EQ(seen.pixelColor(seen.width() / 2, int(14 + (seen.width() - 28) / 210.0 * 129)), QColor(Qt::red));
+}
+
+TEST_F(PreviewTest, AppendsWhileItIsOpenAndStartsAnewAfterClosing) {
+  print(document("Urkunde", 1));
+  print(document("Urkunde", 1));
+  EXPECT_EQ(position(), QStringLiteral("Seite 1 von 2"));
+  QTest::keyClick(pages(), Qt::Key_Escape);
+  EXPECT_FALSE(preview.isVisible());
+  print(document("Liste", 1));
+  EXPECT_EQ(position(), QStringLiteral("Seite 1 von 1"));
+}
+
+TEST_F(PreviewTest, SendsEveryDocumentToAnotherPrinter) {
+  print(document("Urkunde", 1));
+  print(document("Liste", 2));
+  auto *menu = preview.findChild<QMenu *>();
+  Q_EMIT menu->aboutToShow();
+  ASSERT_EQ(menu->actions().size(), 2);
+  menu->actions()[1]->trigger();
+  EXPECT_EQ(fake.usedPrinters, (QStringList{QStringLiteral("Alt"), QStringLiteral("Alt")}));
+  EXPECT_EQ(fake.documents[1].pages.size(), 2);
+  EXPECT_EQ(preview.findChild<QLabel *>(QStringLiteral("letzteDatei"))->text(), QStringLiteral("Liste.pdf"));
+}

@@ -1,0 +1,66 @@
+#include "raceprep/ClassRules.h"
+
+#include "core/Classes.h"
+#include "support/TestStore.h"
+
+namespace {
+
+struct Row {
+  const char *name;
+  int von, bis;
+};
+
+const struct {
+  const char *what;
+  std::vector<Row> before, after;
+} NormalForms[] = {
+    {"a first year moves the next class",
+     {{"A", 2010, 2020}, {"B", 2003, 2009}, {"C", 1980, 2004}},
+     {{"A", 2010, 2026}, {"B", 2003, 2009}, {"C", 1900, 2002}}},
+    {"a last year below the first acts, then is overwritten",
+     {{"A", 2010, 2020}, {"B", 1995, 1990}, {"C", 0, 1994}},
+     {{"A", 2010, 2026}, {"B", 1990, 2009}, {"C", 1900, 1989}}},
+    {"a class behind the last, first run", {{"A", 1900, 2026}, {"B", 0, 0}}, {{"A", 1900, 2026}, {"B", 0, 1899}}},
+    {"second run", {{"A", 1900, 2026}, {"B", 0, 1899}}, {{"A", 1900, 2026}, {"B", 1899, 1899}}},
+    {"empty row inside stays, behind is cleared",
+     {{"A", 2010, 2020}, {"", 2005, 2005}, {"C", 1950, 1960}, {"", 1, 2}},
+     {{"A", 2010, 2026}, {"", 2005, 2009}, {"C", 1900, 2004}, {"", 0, 0}}},
+    {"one class takes everybody", {{"A", 2010, 2020}}, {{"A", 1900, 2026}}},
+    {"no class has no year", {{"", 2010, 2020}}, {{"", 0, 0}}},
+};
+
+void fill(Store &store, const std::vector<Row> &rows) {
+  store.KlasseName.fill({});
+  for (int i = 1; const auto &row : rows) {
+    store.KlasseName[i] = QString::fromUtf8(row.name);
+    store.KlasseVon[i] = row.von;
+    store.KlasseBis[i++] = row.bis;
+  }
+}
+
+} // namespace
+
+TEST(ClassRules, NormalForm) {
+  TestStore test;
+  for (const auto &[what, before, after] : NormalForms) {
+    fill(test.store, before);
+    KlassenAktualisieren(test.store);
+    for (int i = 1; const auto &row : after) {
+      EXPECT_EQ(test.store.KlasseVon[i], row.von) << what << ", class " << i;
+      EXPECT_EQ(test.store.KlasseBis[i], row.bis) << what << ", class " << i;
+      ++i;
+    }
+  }
+}
+
+TEST(ClassRules, LinesOfTheBuiltInTable) {
+  TestStore test;
+  takeStandardClasses(test.store);
+  const int row = test.enter(test.addAthlete(QStringLiteral("A"), 2026, 1));
+  test.enter(test.addAthlete(QStringLiteral("B"), 2025, 1));
+  test.store.Teilnehmer[row].Status1 = 1;
+  const QStringList lines = KlassenAktualisieren(test.store);
+  EXPECT_EQ(lines.first(), QStringLiteral(" 1 Bambini 1             2020 - 2026  (1/2)"));
+  EXPECT_EQ(lines.at(13), QStringLiteral("14 Allg. Kl.             1996 - 2004  (0/0)")); // the gap is closed
+  EXPECT_EQ(lines.at(15), QStringLiteral("16 AK 2                  1976 - 1985  (0/0)")); // so is the overlap
+}

@@ -1,0 +1,131 @@
+#include "raceprep/StartNumbers.h"
+
+#include "core/RaceFiles.h"
+#include "support/TestStore.h"
+
+#include <QSet>
+
+namespace {
+
+class StartNumbers : public testing::Test {
+protected:
+  StartNumbers() { test.addRace(QStringLiteral("Lauf")); }
+
+  int enter(const char *name, int order, int klasse = 1, int startNr = 0) {
+    const int row = test.enter(test.addAthlete(QString::fromUtf8(name), 2000, 0), startNr);
+    store.Teilnehmer[row].KlasseReihe = order;
+    store.Teilnehmer[row].KlasseNr = klasse;
+    return row;
+  }
+
+  QList<int> numbers(int last) {
+    QList<int> found;
+    for (int row = 1; row <= last; ++row)
+      found.append(store.Teilnehmer[row].StartNr);
+    return found;
+  }
+
+  TestStore test;
+  Store &store = test.store;
+};
+
+} // namespace
+
+TEST_F(StartNumbers, ReserveLiesBetweenKeysAndNotBeforeTheFirst) {
+  for (const int order : {1, 2, 0, 1, 2, 0, 1})
+    enter("A", order);
+  const std::tuple<int, QList<int>> cases[] = {
+      {0, {1, 2, 3, 4, 5, 6, 7}}, {5, {1, 2, 8, 9, 10, 16, 17}}, {-3, {0, 0, 1, 1, 1, 2, 2}}};
+  for (const auto &[reserve, expected] : cases) {
+    nummernAuslosen(store, reserve);
+    EXPECT_EQ(store.Teilnehmer[3].StartNr + store.Teilnehmer[6].StartNr, 3) << "order 0 starts first";
+    QList<int> sorted = numbers(7);
+    std::sort(sorted.begin(), sorted.end());
+    EXPECT_EQ(sorted, expected) << reserve;
+  }
+}
+
+TEST_F(StartNumbers, DrawOfTwoDigitsThenTheName) {
+  for (int i = 0; i < 150; ++i)
+    enter(("P" + std::to_string(900 - i)).c_str(), 7);
+  Umgebung same;
+  same.zufall.seed(42);
+  test.umgebung.zufall.seed(42);
+  QList<std::pair<int, int>> order; // draw, row; a later row has the smaller name
+  for (int row = 1; row <= 150; ++row)
+    order.append({int(same.zufallszahl() * 100), -row});
+  std::sort(order.begin(), order.end());
+  const QStringList lines = nummernAuslosen(store, 0);
+  EXPECT_EQ(lines[0].left(8), QStringLiteral("007%1   ").arg(order[0].first, 2, 10, QLatin1Char('0')));
+  for (int i = 0; i < 150; ++i)
+    ASSERT_EQ(store.Teilnehmer[-order[i].second].StartNr, i + 1);
+  nummernAuslosen(store, 0);
+  EXPECT_NE(store.Teilnehmer[-order[0].second].StartNr * 1000 + store.Teilnehmer[-order[1].second].StartNr, 1002);
+}
+
+TEST_F(StartNumbers, NobodyIsLeftOutOfTheDraw) {
+  std::mt19937 random(2026);
+  for (int i = 1; i <= 60; ++i)
+    test.addAthlete(i % 8 == 0 ? QString() : QStringLiteral("ÄRMEL Zoë"), 2000, 0);
+  for (int field = 0; field < 50; ++field) {
+    RennDatenLaden(store);
+    QSet<int> named, given;
+    for (int row = 1; row <= 1000; row += 1 + int(random() % 60)) {
+      const int athlete = 1 + int(random() % 60);
+      store.Teilnehmer[row].LaeuferNr = athlete;
+      store.Teilnehmer[row].StartNr = -7;
+      store.Teilnehmer[row].KlasseReihe = int(random() % 4);
+      if (athlete % 8 != 0)
+        named.insert(row);
+    }
+    store.LaeuferIdx = 33;
+    nummernAuslosen(store, 0);
+    for (int row = 1; row <= 1000; ++row)
+      if (store.Teilnehmer[row].StartNr > 0)
+        given.insert(named.contains(row) ? store.Teilnehmer[row].StartNr : -row);
+    EXPECT_EQ(given.size(), named.size());
+    EXPECT_TRUE(given.contains(1) && given.contains(int(given.size()))) << "no gaps";
+    EXPECT_EQ(store.TnIdx, named.size());
+    EXPECT_EQ(store.LaeuferIdx, 33);
+    EXPECT_EQ(NummernlisteFuellen(store).size(), named.size());
+  }
+}
+
+TEST_F(StartNumbers, RunByClassTakesTheNumbersOfOthers) {
+  enter("C", 1, 4);
+  enter("B", 1, 4);
+  enter("A", 2, 4);
+  enter("D", 1, 5, 101);
+  nummernFuerKlasse(store, 4, 100, 0);
+  EXPECT_EQ(numbers(4), (QList<int>{101, 100, 102, 101}));
+  store.Rennen.WertKlassen = 0; // by groups: order and reserve go by the group, who is taken by the class
+  store.Teilnehmer[2].GruppeNr = 4;
+  store.Teilnehmer[4].GruppeNr = 4;
+  nummernFuerKlasse(store, 4, 10, 40000);
+  EXPECT_EQ(numbers(4), (QList<int>{11, 40012, 10, 101}));
+  EXPECT_EQ(store.TnIdx, 3);
+  nummernFuerKlasse(store, 4, 2147483647, 0);
+  EXPECT_EQ(numbers(4), (QList<int>{11, 40012, 2147483647, 101}));
+  EXPECT_EQ(test.beeps, 1);
+}
+
+TEST_F(StartNumbers, ListGoesByNumberThenByName) {
+  enter("ZORN", 0, 1, 10);
+  enter("Öl", 0, 1, 9);
+  enter("ola", 0);
+  enter("", 0, 1, 3);
+  EXPECT_EQ(NummernlisteFuellen(store),
+            (QStringList{QStringLiteral("    0  ola          3"), QStringLiteral("    9  Öl          2"),
+                         QStringLiteral("   10  ZORN          1")}));
+}
+
+TEST_F(StartNumbers, DeletionIsOfferedForTheFirstFiftyRowsOnly) {
+  EXPECT_TRUE(startNrVergeben(store, 0));
+  store.Teilnehmer[51].StartNr = 8;
+  EXPECT_FALSE(startNummernVorhanden(store));
+  store.Teilnehmer[50].StartNr = 1;
+  EXPECT_TRUE(startNummernVorhanden(store));
+  EXPECT_TRUE(startNrVergeben(store, 8));
+  startNummernLoeschen(store);
+  EXPECT_FALSE(startNrVergeben(store, 8));
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "platform/qt/Desk.h"
+#include "platform/qt/LineList.h"
+#include "support/TestStore.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+
+#include <memory>
+
+/// A store and the screen under test, worked as a person works it: controls are found by name.
+template <typename Form> class ScreenTest : public testing::Test {
+protected:
+  void open() {
+    form = std::make_unique<Form>(desk, store);
+    desk.show(*form);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+  }
+
+  template <typename Control = QWidget> Control *find(const char *name) {
+    return form->template findChild<Control *>(QLatin1String(name));
+  }
+  QString label(const char *name) { return find<QLabel>(name)->text(); }
+  QString text(const char *name) { return find<QLineEdit>(name)->text(); }
+  QStringList lines(const char *name) { return find<LineList>(name)->lines(); }
+  bool shown(const char *name) { return find(name)->isVisible(); }
+
+  void press(const char *name) { QTest::mouseClick(find<QAbstractButton>(name), Qt::LeftButton); }
+  void type(const char *name, const char *keys) {
+    find(name)->setFocus();
+    find<QLineEdit>(name)->selectAll();
+    QTest::keyClicks(find(name), QLatin1String(keys));
+  }
+  void clickLine(const char *name, int line) {
+    auto *list = find<LineList>(name);
+    const QRect place = list->visualRect(list->model()->index(line, 0));
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, {5, place.center().y()});
+  }
+  /// A key to the control that has the focus.
+  void key(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
+
+  TestStore test;
+  Store &store = test.store;
+  Desk desk{store.Fenster, [this] { FensterSpeichern(store); }};
+  std::unique_ptr<Form> form;
+};
