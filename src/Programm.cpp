@@ -115,41 +115,39 @@ void Programm::askDeletion() {
 }
 
 void Programm::copyRace() {
-  if (m_copy)
-    return m_desk.show(*m_copy);
-  m_copy = &beside(*m_hub, new CupKopie(m_desk, m_store, [this] { return m_hub->bezeichnung(); }));
-  connect(m_copy, &CupKopie::copied, m_hub, &Form4::listeFuellen);
+  if (auto *open = shown<CupKopie>())
+    return m_desk.show(*open);
+  auto &form = beside(*m_hub, new CupKopie(m_desk, m_store, [this] { return m_hub->bezeichnung(); }));
+  connect(&form, &CupKopie::copied, m_hub, &Form4::listeFuellen);
 }
 
 void Programm::openParticipants() {
   auto &form = replace(*m_hub, new Form5(m_desk, m_store));
-  connect(&form, &Form5::athletGewaehlt, this, [this, &form](int record) {
-    openAthleteOnTop(form, [record](Form3 &athletes) { athletes.zeigen(record); });
-  });
-  connect(&form, &Form5::neuaufnahme, this, [this, &form](const QString &name) {
-    openAthleteOnTop(form, [name](Form3 &athletes) { athletes.neuaufnehmen(name); });
-  });
+  connect(&form, &Form5::athletGewaehlt, this, [this, &form](int record) { athletesOnTop(form).zeigen(record); });
+  connect(&form, &Form5::neuaufnahme, this,
+          [this, &form](const QString &name) { athletesOnTop(form).neuaufnehmen(name); });
   connect(&form, &Form5::teilnehmerGewaehlt, this, [this, &form](int row) { openNumbersOnTop(form, row); });
   connect(&form, &Form5::teilnehmerGeloescht, this, [this] {
-    if (m_numbers)
-      m_numbers->zeilenVerschoben();
+    if (auto *numbers = shown<Form6>())
+      numbers->zeilenVerschoben();
   });
 }
 
-void Programm::openAthleteOnTop(Screen &participants, const std::function<void(Form3 &)> &begin) {
-  if (m_athletes)
-    m_desk.show(*m_athletes);
-  else
-    m_athletes = &beside(participants, new Form3(m_desk, m_store));
-  begin(*m_athletes);
+Form3 &Programm::athletesOnTop(Screen &participants) {
+  auto *athletes = shown<Form3>();
+  if (!athletes)
+    return beside(participants, new Form3(m_desk, m_store));
+  m_desk.show(*athletes);
+  return *athletes;
 }
 
 void Programm::openNumbersOnTop(Screen &participants, int row) {
-  if (m_numbers)
-    m_desk.show(*m_numbers);
+  auto *numbers = shown<Form6>();
+  if (numbers)
+    m_desk.show(*numbers);
   else
-    m_numbers = &beside(participants, new Form6(m_desk, m_store));
-  m_numbers->teilnehmerWaehlen(row);
+    numbers = &beside(participants, new Form6(m_desk, m_store));
+  numbers->teilnehmerWaehlen(row);
 }
 
 void Programm::openNumbers() {
@@ -171,20 +169,25 @@ void Programm::openTiming() {
   auto &form = replace(*m_hub, new Form7(m_desk, m_store));
   connect(&form, &Form7::ergebnisVerlangt, this, [this, &form](bool open) { showResult(form, open); });
   connect(&form, &Form7::ergebnisGerechnet, this, [this] {
-    if (m_result)
-      m_result->zeigen();
+    if (auto *result = shown<Form13>())
+      result->zeigen();
   });
-  connect(&form, &Form7::hilfszeitVerlangt, this, [this, &form] {
-    auto &clock = beside(form, new Form18(m_desk));
-    connect(&clock, &Form18::uebernommen, &form, &Form7::zeitUebernehmen);
-  });
+  connect(&form, &Form7::hilfszeitVerlangt, this, [this, &form] { openAuxiliaryTiming(form); });
+}
+
+void Programm::openAuxiliaryTiming(Form7 &timing) {
+  if (auto *open = shown<Form18>())
+    return m_desk.show(*open);
+  auto &form = beside(timing, new Form18(m_desk));
+  connect(&form, &Form18::uebernommen, &timing, &Form7::zeitUebernehmen);
 }
 
 void Programm::showResult(Screen &opener, bool open) {
-  if (m_result)
-    m_result->close();
-  if (open)
-    m_result = &beside(opener, new Form13(m_desk, m_store));
+  auto *result = shown<Form13>();
+  if (open && !result)
+    beside(opener, new Form13(m_desk, m_store));
+  if (!open && result)
+    result->close();
 }
 
 void Programm::openPrinting() {
@@ -250,6 +253,13 @@ template <typename S> S &Programm::beside(Screen &opener, S *screen) {
   return *screen;
 }
 
+template <typename S> S *Programm::shown() const {
+  for (const auto &screen : m_screens)
+    if (auto *found = qobject_cast<S *>(screen.data()); found && found->isVisible())
+      return found;
+  return nullptr;
+}
+
 void Programm::adopt(Screen &screen) {
   screen.setAttribute(Qt::WA_DeleteOnClose);
   m_screens.removeAll(nullptr);
@@ -260,8 +270,8 @@ void Programm::showInPlace(Screen &opener, Screen &screen) {
   adopt(screen);
   connect(&screen, &Screen::closed, &opener, [this, &opener] { m_desk.show(opener); });
   // A copy made beside a race in work would load its files over what has been typed.
-  if (m_copy)
-    m_copy->close();
+  if (auto *copy = shown<CupKopie>())
+    copy->close();
   opener.hide();
   m_desk.show(screen);
 }

@@ -9,13 +9,11 @@
 #include <QObject>
 #include <QPointer>
 
-class CupKopie;
 class Form1;
-class Form13;
 class Form17;
 class Form3;
 class Form4;
-class Form6;
+class Form7;
 class Screen;
 
 /// The roof: makes the screens and is the only place that knows which screen opens which.
@@ -48,11 +46,12 @@ private:
   void copyRace();
 
   void openParticipants();
-  void openAthleteOnTop(Screen &participants, const std::function<void(Form3 &)> &begin);
+  Form3 &athletesOnTop(Screen &participants);
   void openNumbersOnTop(Screen &participants, int row);
   void openNumbers();
   void openClassOrder();
   void openTiming();
+  void openAuxiliaryTiming(Form7 &timing);
   void openPrinting();
   void openTeamEvaluation();
   void openTitlePageData();
@@ -69,6 +68,8 @@ private:
   template <typename S> S &replace(Screen &opener, S *screen);
   /// Shows `screen` beside `opener`.
   template <typename S> S &beside(Screen &opener, S *screen);
+  /// The open screen of this kind, if there is one.
+  template <typename S> S *shown() const;
   void adopt(Screen &screen);
   void showInPlace(Screen &opener, Screen &screen);
   void showBeside(Screen &opener, Screen &screen);
@@ -80,10 +81,6 @@ private:
   QHash<QString, Opening> m_openings;
   QPointer<Form1> m_menu;
   QPointer<Form4> m_hub;
-  QPointer<CupKopie> m_copy;
-  QPointer<Form3> m_athletes;
-  QPointer<Form6> m_numbers;
-  QPointer<Form13> m_result;
   QPointer<Form17> m_reminder;
   QList<QPointer<Screen>> m_screens;
 };
