@@ -6,14 +6,42 @@
 #include "core/RaceFiles.h"
 #include "core/RecordFiles.h"
 #include "core/Start.h"
+#include "evaluation/Form12.h"
+#include "evaluation/Form19.h"
+#include "evaluation/Form20.h"
+#include "masterdata/Form2.h"
+#include "masterdata/Form3.h"
+#include "platform/print/PdfFile.h"
+#include "platform/qt/SystemPrinters.h"
+#include "printing/Form16.h"
+#include "printing/Form21.h"
+#include "printing/Form28.h"
+#include "printing/Form8.h"
+#include "raceprep/CupKopie.h"
+#include "raceprep/Form10.h"
+#include "raceprep/Form11.h"
+#include "raceprep/Form14.h"
+#include "raceprep/Form15.h"
 #include "raceprep/Form4.h"
+#include "raceprep/Form5.h"
+#include "raceprep/Form6.h"
 #include "raceprep/Form9.h"
 #include "raceprep/RaceRegister.h"
+#include "timing/Form13.h"
+#include "timing/Form18.h"
+#include "timing/Form7.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 
 Programm::Programm(Store &store)
-    : m_store(store), m_desk(store.Fenster, [&store] { FensterSpeichern(store); }), m_openings(openings()) {
+    : m_store(store),
+      m_printers(systemPrinters,
+                 {pdfPrinter(store.DatenOrdner + QStringLiteral("Ausdrucke"), QDateTime::currentDateTime),
+                  m_preview.printer()}),
+      m_desk(store.Fenster, [&store] { FensterSpeichern(store); }), m_openings(openings()) {
+  m_preview.offer(m_printers);
+  store.umgebung.druckerAnzahl = [this] { return m_printers.isEmpty() ? 0 : 1; };
   store.umgebung.erinnern = [this](const QStringList &lines) { remind(lines); };
 }
 
@@ -39,25 +67,167 @@ void Programm::open(const QString &screen) {
   m_openings.value(screen)();
 }
 
-/// What the buttons of the menu and of the race register open, by the name of the screen.
+// What the buttons of the menu and of the race register open, by the name of the screen.
 QHash<QString, Programm::Opening> Programm::openings() {
-  return {
-      {QStringLiteral("Form4"), [this] { openRaceRegister(); }},
-      {QStringLiteral("Form9"), [this] { askDeletion(); }},
-  };
+  return {{QStringLiteral("Form2"), [this] { openClubs(); }},
+          {QStringLiteral("Form3"), [this] { openAthletes(); }},
+          {QStringLiteral("Form4"), [this] { openRaceRegister(); }},
+          {QStringLiteral("Form5"), [this] { openParticipants(); }},
+          {QStringLiteral("Form6"), [this] { openNumbers(); }},
+          {QStringLiteral("Form7"), [this] { openTiming(); }},
+          {QStringLiteral("Form8"), [this] { openPrinting(); }},
+          {QStringLiteral("Form9"), [this] { askDeletion(); }},
+          {QStringLiteral("Form10"), [this] { openPlain<Form10>(); }},
+          {QStringLiteral("Form11"), [this] { openPlain<Form11>(); }},
+          {QStringLiteral("Form12"), [this] { openTeamEvaluation(); }},
+          {QStringLiteral("Form14"), [this] { openPlain<Form14>(); }},
+          {QStringLiteral("Form15"), [this] { openClassOrder(); }},
+          {QStringLiteral("Form16"), [this] { openTitlePageData(); }},
+          {QStringLiteral("Form19"), [this] { openTimeSum(); }},
+          {QStringLiteral("Form20"), [this] { openCup(); }},
+          {QStringLiteral("CupKopie"), [this] { copyRace(); }}};
+}
+
+void Programm::openClubs() {
+  alleDateienOeffnen(m_store);
+  replace(*m_menu, new Form2(m_desk, m_store));
+}
+
+void Programm::openAthletes() {
+  alleDateienOeffnen(m_store);
+  replace(*m_menu, new Form3(m_desk, m_store));
 }
 
 void Programm::openRaceRegister() {
   alleDateienOeffnen(m_store);
   m_hub = &replace(*m_menu, new Form4(m_desk, m_store));
-  m_hub->setOpenable(m_openings.keys());
   connect(m_hub, &Form4::oeffnet, this, &Programm::open);
   m_hub->waehlen(rennenZuBeginn(m_store));
+}
+
+template <typename S> void Programm::openPlain() {
+  replace(*m_hub, new S(m_desk, m_store));
 }
 
 void Programm::askDeletion() {
   auto &form = replace(*m_hub, new Form9(m_desk, m_store));
   connect(&form, &Form9::geloescht, m_hub, &Form4::geloeschtZeigen);
+}
+
+void Programm::copyRace() {
+  if (auto *open = shown<CupKopie>())
+    return m_desk.show(*open);
+  auto &form = beside(*m_hub, new CupKopie(m_desk, m_store, [this] { return m_hub->bezeichnung(); }));
+  connect(&form, &CupKopie::copied, m_hub, &Form4::listeFuellen);
+}
+
+void Programm::openParticipants() {
+  auto &form = replace(*m_hub, new Form5(m_desk, m_store));
+  connect(&form, &Form5::athletGewaehlt, this, [this, &form](int record) { athletesOnTop(form).zeigen(record); });
+  connect(&form, &Form5::neuaufnahme, this,
+          [this, &form](const QString &name) { athletesOnTop(form).neuaufnehmen(name); });
+  connect(&form, &Form5::teilnehmerGewaehlt, this, [this, &form](int row) { openNumbersOnTop(form, row); });
+  connect(&form, &Form5::teilnehmerGeloescht, this, [this] {
+    if (auto *numbers = shown<Form6>())
+      numbers->zeilenVerschoben();
+  });
+}
+
+Form3 &Programm::athletesOnTop(Screen &participants) {
+  auto *athletes = shown<Form3>();
+  if (!athletes)
+    return beside(participants, new Form3(m_desk, m_store));
+  m_desk.show(*athletes);
+  return *athletes;
+}
+
+void Programm::openNumbersOnTop(Screen &participants, int row) {
+  auto *numbers = shown<Form6>();
+  if (numbers)
+    m_desk.show(*numbers);
+  else
+    numbers = &beside(participants, new Form6(m_desk, m_store));
+  numbers->teilnehmerWaehlen(row);
+}
+
+void Programm::openNumbers() {
+  KlassenZuordnen(m_store);
+  openPlain<Form6>();
+}
+
+// Its opener comes back before the race is saved, so that a reminder stays in front.
+void Programm::openClassOrder() {
+  RennDatenLaden(m_store);
+  KlassenZuordnen(m_store);
+  auto &form = replace(*m_hub, new Form15(m_desk, m_store));
+  disconnect(&form, &Screen::closed, m_hub, nullptr);
+  connect(&form, &Form15::saving, m_hub, [this] { m_desk.show(*m_hub); });
+}
+
+void Programm::openTiming() {
+  KlassenZuordnen(m_store);
+  auto &form = replace(*m_hub, new Form7(m_desk, m_store));
+  connect(&form, &Form7::ergebnisVerlangt, this, [this, &form](bool open) { showResult(form, open); });
+  connect(&form, &Form7::ergebnisGerechnet, this, [this] {
+    if (auto *result = shown<Form13>())
+      result->zeigen();
+  });
+  connect(&form, &Form7::hilfszeitVerlangt, this, [this, &form] { openAuxiliaryTiming(form); });
+}
+
+void Programm::openAuxiliaryTiming(Form7 &timing) {
+  if (auto *open = shown<Form18>())
+    return m_desk.show(*open);
+  auto &form = beside(timing, new Form18(m_desk));
+  connect(&form, &Form18::uebernommen, &timing, &Form7::zeitUebernehmen);
+}
+
+void Programm::showResult(Screen &opener, bool open) {
+  auto *result = shown<Form13>();
+  if (open && !result)
+    beside(opener, new Form13(m_desk, m_store));
+  if (!open && result)
+    result->close();
+}
+
+void Programm::openPrinting() {
+  KlassenZuordnen(m_store);
+  auto &form = replace(*m_hub, new Form8(m_desk, m_store, m_printers));
+  connect(&form, &Form8::druckerGewuenscht, this, [this, &form] { replace(form, new Form28(m_desk, m_printers)); });
+  connect(&form, &Form8::werbungGewuenscht, this, [this, &form] { replace(form, new Form21(m_desk, m_store)); });
+}
+
+void Programm::openTeamEvaluation() {
+  auto &form = replace(*m_hub, new Form12(m_desk, m_store, m_printers));
+  connect(&form, &Form12::druckerGewuenscht, this, [this, &form] { replace(form, new Form28(m_desk, m_printers)); });
+}
+
+void Programm::openTitlePageData() {
+  auto &form = replace(*m_hub, new Form16(m_desk, m_store));
+  connect(&form, &Form16::werbungGewuenscht, this, [this, &form] { replace(form, new Form21(m_desk, m_store)); });
+}
+
+void Programm::openCup() {
+  connectWorkSign(replace(*m_hub, new Form20(m_desk, m_store, m_printers)));
+}
+
+// The race register closes with a generated race, so that it is built anew and lists it.
+void Programm::openTimeSum() {
+  auto &form = replace(*m_hub, new Form19(m_desk, m_store));
+  connectWorkSign(form);
+  connect(&form, &Form19::erzeugt, this, [this, &form] {
+    disconnect(&form, &Screen::closed, m_hub, nullptr);
+    connect(&form, &Screen::closed, m_hub, &QWidget::close);
+  });
+}
+
+// The provisional result stands there while races are ranked, as a sign of work.
+template <typename S> void Programm::connectWorkSign(S &screen) {
+  connect(&screen, &S::arbeitBegonnen, this, [this, &screen] {
+    showResult(screen, true);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  });
+  connect(&screen, &S::arbeitBeendet, this, [this, &screen] { showResult(screen, false); });
 }
 
 // Opened at each save, and closed again unseen if there is nothing to tell.
@@ -83,6 +253,13 @@ template <typename S> S &Programm::beside(Screen &opener, S *screen) {
   return *screen;
 }
 
+template <typename S> S *Programm::shown() const {
+  for (const auto &screen : m_screens)
+    if (auto *found = qobject_cast<S *>(screen.data()); found && found->isVisible())
+      return found;
+  return nullptr;
+}
+
 void Programm::adopt(Screen &screen) {
   screen.setAttribute(Qt::WA_DeleteOnClose);
   m_screens.removeAll(nullptr);
@@ -92,6 +269,9 @@ void Programm::adopt(Screen &screen) {
 void Programm::showInPlace(Screen &opener, Screen &screen) {
   adopt(screen);
   connect(&screen, &Screen::closed, &opener, [this, &opener] { m_desk.show(opener); });
+  // A copy made beside a race in work would load its files over what has been typed.
+  if (auto *copy = shown<CupKopie>())
+    copy->close();
   opener.hide();
   m_desk.show(screen);
 }

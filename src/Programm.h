@@ -1,7 +1,9 @@
 #pragma once
 
 #include "core/Store.h"
+#include "platform/print/Printers.h"
 #include "platform/qt/Desk.h"
+#include "platform/qt/Preview.h"
 
 #include <QHash>
 #include <QObject>
@@ -9,7 +11,9 @@
 
 class Form1;
 class Form17;
+class Form3;
 class Form4;
+class Form7;
 class Screen;
 
 /// The roof: makes the screens and is the only place that knows which screen opens which.
@@ -20,7 +24,7 @@ class Programm : public QObject {
   Q_OBJECT
 
 public:
-  /// The store is started; the screens and the reminder of the saves work on it.
+  /// The store is started; the screens, the reminder of the saves and the printers of this run work on it.
   explicit Programm(Store &store);
   ~Programm() override;
 
@@ -34,19 +38,45 @@ private:
 
   QHash<QString, Opening> openings();
   void open(const QString &screen);
+
+  void openClubs();
+  void openAthletes();
   void openRaceRegister();
   void askDeletion();
+  void copyRace();
+
+  void openParticipants();
+  Form3 &athletesOnTop(Screen &participants);
+  void openNumbersOnTop(Screen &participants, int row);
+  void openNumbers();
+  void openClassOrder();
+  void openTiming();
+  void openAuxiliaryTiming(Form7 &timing);
+  void openPrinting();
+  void openTeamEvaluation();
+  void openTitlePageData();
+  void openCup();
+  void openTimeSum();
+  /// What the race register opens and needs no more than its own constructor.
+  template <typename S> void openPlain();
+
+  template <typename S> void connectWorkSign(S &screen);
+  void showResult(Screen &opener, bool open);
   void remind(const QStringList &lines);
 
   /// Shows `screen` in the place of `opener`.
   template <typename S> S &replace(Screen &opener, S *screen);
   /// Shows `screen` beside `opener`.
   template <typename S> S &beside(Screen &opener, S *screen);
+  /// The open screen of this kind, if there is one.
+  template <typename S> S *shown() const;
   void adopt(Screen &screen);
   void showInPlace(Screen &opener, Screen &screen);
   void showBeside(Screen &opener, Screen &screen);
 
   Store &m_store;
+  Preview m_preview;
+  Printers m_printers;
   Desk m_desk;
   QHash<QString, Opening> m_openings;
   QPointer<Form1> m_menu;

@@ -8,9 +8,9 @@ namespace {
 
 QString wertText(double value, int width) {
   QString text = (QStringLiteral("      ") + masked(value, "#.#0")).right(width);
-  const auto gap = text.indexOf(QStringLiteral(" ,"));
-  if (gap >= 0)
-    text[gap] = QLatin1Char('0');
+  const auto comma = text.indexOf(QLatin1Char(','));
+  if (comma > 0 && text[comma - 1] == QLatin1Char(' '))
+    text[comma - 1] = QLatin1Char('0');
   return text;
 }
 

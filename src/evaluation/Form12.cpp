@@ -59,7 +59,7 @@ void Form12::connectControls() {
   connect(ui->Command2, &QPushButton::clicked, this, &Form12::evaluate);
   connect(ui->List2, &LineList::chosen, this, &Form12::showMembers);
   connect(ui->Command3, &QPushButton::clicked, this, &Form12::print);
-  connect(ui->Command6, &QPushButton::clicked, this, [this] { Q_EMIT oeffnet(QStringLiteral("Form28")); });
+  connect(ui->Command6, &QPushButton::clicked, this, &Form12::druckerGewuenscht);
   connect(ui->Command1, &QPushButton::clicked, this, &Form12::close);
 }
 

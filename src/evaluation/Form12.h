@@ -26,8 +26,8 @@ public:
   void becomeActive() override;
 
 Q_SIGNALS:
-  /// Asks the roof for the choice of the printer, "Form28".
-  void oeffnet(const QString &screen);
+  /// The choice of the printer is wanted.
+  void druckerGewuenscht();
 
 private:
   void fill();

@@ -11,6 +11,8 @@ Form19::Form19(Desk &desk, Store &store)
     : Screen(desk, QStringLiteral("Form19"), 19), m_store(store), ui(std::make_unique<Ui::Form19>()) {
   ui->setupUi(this);
   setUp();
+  // Wrapped lines ask for no height of their own in the smallest window.
+  ui->Label3->setMinimumHeight(ui->Label3->heightForWidth(ui->Label3->minimumWidth()));
   ui->List1->fill(rennenZeilen(m_store));
   ui->Label2->setText(plainText(zeitsummeNummer(ui->List1->lines())));
   connect(ui->List1, &MarkList::markToggled, this,

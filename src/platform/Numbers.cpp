@@ -13,6 +13,7 @@
 namespace {
 
 constexpr double WholeLimit = 1e15;
+constexpr int ExactDigits = 15;
 
 bool isDigit(QChar c) {
   return c >= QLatin1Char('0') && c <= QLatin1Char('9');
@@ -22,6 +23,15 @@ qsizetype skipDigits(QStringView text, qsizetype at) {
   while (at < text.size() && isDigit(text[at]))
     ++at;
   return at;
+}
+
+// A sign and digits, no more than a double holds exactly; quick, as every list line is read back by it. 0 for no digit.
+double plainWhole(QStringView number) {
+  double value = 0;
+  for (const QChar c : number)
+    if (isDigit(c))
+      value = value * 10 + c.digitValue();
+  return number.startsWith(QLatin1Char('-')) ? -value : value;
 }
 
 void roundUp(std::string &digits) {
@@ -99,9 +109,8 @@ double leadingNumber(QStringView text) {
     if (behind > end + 1)
       end = behind;
   }
-  if (end == at)
-    return 0;
-  return text.sliced(start, end - start).toDouble();
+  const auto number = text.sliced(start, end - start);
+  return number.size() <= ExactDigits && !number.contains(QLatin1Char('.')) ? plainWhole(number) : number.toDouble();
 }
 
 qint64 wholeNumber(QStringView text) {

@@ -12,7 +12,7 @@ namespace {
 constexpr int WideRounds = 5;
 constexpr double WidePitch = 28;
 /// What narrow columns share: from the year of birth to the total.
-constexpr double NarrowLeft = 107, NarrowRight = 254;
+constexpr double NarrowLeft = 107, NarrowRight = 251;
 constexpr double HeadSize = 11, CellSize = 9, SmallestSize = 4, SizeStep = 0.5;
 
 QString roundHead(int round) {
@@ -20,7 +20,7 @@ QString roundHead(int round) {
 }
 
 const QString &pointsHead() {
-  static const QString head = QStringLiteral(" Pkte");
+  static const QString head = QStringLiteral("  Pkte");
   return head;
 }
 
@@ -45,6 +45,7 @@ void CupColumns::fitSize(const QList<int> &persons) {
       break;
   }
   m_pointsWidth = double(m_druck.TextWidth(pointsHead()));
+  m_gap = double(m_druck.TextWidth(QStringLiteral(" ")));
 }
 
 // Two blanks keep the points from the next time.
@@ -61,12 +62,18 @@ double CupColumns::edge(int round) const {
   return NarrowLeft + pitch * round - m_pointsWidth;
 }
 
+// Smaller heads stand on one line with the others.
+double CupColumns::sameBaseline(double y) const {
+  constexpr double ascentOfAPoint = 0.905 * 25.4 / 72;
+  return y + (HeadSize - m_size) * ascentOfAPoint;
+}
+
 void CupColumns::printHeads(double y) const {
   m_druck.FontSize = narrow() ? m_size : HeadSize;
   for (int round = 1; round <= m_store.CupRunden; ++round) {
     if (narrow()) {
-      printRightAligned(round, y, roundHead(round));
-      Zelle(m_druck, edge(round), y, pointsHead());
+      printRightAligned(round, sameBaseline(y), roundHead(round));
+      Zelle(m_druck, edge(round), sameBaseline(y), pointsHead());
     } else {
       Zelle(m_druck, 85 + WidePitch * round, y, roundHead(round));
       Zelle(m_druck, 100 + WidePitch * round, y, trimmedBlanks(pointsHead()));
@@ -94,7 +101,7 @@ void CupColumns::printWide(int person, int round, double y) const {
 
 void CupColumns::printNarrow(int person, int round, double y) const {
   printRightAligned(round, y, timeText(person, round));
-  Zelle(m_druck, edge(round), y, points(person, round));
+  Zelle(m_druck, edge(round) + m_gap, y, points(person, round));
 }
 
 void CupColumns::printRightAligned(int round, double y, const QString &text) const {

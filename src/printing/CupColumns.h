@@ -20,6 +20,7 @@ private:
   double widthOfCells(const QList<int> &persons) const;
   /// Where the times of a round end and its points begin, in narrow columns.
   double edge(int round) const;
+  double sameBaseline(double y) const;
   void printWide(int person, int round, double y) const;
   void printNarrow(int person, int round, double y) const;
   /// So that the text ends at the edge of the round.
@@ -30,5 +31,6 @@ private:
 
   const Store &m_store;
   Druckschicht &m_druck;
-  double m_size, m_pointsWidth = 0;
+  /// Points, and millimetres of the column of the points and of the gap before it.
+  double m_size, m_pointsWidth = 0, m_gap = 0;
 };

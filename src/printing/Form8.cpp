@@ -60,10 +60,10 @@ void Form8::connectDocuments() {
 
 void Form8::connectChoices() {
   connect(ui->Command1, &QPushButton::clicked, this, &Form8::close);
-  connect(ui->Command6, &QPushButton::clicked, this, [this] { Q_EMIT oeffnet(QStringLiteral("Form28")); });
+  connect(ui->Command6, &QPushButton::clicked, this, &Form8::druckerGewuenscht);
   connect(ui->Command10, &QPushButton::clicked, this, [this] {
     keepBanners();
-    Q_EMIT oeffnet(QStringLiteral("Form21"));
+    Q_EMIT werbungGewuenscht();
   });
   connect(ui->Check1, &QCheckBox::clicked, this, [this](bool on) { ui->Combo3->setVisible(on); });
   connect(ui->Check2, &QCheckBox::clicked, this, [this](bool on) { ui->alternativerText->setVisible(on); });
@@ -74,7 +74,6 @@ void Form8::connectChoices() {
 }
 
 void Form8::becomeActive() {
-  Q_EMIT werbungSchliessen();
   keepBanners();
   showPrinter();
   setControlEnabled(ui->Command6, !m_printers.isEmpty(), ui->Command1);

@@ -30,10 +30,10 @@ public:
   void becomeActive() override;
 
 Q_SIGNALS:
-  /// Asks the roof for another screen: "Form21" or "Form28".
-  void oeffnet(const QString &screen);
-  /// The screen becomes active: an open Form21 is to be closed.
-  void werbungSchliessen();
+  /// The banners are wanted.
+  void werbungGewuenscht();
+  /// The choice of the printer is wanted.
+  void druckerGewuenscht();
 
 protected:
   void closing() override;

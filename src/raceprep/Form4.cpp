@@ -109,16 +109,10 @@ void Form4::askDeletion() {
   Q_EMIT oeffnet(QStringLiteral("Form9"));
 }
 
-void Form4::setOpenable(const QStringList &screens) {
-  m_openable = screens;
-  for (const auto &function : functions())
-    function.button->setEnabled(screens.contains(function.screen));
-}
-
 void Form4::lockFunctions(bool locked) {
   for (const auto &function : functions())
     if (function.locked)
-      function.button->setEnabled(!locked && m_openable.contains(function.screen));
+      function.button->setEnabled(!locked);
 }
 
 // A click into the name, not the Tab key, locks the functions: the new name is to be stored first.

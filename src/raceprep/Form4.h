@@ -32,8 +32,6 @@ public:
   void listeFuellen();
   /// After the open race has been deleted: the list anew, and the word "leer" as its name.
   void geloeschtZeigen();
-  /// Buttons whose screen is not among these stay disabled.
-  void setOpenable(const QStringList &screens);
 
 Q_SIGNALS:
   /// Another screen is to be opened, by its object name.
@@ -65,5 +63,4 @@ private:
 
   std::unique_ptr<Ui::Form4> ui;
   Store &m_store;
-  QStringList m_openable;
 };

@@ -4,6 +4,8 @@
 #include "platform/Numbers.h"
 #include "platform/SortedLines.h"
 
+#include <QStringBuilder>
+
 #include <algorithm>
 
 namespace {
@@ -65,8 +67,8 @@ QString valueKey(const Store &store, const TeilnehmerZeile &participant, double 
 
 QString rankKey(const Store &store, int row, double seconds) {
   const auto &participant = store.Teilnehmer[row];
-  return Reihungsschluessel(store, participant) + valueKey(store, participant, seconds) + store.Laeufer.Name +
-         QStringLiteral("   ") + plainText(row);
+  return Reihungsschluessel(store, participant) % valueKey(store, participant, seconds) % store.Laeufer.Name %
+         QLatin1String("   ") % plainText(row);
 }
 
 int groupOf(const QString &key) {
@@ -130,9 +132,9 @@ private:
   QString resultLine(const TeilnehmerZeile &participant) const {
     const QString &klasse = m_store.Rennen.WertKlassen == 1 ? m_store.KlasseGenauName[participant.KlasseGenau]
                                                             : m_store.GruppeName[participant.GruppeNr];
-    return rightAligned(plainText(m_place), 4) + QStringLiteral(". ") + padded(m_store.Laeufer.Name, 25) +
-           rightAligned(plainText(participant.StartNr), 5) + QLatin1Char(' ') + padded(klasse, 12) + QLatin1Char(' ') +
-           values(participant);
+    const QLatin1Char gap(' ');
+    return rightAligned(plainText(m_place), 4) % QLatin1String(". ") % padded(m_store.Laeufer.Name, 25) %
+           rightAligned(plainText(participant.StartNr), 5) % gap % padded(klasse, 12) % gap % values(participant);
   }
 
   QString values(const TeilnehmerZeile &participant) const {
@@ -141,8 +143,8 @@ private:
     const QLatin1Char gap(' ');
     QString runs;
     if (m_store.Rennen.ZweiDurchgaenge == 1)
-      runs = WertText8(participant.WertZeit1) + gap + WertText8(participant.WertZeit2) + gap;
-    return runs + WertText8(participant.WertSumme) + gap + WertText8(participant.WertSumme - m_bestOfGroup);
+      runs = WertText8(participant.WertZeit1) % gap % WertText8(participant.WertZeit2) % gap;
+    return runs % WertText8(participant.WertSumme) % gap % WertText8(participant.WertSumme - m_bestOfGroup);
   }
 
   Store &m_store;

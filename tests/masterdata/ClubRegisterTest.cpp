@@ -17,13 +17,3 @@ TEST(ClubRegister, GoingBeyondTheEnds) {
   EXPECT_EQ(number(goToClubBehind(test.store, 500, QStringLiteral("C"))), 4);
   EXPECT_EQ(test.file(QStringLiteral("Verein.rec")).size(), 4 * VereinLaenge);
 }
-
-TEST(ClubRegister, ChoicesStandAtTheirRecordNumbersAlsoWithoutAName) {
-  TestStore test;
-  for (const char *name : {"SK A", "", "SK A"})
-    test.addClub(QLatin1String(name));
-  test.store.VereinIdx = 2;
-  EXPECT_EQ(clubChoices(test.store),
-            QStringList({QStringLiteral("?"), QStringLiteral("SK A"), QString(), QStringLiteral("SK A")}));
-  EXPECT_EQ(test.store.VereinIdx, 2);
-}

@@ -23,7 +23,6 @@ protected:
     test.addRace(QStringLiteral("Slalom"));
     test.addRace(QStringLiteral("Abfahrt"));
     form = std::make_unique<Form4>(desk, test.store);
-    form->setOpenable(Screens);
     desk.show(*form);
     form->waehlen(2);
   }

@@ -14,8 +14,9 @@
 /// A store and the screen under test, worked as a person works it: controls are found by name.
 template <typename Form> class ScreenTest : public testing::Test {
 protected:
-  void open() {
-    form = std::make_unique<Form>(desk, store);
+  /// `more` is what the screen takes beside desk and store.
+  void open(auto &...more) {
+    form = std::make_unique<Form>(desk, store, more...);
     desk.show(*form);
     ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
   }

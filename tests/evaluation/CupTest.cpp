@@ -1,0 +1,107 @@
+#include "evaluation/Cup.h"
+
+#include "platform/Faults.h"
+#include "support/CupRaces.h"
+
+namespace {
+
+class CupTest : public testing::Test {
+protected:
+  TestStore test;
+  Store &store = test.store;
+  CupRaces cup{test};
+};
+
+} // namespace
+
+TEST_F(CupTest, threeRacesWorkedOutByHand) {
+  cupLaden(store);
+  const CupErgebnis result = cupAuswerten(store, cup.all, 1);
+  EXPECT_EQ(result.namen,
+            (QStringList{QStringLiteral("BERG Bo"), QStringLiteral("CERNY Ida"), QStringLiteral("DORN Uwe"),
+                         QStringLiteral("EDER Max"), QStringLiteral("ADAM Ada"), QStringLiteral("FUCHS Lea")}));
+  EXPECT_EQ(teilnehmerZeilen(result.namen).first(), QStringLiteral("ADAM Ada"));
+  EXPECT_EQ(result.schluessel.first(), QStringLiteral("  09949 ADAM Ada       5"));
+  EXPECT_EQ(result.schluessel.last(), QStringLiteral("  89939 FUCHS Lea       6"));
+  EXPECT_EQ(result.zeilen, cup.lines);
+  EXPECT_EQ(store.CupRang(5, 4), 99);
+  EXPECT_EQ(store.CupStatus(5, 4), 1);
+  EXPECT_EQ(store.CupZeit(1, 3), 31);
+  EXPECT_EQ(store.CupStatus(2, 3), 3);
+}
+
+TEST_F(CupTest, strikesAreTakenWithoutSignAndHeldToTheRounds) {
+  cupLaden(store);
+  EXPECT_EQ(cupAuswerten(store, cup.all, -2).gestrichen, 2);
+  EXPECT_EQ(cupAuswerten(store, cup.all, 5).gestrichen, 4);
+  EXPECT_EQ(store.CupPunkte(1, 0), 0);
+  EXPECT_EQ(cupAuswerten(store, {1}, 0).gestrichen, 0);
+  EXPECT_EQ(store.CupRunden, 1);
+  EXPECT_EQ(store.CupLaeufer[7], 0);
+  cupAuswerten(store, {3}, 0);
+  EXPECT_EQ(store.CupLaeufer[5], 0) << "no person of the larger cup before";
+}
+
+TEST_F(CupTest, theLastMarkedRaceGivesCriteriaAndTheFirstTheClass) {
+  const int young = cup.add("GRUBER Tom", 2001);
+  addResults(test, QStringLiteral("Gruppen"), {{young, 50}, {1, 49}}, [](RennenSatz &race) { race.WertKlassen = 0; });
+  store.Teilnehmer[1].KlasseGenau = 0; // as found in an untouched copy of a race
+  RennDatenSpeichern(store);
+  addResults(test, QStringLiteral("Klassen"), {{young, 50}, {1, 49}}, [](RennenSatz &race) { race.ZuschlagMann = 2; });
+  cupAuswerten(store, {5, 4}, 0); // by groups: one ranking, no surcharge
+  EXPECT_EQ(store.CupRang(1, 2), 2);
+  EXPECT_EQ(store.CupZeit(1, 2), 50);
+  EXPECT_EQ(store.CupKlasse[1], 8);
+  cupAuswerten(store, {4}, 0);
+  EXPECT_EQ(store.CupKlasse[1], 0);
+}
+
+TEST_F(CupTest, aNameIsOnePersonAndTheFirstOneGetsTheResults) {
+  const int twin = cup.add("ADAM Ada", 1991), lower = cup.add("adam ada", 1991), nobody = cup.add("", 1991);
+  addResults(test, QStringLiteral("Namen"), {{nobody, 1}, {twin, 40}, {1, 39}, {lower, 41}, {twin, 42}});
+  const CupErgebnis result = cupAuswerten(store, {4}, 0);
+  EXPECT_EQ(result.namen, (QStringList{QStringLiteral("ADAM Ada"), QStringLiteral("adam ada")}));
+  EXPECT_EQ(store.CupLaeufer[1], twin);
+  EXPECT_EQ(store.CupZeit(1, 1), 42) << "of two rows the last";
+}
+
+TEST_F(CupTest, moreThanTenRoundsAreARangeFault) {
+  EXPECT_EQ(cupAuswerten(store, QList<int>(10, 3), 0).zeilen.size(), 5);
+  EXPECT_THROW(cupAuswerten(store, QList<int>(11, 3), 0), RangeFault);
+  EXPECT_THROW(cupAuswerten(store, QList<int>(6, 2), 0), RangeFault);
+}
+
+TEST_F(CupTest, raceWithoutFilesMakesEverybodyAbsent) {
+  cupAuswerten(store, {9, 3}, 0);
+  EXPECT_EQ(store.CupRang(1, 2), 99);
+  EXPECT_EQ(store.CupRunden, 2);
+}
+
+TEST_F(CupTest, cupFile) {
+  CupAuswahl chosen = cupLaden(store);
+  EXPECT_EQ(punkteZeilen(store, false).first(), QStringLiteral("Platz 1:  20 P."));
+  EXPECT_EQ(punkteZeilen(store, false).size(), 9);
+  store.CupPunkteTabelle[2] = 0;
+  store.CupPunkteTabelle[100] = -7;
+  EXPECT_EQ(punkteZeilen(store, false).size(), 8);
+  EXPECT_EQ(punkteZeilen(store, true).last(), QStringLiteral("Platz 100: -7 P."));
+  chosen = {QStringLiteral("  Cup, groß "), {12, 3}};
+  cupSpeichern(store, chosen);
+  const QByteArray bytes = test.file(QStringLiteral("Cup.dat"));
+  EXPECT_TRUE(bytes.startsWith("Cup, gro\xDF\r\n 20 \r\n 0 \r\n 10 \r\n"));
+  EXPECT_TRUE(bytes.endsWith("\r\n-7 \r\n 12 \r\n 3 \r\n"));
+  EXPECT_EQ(bytes.count('\n'), 103);
+  const CupAuswahl read = cupLaden(store);
+  EXPECT_EQ(read.bezeichnung, QStringLiteral("Cup, groß"));
+  EXPECT_EQ(read.rennen, chosen.rennen);
+  EXPECT_EQ(store.CupPunkteTabelle[100], -7);
+  test.writeFile(QStringLiteral("Cup.dat"), "Kurz\r\n 5 \r\n");
+  EXPECT_TRUE(cupLaden(store).rennen.isEmpty());
+  EXPECT_EQ(punkteZeilen(store, true).mid(0, 2),
+            (QStringList{QStringLiteral("Platz 1:  5 P."), QStringLiteral("Platz 2:  15 P.")}));
+}
+
+TEST_F(CupTest, raceNumbersOfTheFileHaveADigitMoreThanThoseOfTheEvaluation) {
+  EXPECT_EQ(rennenDesCups(QStringLiteral(" 1234    Lauf")), 1234);
+  EXPECT_EQ(rennenDesCups(QStringLiteral(" 7    Lauf")), 7);
+}

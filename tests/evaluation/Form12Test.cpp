@@ -1,0 +1,83 @@
+#include "evaluation/Form12.h"
+
+#include "support/FakePrinters.h"
+#include "support/ScreenTest.h"
+#include "support/TeamRace.h"
+
+#include <QComboBox>
+#include <QSignalSpy>
+
+namespace {
+
+class Form12Test : public ScreenTest<Form12> {
+protected:
+  void open() { ScreenTest::open(*fake.printers); }
+  bool ticked(const char *name) { return find<QAbstractButton>(name)->isChecked(); }
+  void tick(const char *name) { QTest::mouseClick(find(name), Qt::LeftButton, {}, {8, find(name)->height() / 2}); }
+  bool canPrint() { return find("Command3")->isEnabled(); }
+
+  TeamRace race{test};
+  FakePrinters fake;
+};
+
+} // namespace
+
+TEST_F(Form12Test, opensOnClubsAndBestTimes) {
+  open();
+  EXPECT_EQ(label("Label1"), QStringLiteral("Vereinslauf"));
+  EXPECT_EQ(label("Label3"), QStringLiteral("Laser"));
+  EXPECT_TRUE(ticked("Check1") && ticked("Option1") && shown("Check2"));
+  EXPECT_FALSE(canPrint() || shown("Combo2"));
+  EXPECT_EQ(lines("List1").size(), 2);
+  press("Command2");
+  EXPECT_EQ(lines("List2").size(), 2);
+  EXPECT_TRUE(canPrint());
+  clickLine("List2", 1);
+  EXPECT_EQ(lines("List5").size(), 2);
+}
+
+TEST_F(Form12Test, eachChoiceLocksThePrint) {
+  open();
+  for (const char *control : {"Check2", "Check3", "Check3", "Option2", "Option1", "Option3", "Check1"}) {
+    press("Command2");
+    ASSERT_TRUE(canPrint());
+    tick(control);
+    EXPECT_FALSE(canPrint()) << control;
+  }
+  EXPECT_TRUE(ticked("Check1") && !ticked("Check2") && !ticked("Check3"));
+  for (const char *combo : {"Combo2", "Combo3"}) {
+    press("Command2");
+    QTest::keyClick(find(combo), Qt::Key_Down);
+    EXPECT_FALSE(canPrint()) << combo;
+  }
+  press("Command2");
+  QTest::keyClick(find("Combo1"), Qt::Key_Down);
+  EXPECT_TRUE(canPrint());
+}
+
+TEST_F(Form12Test, sumLeavesItsWorkListAndThePrintTheLastUnit) {
+  open();
+  tick("Check2");
+  tick("Option3");
+  EXPECT_EQ(find<QComboBox>("Combo2")->currentText(), QStringLiteral(" 2"));
+  tick("Option1");
+  EXPECT_TRUE(shown("Combo2"));
+  tick("Option3");
+  press("Command2");
+  EXPECT_TRUE(lines("List5").isEmpty()) << "the last team has nobody";
+  clickLine("List2", 0);
+  press("Command3");
+  EXPECT_EQ(find<LineList>("List2")->chosenLine(), 2);
+  ASSERT_EQ(fake.documents.size(), 1);
+  EXPECT_TRUE(asText(fake.documents[0]).join(QLatin1Char('\n')).contains(QStringLiteral("besten2|")));
+}
+
+TEST_F(Form12Test, withoutTeamsTheyAreNotOffered) {
+  for (int row = 1; row <= 6; ++row)
+    store.Teilnehmer[row].MannschaftNr = 0;
+  open();
+  EXPECT_FALSE(shown("Check2"));
+  QSignalSpy asked(form.get(), &Form12::druckerGewuenscht);
+  press("Command6");
+  EXPECT_EQ(asked.size(), 1);
+}

@@ -1,0 +1,99 @@
+#include "evaluation/Form20.h"
+
+#include "support/CupRaces.h"
+#include "support/FakePrinters.h"
+#include "support/ScreenTest.h"
+
+namespace {
+
+class Form20Test : public ScreenTest<Form20> {
+protected:
+  void open() { ScreenTest::open(*fake.printers); }
+  void markAll() {
+    for (const int line : {0, 1, 2})
+      clickLine("List1", line);
+  }
+  bool enabled(const char *name) { return find(name)->isEnabled(); }
+
+  CupRaces cup{test};
+  FakePrinters fake;
+};
+
+} // namespace
+
+TEST_F(Form20Test, evaluatesTheMarkedRacesAndPrintsOnce) {
+  open();
+  EXPECT_FALSE(enabled("Command1") || enabled("Command2") || shown("List4"));
+  markAll();
+  press("Command1");
+  EXPECT_EQ(lines("List5"), cup.lines);
+  EXPECT_EQ(lines("List4").size(), 6);
+  EXPECT_EQ(lines("List3").first(), QStringLiteral("ADAM Ada"));
+  EXPECT_EQ(label("Label8"), QStringLiteral("6"));
+  EXPECT_TRUE(enabled("Command2"));
+  press("Command2");
+  EXPECT_EQ(fake.documents.size(), 1);
+  EXPECT_FALSE(enabled("Command2"));
+}
+
+TEST_F(Form20Test, strikesAreHeldToTheRounds) {
+  open();
+  markAll();
+  type("Text3", "5");
+  press("Command1");
+  EXPECT_EQ(text("Text3"), QStringLiteral("4"));
+  QTest::mouseClick(find("Text3"), Qt::LeftButton);
+  EXPECT_FALSE(enabled("Command2"));
+  type("Text3", "-2");
+  press("Command1");
+  EXPECT_EQ(text("Text3"), QStringLiteral("-2"));
+  clickLine("List1", 0);
+  EXPECT_TRUE(enabled("Command1") && !enabled("Command2"));
+  clickLine("List1", 1);
+  clickLine("List1", 2);
+  EXPECT_FALSE(enabled("Command1"));
+}
+
+TEST_F(Form20Test, pointsAreTypedDownTheTable) {
+  open();
+  EXPECT_FALSE(enabled("Text2"));
+  type("Text1", "9");
+  EXPECT_EQ(text("Text2"), QStringLiteral("1"));
+  key(Qt::Key_Return);
+  QTest::keyClicks(find("Text2"), QStringLiteral("2.5"));
+  key(Qt::Key_Return);
+  EXPECT_EQ(text("Text1"), QStringLiteral("10"));
+  EXPECT_EQ(text("Text2"), QString());
+  EXPECT_TRUE(find("Text1")->hasFocus());
+  EXPECT_EQ(lines("List2").last(), QStringLiteral("Platz 9:  2 P."));
+  key(Qt::Key_Return);
+  QTest::keyClicks(find("Text2"), QStringLiteral("-1"));
+  type("Text2", "99999");
+  EXPECT_EQ(test.beeps, 1);
+  EXPECT_EQ(store.CupPunkteTabelle[10], 9999);
+  type("Text1", "300");
+  EXPECT_EQ(text("Text1"), QStringLiteral("100"));
+  key(Qt::Key_Backspace);
+  key(Qt::Key_Backspace);
+  key(Qt::Key_Backspace);
+  EXPECT_EQ(text("Text1"), QStringLiteral("1"));
+}
+
+TEST_F(Form20Test, closingKeepsTheChoiceAndOpensTheRaceOfBefore) {
+  store.AktRennen = store.RennenIdx = 2;
+  open();
+  markAll();
+  clickLine("List1", 1);
+  type("Text4", " Talcup ");
+  press("Command1");
+  EXPECT_EQ(store.Rennen.ZweiDurchgaenge, 0);
+  form->close();
+  EXPECT_EQ(store.AktRennen, 2);
+  EXPECT_EQ(store.Rennen.ZweiDurchgaenge, 1);
+  EXPECT_EQ(store.Teilnehmer[1].Zeit2, 33);
+  EXPECT_TRUE(test.file(QStringLiteral("Cup.dat")).endsWith(" 0 \r\n 3 \r\n 1 \r\n"));
+  open();
+  EXPECT_EQ(text("Text4"), QStringLiteral("Talcup"));
+  EXPECT_EQ(find<MarkList>("List1")->marked(), (QList<int>{0, 2}));
+  EXPECT_TRUE(enabled("Command1"));
+}

@@ -1,0 +1,115 @@
+#include "evaluation/TeamEvaluation.h"
+
+#include "support/TeamRace.h"
+
+namespace {
+
+using enum WertungsFilter;
+using enum MitgliederOrdnung;
+
+class TeamEvaluationTest : public testing::Test {
+protected:
+  TeamEvaluationTest() { wertungVorbereiten(store); }
+
+  QList<int> gezaehlt() const {
+    QList<int> rows;
+    for (int row = 1; row <= 1000; ++row)
+      if (store.WertGezaehlt[row] == 1)
+        rows << row;
+    return rows;
+  }
+
+  TestStore test;
+  Store &store = test.store;
+  TeamRace race{test};
+};
+
+} // namespace
+
+TEST_F(TeamEvaluationTest, listsOfUnits) {
+  EXPECT_EQ(vereinsZeilen(store), (QStringList{QStringLiteral("SC Alm"), QStringLiteral("TV Berg")}));
+  EXPECT_EQ(mannschaftsZeilen(store), (QStringList{QStringLiteral("  3 Die Schnellen             3"),
+                                                   QStringLiteral("  2 Älter             7")}));
+  EXPECT_EQ(gruppenZeilen(store), QStringList{QStringLiteral("Gruppe")});
+}
+
+TEST_F(TeamEvaluationTest, bestTimesAndAverages) {
+  const Wertung clubs;
+  const QString name1 = QStringLiteral("SC Alm              "), name2 = QStringLiteral("TV Berg             ");
+  EXPECT_EQ(teamWertung(store, clubs),
+            (QStringList{QStringLiteral("     40,00 ") + name1 + QStringLiteral("      1"),
+                         QStringLiteral("     40,00 ") + name2 + QStringLiteral("      2")}));
+  EXPECT_EQ(
+      teamWertung(store, {Einheit::Mannschaft, WertungsArt::Durchschnitt}),
+      (QStringList{QStringLiteral("     41,00 Die Schnellen      3"), QStringLiteral("     60,00 Älter      7")}));
+  EXPECT_TRUE(teamWertung(store, {Einheit::Gruppe, WertungsArt::Bestzeit}).isEmpty());
+  EXPECT_TRUE(teamWertung(store, {Einheit::Keine, WertungsArt::Durchschnitt}).isEmpty());
+}
+
+TEST_F(TeamEvaluationTest, filterBySex) {
+  EXPECT_EQ(
+      teamWertung(store, {Einheit::Mannschaft, WertungsArt::Durchschnitt, NurWeiblich}),
+      (QStringList{QStringLiteral("     40,00 Älter      7"), QStringLiteral("     40,00 Die Schnellen      3")}));
+  EXPECT_EQ(
+      teamWertung(store, {Einheit::Mannschaft, WertungsArt::Durchschnitt, NurMaennlich}),
+      (QStringList{QStringLiteral("     41,00 Die Schnellen      3"), QStringLiteral("     80,00 Älter      7")}));
+}
+
+TEST_F(TeamEvaluationTest, sumOfTheBestPutsIncompleteUnitsBehind) {
+  QList<QStringList> lists;
+  const auto keep = [&lists](const QStringList &times) { lists << times; };
+  EXPECT_EQ(teamWertung(store, {Einheit::Mannschaft, WertungsArt::ZeitsummeDerBesten, Gemischt, 3}, keep),
+            (QStringList{QStringLiteral(" 100082,00 Die Schnellen      3"), QStringLiteral(" 100120,00 Älter      7"),
+                         QStringLiteral(" 300000,00 niemand      8")}));
+  EXPECT_EQ(lists.first(),
+            (QStringList{QStringLiteral("     40,00          3"), QStringLiteral("     42,00          4")}));
+  EXPECT_EQ(gezaehlt(), (QList<int>{1, 2, 3, 4}));
+  teamWertung(store, {Einheit::Mannschaft, WertungsArt::Bestzeit});
+  EXPECT_EQ(gezaehlt().size(), 4) << "the marks stay without a filter";
+  EXPECT_EQ(teamWertung(store, {Einheit::Verein, WertungsArt::ZeitsummeDerBesten, NurWeiblich, 2}).size(), 2);
+  EXPECT_EQ(gezaehlt(), (QList<int>{1, 3}));
+}
+
+TEST_F(TeamEvaluationTest, theBestAreAddedAsTheyAreListed) {
+  store.Teilnehmer[1].Zeit1 = 40.004;
+  store.Teilnehmer[2].Zeit1 = 80.004;
+  teamWertung(store, {Einheit::Mannschaft, WertungsArt::ZeitsummeDerBesten, Gemischt, 2});
+  EXPECT_EQ(store.WertErgebnis[7], 120);
+}
+
+TEST_F(TeamEvaluationTest, withNothingTickedEverybodyCountsForEveryUnit) {
+  const QStringList lines = teamWertung(store, {Einheit::Keine, WertungsArt::ZeitsummeDerBesten, Gemischt, 2});
+  ASSERT_EQ(lines.size(), 100);
+  EXPECT_EQ(lines.first(), QStringLiteral("     79,00       1"));
+}
+
+TEST_F(TeamEvaluationTest, membersInTheirOrders) {
+  const Wertung teams{Einheit::Mannschaft, WertungsArt::Bestzeit};
+  store.Teilnehmer[3].KlasseReihe = 12;
+  store.Teilnehmer[4].KlasseReihe = 3;
+  EXPECT_EQ(mitgliederZeilen(store, teams, 3, NachZeit), (QStringList{QStringLiteral("   40,00   CERNY Ida        3"),
+                                                                      QStringLiteral("   42,00   DORN Uwe        4")}));
+  EXPECT_EQ(mitgliederZeilen(store, teams, 3, Alphabetisch).first(), QStringLiteral("   CERNY Ida        3"));
+  EXPECT_EQ(mitgliederZeilen(store, teams, 3, NachKlassen).first(), QStringLiteral("  3   DORN Uwe        4"));
+  EXPECT_EQ(mitgliederZeilen(store, {}, 2, NachZeit).size(), 2);
+}
+
+TEST_F(TeamEvaluationTest, rowsKeepTheClubOfAnEarlierRaceButCountForNobody) {
+  store.VereinRecNr[6] = 2;
+  store.Teilnehmer[4].VereinNr = 4; // none here: keeps club 2 and counts for it
+  store.Teilnehmer[3].VereinNr = 0;
+  wertungVorbereiten(store);
+  EXPECT_EQ(store.WertVereinIdx[4], 2);
+  EXPECT_EQ(store.WertVereinIdx[6], 0);
+  EXPECT_EQ(teamWertung(store, {}).last().left(10), QStringLiteral("     42,00"));
+  EXPECT_EQ(mitgliederZeilen(store, {}, 2, Alphabetisch).size(), 3);
+}
+
+TEST_F(TeamEvaluationTest, furtherClubsTakeTheHundredthNumber) {
+  for (int i = 3; i <= 102; ++i)
+    race.add(qPrintable(QStringLiteral("LÄUFER %1").arg(i)), 0, test.addClub(QStringLiteral("Klub %1").arg(i)), 0, 50);
+  wertungVorbereiten(store);
+  EXPECT_EQ(store.WertVerein[99], 99);
+  EXPECT_EQ(store.WertVerein[100], 102);
+  EXPECT_EQ(store.WertVereinIdx[6 + 98], 0) << "club 100 has lost its number";
+}

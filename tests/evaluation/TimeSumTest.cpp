@@ -1,0 +1,107 @@
+#include "evaluation/TimeSum.h"
+
+#include "core/SingleTimes.h"
+#include "platform/Dates.h"
+#include "platform/Faults.h"
+#include "support/Results.h"
+
+namespace {
+
+class TimeSumTest : public testing::Test {
+protected:
+  int add(const char *name) { return test.addAthlete(QLatin1String(name), 1990, 1); }
+
+  /// Time and status of each row of the generated race, after a fresh load.
+  QList<std::pair<double, int>> generated() {
+    RennDatenLaden(store);
+    QList<std::pair<double, int>> rows;
+    for (int row = 1; store.Teilnehmer[row].LaeuferNr != 0; ++row)
+      rows.append({store.Teilnehmer[row].Zeit1, store.Teilnehmer[row].Status1});
+    return rows;
+  }
+  QList<double> blockOf(int row) const {
+    QList<double> times;
+    for (int round = 0; round <= 3; ++round)
+      times << store.CupZeit(row, round);
+    return times;
+  }
+
+  TestStore test;
+  Store &store = test.store;
+  const int a = add("ADAM Ada"), b = add("BERG Bo"), c = add("CERNY Ida"), d = add("DORN Uwe"), e = add("EDER Max");
+};
+
+} // namespace
+
+TEST_F(TimeSumTest, whoIsMissingOrHasNoResultInARaceFallsOut) {
+  addResults(test, QStringLiteral("Erster"), {{e, 99}, {a, 40, 0, 77}, {b, 41, 3}, {c, 0}});
+  addResults(test, QStringLiteral("Zweiter"), {{a, 30.25}, {b, 31}, {c, 32}, {d, 33}}, [](RennenSatz &race) {
+    race.RennenOrt = race.Veranstalter = QStringLiteral("weg");
+    race.Rennleiter = QStringLiteral("bleibt");
+  });
+  store.MannschaftName[1] = QStringLiteral("Team");
+  store.Teilnehmer[1].Zeit2 = 9;
+  RennDatenSpeichern(store);
+  store.ZeitsummeRennenKurz[3] = QStringLiteral("alt");
+  zeitsummeErzeugen(store, {2, 1}, 3);
+
+  EXPECT_EQ(generated(), (QList<std::pair<double, int>>{{70.25, 0}, {31, 3}, {32, 3}, {33, 3}}));
+  EXPECT_EQ(store.Teilnehmer[1].Zeit2, 0);
+  EXPECT_EQ(store.MannschaftName[1], QStringLiteral("Team"));
+  EXPECT_EQ(store.AktRennen, 3);
+  EXPECT_EQ(store.RennenAnzahl, 3);
+  RennenLesen(store);
+  const auto &race = store.Rennen;
+  EXPECT_EQ(race.RennenName + race.RennenKurz + race.RennenNrText.trimmed(), QStringLiteral("KombilaufKombilauf3"));
+  EXPECT_EQ(race.RennenOrt + race.Veranstalter + race.Rennleiter, QStringLiteral("bleibt"));
+  EXPECT_EQ(fromDays(race.RennenDatum), QDate(2026, 1, 15));
+
+  const QByteArray file = test.file(QStringLiteral("Z 3.dat"));
+  EXPECT_EQ(file.count('\n'), 12010);
+  EXPECT_TRUE(
+      file.startsWith("Ers\r\nZwe\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n 1 \r\n 70,25 \r\n 40 \r\n 30,25 \r\n 0 \r\n"));
+  singleTimesLaden(store);
+  EXPECT_EQ(blockOf(2), (QList<double>{31, 0, 31, 0}));
+}
+
+TEST_F(TimeSumTest, surchargesComeFromTheRaceBefore) {
+  const auto race = [&](const char *name, double surcharge) {
+    addResults(test, QLatin1String(name), {{a, 30}},
+               [surcharge](RennenSatz &record) { record.ZuschlagMann = surcharge; });
+  };
+  race("A", 5);
+  race("B", 0);
+  race("C", 7);
+  zeitsummeErzeugen(store, {2, 1}, 4); // round 1 is A, with those of the base race B
+  EXPECT_EQ(blockOf(1), (QList<double>{65, 30, 35, 0}));
+  EXPECT_EQ(store.Rennen.ZuschlagMann, 0);
+  zeitsummeErzeugen(store, {3, 2, 1}, 5);
+  EXPECT_EQ(blockOf(1), (QList<double>{102, 37, 35, 30}));
+}
+
+TEST_F(TimeSumTest, entriesBehindTheBaseRaceStayFromAnEarlierSum) {
+  addResults(test, QStringLiteral("Lang"), {{a, 30}, {b, 31}});
+  addResults(test, QStringLiteral("Kurz"), {{a, 40}});
+  zeitsummeErzeugen(store, {1, 2}, 3);
+  zeitsummeErzeugen(store, {2, 1}, 4);
+  EXPECT_EQ(generated().size(), 1);
+  singleTimesLaden(store);
+  EXPECT_EQ(store.CupLaeufer[2], b);
+  EXPECT_EQ(blockOf(2), (QList<double>{31, 31, 0, 0}));
+}
+
+TEST_F(TimeSumTest, moreThanTenRacesAreARangeFault) {
+  addResults(test, QStringLiteral("Lauf"), {{a, 30}});
+  zeitsummeErzeugen(store, QList<int>(10, 1), 2);
+  EXPECT_EQ(generated(), (QList<std::pair<double, int>>{{300, 0}}));
+  EXPECT_THROW(zeitsummeErzeugen(store, QList<int>(11, 1), 3), RangeFault);
+}
+
+TEST_F(TimeSumTest, numberOfTheNewRace) {
+  const auto line = [](int number) { return QStringLiteral(" %1    Lauf").arg(number); };
+  EXPECT_EQ(zeitsummeNummer({}), 1);
+  EXPECT_EQ(zeitsummeNummer({line(9), line(12), line(3)}), 13);
+  EXPECT_EQ(zeitsummeNummer({line(1234), line(124), line(7)}), 125) << "only three digits are read";
+  EXPECT_EQ(zeitsummeNummer({line(1234), line(123)}), 124);
+  EXPECT_EQ(zeitsummeNummer({line(1000), line(101)}), 102) << "no race is overwritten";
+}
