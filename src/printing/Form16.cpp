@@ -42,8 +42,10 @@ void Form16::bind(QLineEdit *box, QString RennenSatz::*field) {
 }
 
 void Form16::becomeActive() {
-  for (const Binding &binding : m_bindings)
+  for (const Binding &binding : m_bindings) {
     binding.box->setText(m_store.Rennen.*binding.field);
+    binding.box->setCursorPosition(0); // a long text shows its beginning
+  }
   ui->Text3->setText(shortDate(fromDays(m_store.Rennen.RennenDatum)));
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/Fonts.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QComboBox>
 #include <QFontMetrics>
@@ -9,9 +10,11 @@
 #include <QLibraryInfo>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTranslator>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -46,8 +49,10 @@ void setWidth(QWidget *widget) {
   const int digits = widget->property("zeichen").toInt();
   if (digits == 0)
     return;
-  const QFontMetrics metrics(widget->font());
-  const int width = metrics.horizontalAdvance(QLatin1Char('0')) * digits + metrics.height();
+  const QFontMetricsF metrics(widget->font());
+  int width = int(std::ceil(metrics.horizontalAdvance(QLatin1Char('0')) * digits + metrics.height()));
+  if (const auto *list = qobject_cast<QAbstractScrollArea *>(widget))
+    width += list->verticalScrollBar()->sizeHint().width() + 2 * list->frameWidth();
   widget->setMinimumWidth(width);
   if (qobject_cast<QLineEdit *>(widget))
     widget->setMaximumWidth(width);
