@@ -6,14 +6,34 @@
 #include "core/RaceFiles.h"
 #include "core/RecordFiles.h"
 #include "core/Start.h"
+#include "evaluation/Form12.h"
+#include "evaluation/Form19.h"
+#include "evaluation/Form20.h"
+#include "masterdata/Form2.h"
+#include "masterdata/Form3.h"
+#include "printing/Form16.h"
+#include "printing/Form21.h"
+#include "printing/Form28.h"
+#include "printing/Form8.h"
+#include "raceprep/CupKopie.h"
+#include "raceprep/Form10.h"
+#include "raceprep/Form11.h"
+#include "raceprep/Form14.h"
+#include "raceprep/Form15.h"
 #include "raceprep/Form4.h"
+#include "raceprep/Form5.h"
+#include "raceprep/Form6.h"
 #include "raceprep/Form9.h"
 #include "raceprep/RaceRegister.h"
+#include "timing/Form13.h"
+#include "timing/Form18.h"
+#include "timing/Form7.h"
 
 #include <QCoreApplication>
 
-Programm::Programm(Store &store)
-    : m_store(store), m_desk(store.Fenster, [&store] { FensterSpeichern(store); }), m_openings(openings()) {
+Programm::Programm(Store &store, Printers &printers)
+    : m_store(store), m_printers(printers), m_desk(store.Fenster, [&store] { FensterSpeichern(store); }),
+      m_openings(openings()) {
   store.umgebung.erinnern = [this](const QStringList &lines) { remind(lines); };
 }
 
@@ -25,7 +45,10 @@ Programm::~Programm() {
 void Programm::start() {
   m_menu = new Form1(m_desk, m_store);
   adopt(*m_menu);
-  connect(m_menu, &Form1::oeffnet, this, &Programm::open);
+  connect(m_menu, &Form1::oeffnet, this, [this](const QString &screen) {
+    alleDateienOeffnen(m_store);
+    open(screen);
+  });
   connect(m_menu, &Screen::closed, this, [] { QCoreApplication::exit(); });
   m_desk.show(*m_menu);
 }
@@ -42,15 +65,37 @@ void Programm::open(const QString &screen) {
 /// What the buttons of the menu and of the race register open, by the name of the screen.
 QHash<QString, Programm::Opening> Programm::openings() {
   return {
+      {QStringLiteral("Form2"), [this] { replace(*m_menu, new Form2(m_desk, m_store)); }},
+      {QStringLiteral("Form3"), [this] { replace(*m_menu, new Form3(m_desk, m_store)); }},
       {QStringLiteral("Form4"), [this] { openRaceRegister(); }},
+      {QStringLiteral("Form5"), [this] { openParticipants(); }},
+      {QStringLiteral("Form6"),
+       [this] {
+         KlassenZuordnen(m_store);
+         replace(*m_hub, new Form6(m_desk, m_store));
+       }},
+      {QStringLiteral("Form7"), [this] { openTiming(); }},
+      {QStringLiteral("Form8"), [this] { openPrints(); }},
       {QStringLiteral("Form9"), [this] { askDeletion(); }},
+      {QStringLiteral("Form10"), [this] { replace(*m_hub, new Form10(m_desk, m_store)); }},
+      {QStringLiteral("Form11"), [this] { replace(*m_hub, new Form11(m_desk, m_store)); }},
+      {QStringLiteral("Form12"), [this] { openTeams(); }},
+      {QStringLiteral("Form14"), [this] { replace(*m_hub, new Form14(m_desk, m_store)); }},
+      {QStringLiteral("Form15"),
+       [this] {
+         RennDatenLaden(m_store);
+         KlassenZuordnen(m_store);
+         replace(*m_hub, new Form15(m_desk, m_store));
+       }},
+      {QStringLiteral("Form16"), [this] { openTitlePage(); }},
+      {QStringLiteral("Form19"), [this] { openTimeSum(); }},
+      {QStringLiteral("Form20"), [this] { openCup(); }},
+      {QStringLiteral("CupKopie"), [this] { copyRace(); }},
   };
 }
 
 void Programm::openRaceRegister() {
-  alleDateienOeffnen(m_store);
-  m_hub = &replace(*m_menu, new Form4(m_desk, m_store));
-  m_hub->setOpenable(m_openings.keys());
+  m_hub = &replace(*m_menu, new Form4(m_desk, m_store, m_printers));
   connect(m_hub, &Form4::oeffnet, this, &Programm::open);
   m_hub->waehlen(rennenZuBeginn(m_store));
 }
@@ -58,6 +103,114 @@ void Programm::openRaceRegister() {
 void Programm::askDeletion() {
   auto &form = replace(*m_hub, new Form9(m_desk, m_store));
   connect(&form, &Form9::geloescht, m_hub, &Form4::geloeschtZeigen);
+}
+
+void Programm::copyRace() {
+  if (auto *open = shown<CupKopie>())
+    return m_desk.show(*open);
+  auto &form = beside(*m_hub, new CupKopie(m_desk, m_store, [this] { return m_hub->bezeichnung(); }));
+  connect(&form, &CupKopie::copied, m_hub, &Form4::listeFuellen);
+}
+
+void Programm::openParticipants() {
+  auto &list = replace(*m_hub, new Form5(m_desk, m_store));
+  connect(&list, &Form5::athletGewaehlt, this, [this, &list](int record) { athletesBeside(list).zeigen(record); });
+  connect(&list, &Form5::neuaufnahme, this,
+          [this, &list](const QString &name) { athletesBeside(list).neuaufnehmen(name); });
+  connect(&list, &Form5::teilnehmerGewaehlt, this, [this, &list](int row) { showStartNumbers(list, row); });
+  connect(&list, &Form5::teilnehmerGeloescht, this, [this] {
+    if (auto *numbers = shown<Form6>())
+      numbers->zeilenVerschoben();
+  });
+}
+
+Form3 &Programm::athletesBeside(Form5 &list) {
+  if (auto *athletes = shown<Form3>()) {
+    m_desk.show(*athletes);
+    return *athletes;
+  }
+  return beside(list, new Form3(m_desk, m_store));
+}
+
+void Programm::showStartNumbers(Form5 &list, int row) {
+  auto *numbers = shown<Form6>();
+  if (numbers)
+    m_desk.show(*numbers);
+  else
+    numbers = &beside(list, new Form6(m_desk, m_store));
+  numbers->teilnehmerWaehlen(row);
+}
+
+void Programm::openTiming() {
+  KlassenZuordnen(m_store);
+  auto &timing = replace(*m_hub, new Form7(m_desk, m_store));
+  connect(&timing, &Form7::ergebnisVerlangt, this, [this, &timing](bool open) { showResult(timing, open); });
+  connect(&timing, &Form7::ergebnisGerechnet, this, [this] {
+    if (auto *result = shown<Form13>())
+      result->zeigen();
+  });
+  connect(&timing, &Form7::hilfszeitVerlangt, this, [this, &timing] { openAuxiliaryTiming(timing); });
+}
+
+void Programm::showResult(Form7 &timing, bool open) {
+  auto *result = shown<Form13>();
+  if (!open && result)
+    result->close();
+  if (open && !result)
+    beside(timing, new Form13(m_desk, m_store));
+}
+
+void Programm::openAuxiliaryTiming(Form7 &timing) {
+  if (auto *open = shown<Form18>())
+    return m_desk.show(*open);
+  auto &form = beside(timing, new Form18(m_desk));
+  connect(&form, &Form18::uebernommen, &timing, &Form7::zeitUebernehmen);
+}
+
+void Programm::openPrints() {
+  KlassenZuordnen(m_store);
+  auto &form = replace(*m_hub, new Form8(m_desk, m_store, m_printers));
+  connect(&form, &Form8::oeffnet, this, [this, &form](const QString &screen) {
+    if (screen == QStringLiteral("Form21"))
+      replace(form, new Form21(m_desk, m_store));
+    else
+      replace(form, new Form28(m_desk, m_printers));
+  });
+}
+
+void Programm::openTitlePage() {
+  auto &form = replace(*m_hub, new Form16(m_desk, m_store));
+  connect(&form, &Form16::werbungGewuenscht, this, [this, &form] { replace(form, new Form21(m_desk, m_store)); });
+}
+
+void Programm::openTeams() {
+  auto &form = replace(*m_hub, new Form12(m_desk, m_store, m_printers));
+  connect(&form, &Form12::oeffnet, this, [this, &form] { replace(form, new Form28(m_desk, m_printers)); });
+}
+
+// After a race has been generated the register closes too, so that it shows the new race when it opens again.
+void Programm::openTimeSum() {
+  auto &form = replace(*m_hub, new Form19(m_desk, m_store));
+  showWork(form);
+  connect(&form, &Form19::erzeugt, this, [this, &form] {
+    disconnect(&form, &Screen::closed, m_hub, nullptr);
+    connect(&form, &Screen::closed, m_hub, &QWidget::close);
+  });
+}
+
+void Programm::openCup() {
+  showWork(replace(*m_hub, new Form20(m_desk, m_store, m_printers)));
+}
+
+template <typename S> void Programm::showWork(S &screen) {
+  connect(&screen, &S::arbeitBegonnen, this, [this, &screen] {
+    beside(screen, new Form13(m_desk, m_store));
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // it is painted; clicks and keys wait
+  });
+  connect(&screen, &S::arbeitBeendet, this, [this] {
+    if (auto *result = shown<Form13>())
+      result->close();
+  });
 }
 
 // Opened at each save, and closed again unseen if there is nothing to tell.
@@ -81,6 +234,13 @@ template <typename S> S &Programm::replace(Screen &opener, S *screen) {
 template <typename S> S &Programm::beside(Screen &opener, S *screen) {
   showBeside(opener, *screen);
   return *screen;
+}
+
+template <typename S> S *Programm::shown() const {
+  for (const auto &screen : m_screens)
+    if (auto *found = qobject_cast<S *>(screen.data()); found && found->isVisible())
+      return found;
+  return nullptr;
 }
 
 void Programm::adopt(Screen &screen) {

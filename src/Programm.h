@@ -8,8 +8,13 @@
 #include <QPointer>
 
 class Form1;
+class Form13;
 class Form17;
+class Form3;
 class Form4;
+class Form5;
+class Form7;
+class Printers;
 class Screen;
 
 /// The roof: makes the screens and is the only place that knows which screen opens which.
@@ -21,7 +26,7 @@ class Programm : public QObject {
 
 public:
   /// The store is started; the screens and the reminder of the saves work on it.
-  explicit Programm(Store &store);
+  Programm(Store &store, Printers &printers);
   ~Programm() override;
 
   /// Shows the menu. Its closing, and nothing else, ends the event loop of the application.
@@ -36,17 +41,34 @@ private:
   void open(const QString &screen);
   void openRaceRegister();
   void askDeletion();
+  void copyRace();
+  void openParticipants();
+  Form3 &athletesBeside(Form5 &list);
+  void showStartNumbers(Form5 &list, int row);
+  void openTiming();
+  void showResult(Form7 &timing, bool open);
+  void openAuxiliaryTiming(Form7 &timing);
+  void openPrints();
+  void openTitlePage();
+  void openTeams();
+  void openTimeSum();
+  void openCup();
+  /// Shows the provisional result beside a screen while it ranks race after race.
+  template <typename S> void showWork(S &screen);
   void remind(const QStringList &lines);
 
   /// Shows `screen` in the place of `opener`.
   template <typename S> S &replace(Screen &opener, S *screen);
   /// Shows `screen` beside `opener`.
   template <typename S> S &beside(Screen &opener, S *screen);
+  /// The screen of this kind that is open; nullptr if none is.
+  template <typename S> S *shown() const;
   void adopt(Screen &screen);
   void showInPlace(Screen &opener, Screen &screen);
   void showBeside(Screen &opener, Screen &screen);
 
   Store &m_store;
+  Printers &m_printers;
   Desk m_desk;
   QHash<QString, Opening> m_openings;
   QPointer<Form1> m_menu;

@@ -4,6 +4,7 @@
 #include "Programm.h"
 #include "core/Start.h"
 #include "platform/Faults.h"
+#include "platform/print/PdfFile.h"
 #include "platform/qt/LineList.h"
 #include "platform/qt/Look.h"
 
@@ -21,7 +22,9 @@ namespace {
 /// What the steps work with.
 class Tour {
 public:
-  Tour(Store &store, QDir pictures) : m_programm(store), m_pictures(std::move(pictures)) { m_programm.start(); }
+  Tour(Store &store, Printers &printers, QDir pictures) : m_programm(store, printers), m_pictures(std::move(pictures)) {
+    m_programm.start();
+  }
 
   void press(const char *screen, const char *button) { QTest::mouseClick(control(screen, button), Qt::LeftButton); }
   void type(const char *screen, const char *field, const QString &text) {
@@ -64,9 +67,46 @@ void menu(Tour &tour) {
   tour.takePicture("Form1", "menue");
 }
 
+void registers(Tour &tour) {
+  tour.press("Form1", "Command1");
+  tour.takePicture("Form3", "laeufer");
+  tour.press("Form3", "Command1");
+  tour.press("Form1", "Command2");
+  tour.takePicture("Form2", "vereine");
+  tour.press("Form2", "Command1");
+}
+
 void raceRegister(Tour &tour) {
   tour.press("Form1", "Command3");
+  tour.type("Form4", "Text1", QStringLiteral("1"));
   tour.takePicture("Form4", "veranstaltungen");
+}
+
+/// Opens a screen of the race register, takes its picture and closes it by the given button.
+struct Function {
+  const char *button, *screen, *name, *closing;
+};
+constexpr Function Functions[] = {
+    {"Command4", "Form5", "teilnehmerliste", "Command1"},
+    {"Command10", "Form11", "mannschaften", "Command1"},
+    {"Command13", "Form10", "klassen-regeln", "Command1"},
+    {"Command14", "Form14", "auswertungskriterien", "Command1"},
+    {"Command15", "Form15", "klassen-reihenfolge", "Command1"},
+    {"Command5", "Form6", "startnummern", "Command1"},
+    {"Command6", "Form7", "zeitnehmung", "Command3"},
+    {"Command8", "Form8", "ausdrucke", "Command1"},
+    {"Command11", "Form12", "mannschaftswertung", "Command1"},
+    {"Command12", "Form16", "titelblatt", "Command1"},
+    {"Command17", "Form20", "cupwertung", "Command3"},
+    {"Command18", "Form19", "zeitsumme", "Command1"},
+};
+
+void functions(Tour &tour) {
+  for (const auto &function : Functions) {
+    tour.press("Form4", function.button);
+    tour.takePicture(function.screen, function.name);
+    tour.press(function.screen, function.closing);
+  }
 }
 
 void newRace(Tour &tour) {
@@ -87,7 +127,7 @@ void theEnd(Tour &tour) {
   tour.press("Form1", "Command4");
 }
 
-constexpr void (*Steps[])(Tour &) = {menu, raceRegister, newRace, deleteRace, theEnd};
+constexpr void (*Steps[])(Tour &) = {menu, registers, raceRegister, functions, newRace, deleteRace, theEnd};
 
 void copyFiles(const QDir &from, const QDir &to) {
   for (const auto &name : from.entryList(QDir::Files))
@@ -104,7 +144,10 @@ void makeTour(const QDir &example, const QDir &pictures) {
   store.OrganisationName = QStringLiteral("Rennbüro");
   store.DatenOrdner = data.path() + QLatin1Char('/');
   storeStarten(store);
-  Tour tour(store, pictures);
+  Printers printers([] { return SystemPrinters(); }, {pdfPrinter(pictures.path(), [] {
+                      return QDateTime({2026, 1, 15}, {12, 0});
+                    })});
+  Tour tour(store, printers, pictures);
   for (const auto step : Steps)
     step(tour);
 }

@@ -2,14 +2,16 @@
 
 #include "core/RecordFiles.h"
 #include "platform/Numbers.h"
+#include "platform/print/Printers.h"
 #include "raceprep/RaceList.h"
 #include "raceprep/RaceRegister.h"
 #include "ui_Form4.h"
 
 #include <QMouseEvent>
 
-Form4::Form4(Desk &desk, Store &store)
-    : Screen(desk, QStringLiteral("Form4"), 4), ui(std::make_unique<Ui::Form4>()), m_store(store) {
+Form4::Form4(Desk &desk, Store &store, Printers &printers)
+    : Screen(desk, QStringLiteral("Form4"), 4), ui(std::make_unique<Ui::Form4>()), m_store(store),
+      m_printers(printers) {
   ui->setupUi(this);
   setUp();
   resize(sizeHint().width(), fontMetrics().height() * 32);
@@ -56,7 +58,7 @@ void Form4::connectFunction(const Function &function) {
 }
 
 bool Form4::isReady(const Function &function) const {
-  if (function.button == ui->Command8 && m_store.umgebung.druckerAnzahl() == 0)
+  if (function.button == ui->Command8 && m_printers.isEmpty())
     return false;
   return !function.needsName || !trimmedBlanks(ui->Text2->text()).isEmpty();
 }
@@ -109,16 +111,10 @@ void Form4::askDeletion() {
   Q_EMIT oeffnet(QStringLiteral("Form9"));
 }
 
-void Form4::setOpenable(const QStringList &screens) {
-  m_openable = screens;
-  for (const auto &function : functions())
-    function.button->setEnabled(screens.contains(function.screen));
-}
-
 void Form4::lockFunctions(bool locked) {
   for (const auto &function : functions())
     if (function.locked)
-      function.button->setEnabled(!locked && m_openable.contains(function.screen));
+      function.button->setEnabled(!locked);
 }
 
 // A click into the name, not the Tab key, locks the functions: the new name is to be stored first.

@@ -4,6 +4,7 @@
 
 #include <memory>
 
+class Printers;
 class QPushButton;
 struct Store;
 namespace Ui {
@@ -21,7 +22,7 @@ class Form4 : public Screen {
   Q_OBJECT
 
 public:
-  Form4(Desk &desk, Store &store);
+  Form4(Desk &desk, Store &store, Printers &printers);
   ~Form4() override;
 
   void becomeActive() override;
@@ -32,8 +33,6 @@ public:
   void listeFuellen();
   /// After the open race has been deleted: the list anew, and the word "leer" as its name.
   void geloeschtZeigen();
-  /// Buttons whose screen is not among these stay disabled.
-  void setOpenable(const QStringList &screens);
 
 Q_SIGNALS:
   /// Another screen is to be opened, by its object name.
@@ -65,5 +64,5 @@ private:
 
   std::unique_ptr<Ui::Form4> ui;
   Store &m_store;
-  QStringList m_openable;
+  Printers &m_printers;
 };
