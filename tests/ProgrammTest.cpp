@@ -35,6 +35,10 @@ protected:
   void press(const char *screen, const char *button) {
     QTest::mouseClick(control<QPushButton>(screen, button), Qt::LeftButton);
   }
+  void chooseLine(const char *screen, const char *name, int line) {
+    auto *list = control<LineList>(screen, name);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(line, 0)).center());
+  }
   std::string visible() {
     QStringList names;
     for (auto *widget : QApplication::topLevelWidgets())
@@ -108,9 +112,12 @@ TEST_F(ProgrammTest, EachFunctionComesBackToTheRegister) {
 
 TEST_F(ProgrammTest, ScreensBesideTheTimingCloseWithIt) {
   test.addRace(QStringLiteral("Slalom"));
+  test.enter(test.addAthlete(QStringLiteral("BERGER Eva"), 2000, 0), 1);
+  RennDatenSpeichern(test.store);
   start();
   press("Form1", "Command3");
   press("Form4", "Command6");
+  chooseLine("Form7", "List2", 0);
   QTest::mouseClick(control<QAbstractButton>("Form7", "Check1"), Qt::LeftButton, {}, {8, 8});
   press("Form7", "Command7");
   EXPECT_EQ(visible(), "Form13 Form18 Form7");
@@ -140,9 +147,8 @@ TEST_F(ProgrammTest, AGeneratedRaceIsOpenedFromTheMenu) {
   start();
   press("Form1", "Command3");
   press("Form4", "Command18");
-  auto *list = control<LineList>("Form19", "List1");
-  for (const int line : {0, 1})
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(line, 0)).center());
+  chooseLine("Form19", "List1", 0);
+  chooseLine("Form19", "List1", 1);
   press("Form19", "Command2");
   EXPECT_EQ(visible(), "Form1");
   press("Form1", "Command3");

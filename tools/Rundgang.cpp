@@ -88,7 +88,7 @@ struct Function {
 };
 constexpr Function Functions[] = {
     {"Command4", "Form5", "teilnehmerliste", "Command1"},
-    {"Command10", "Form11", "mannschaften", "Command1"},
+    {"Command10", "Form11", "mannschaften", "Command4"},
     {"Command13", "Form10", "klassen-regeln", "Command1"},
     {"Command14", "Form14", "auswertungskriterien", "Command1"},
     {"Command15", "Form15", "klassen-reihenfolge", "Command1"},
