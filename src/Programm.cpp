@@ -11,8 +11,6 @@
 #include "evaluation/Form20.h"
 #include "masterdata/Form2.h"
 #include "masterdata/Form3.h"
-#include "platform/print/PdfFile.h"
-#include "platform/qt/SystemPrinters.h"
 #include "printing/Form16.h"
 #include "printing/Form21.h"
 #include "printing/Form28.h"
@@ -32,16 +30,19 @@
 #include "timing/Form7.h"
 
 #include <QCoreApplication>
-#include <QDateTime>
 
-Programm::Programm(Store &store)
-    : m_store(store),
-      m_printers(systemPrinters,
-                 {pdfPrinter(store.DatenOrdner + QStringLiteral("Ausdrucke"), QDateTime::currentDateTime),
-                  m_preview.printer()}),
-      m_desk(store.Fenster, [&store] { FensterSpeichern(store); }), m_openings(openings()) {
-  m_preview.offer(m_printers);
-  store.umgebung.druckerAnzahl = [this] { return m_printers.isEmpty() ? 0 : 1; };
+namespace {
+
+// Pending events are let through for painting only; clicks and keys wait.
+void letPaint() {
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+} // namespace
+
+Programm::Programm(Store &store, Printers &printers)
+    : m_store(store), m_printers(printers), m_desk(store.Fenster, [&store] { FensterSpeichern(store); }),
+      m_openings(openings()) {
   store.umgebung.erinnern = [this](const QStringList &lines) { remind(lines); };
 }
 
@@ -100,7 +101,7 @@ void Programm::openAthletes() {
 
 void Programm::openRaceRegister() {
   alleDateienOeffnen(m_store);
-  m_hub = &replace(*m_menu, new Form4(m_desk, m_store));
+  m_hub = &replace(*m_menu, new Form4(m_desk, m_store, m_printers));
   connect(m_hub, &Form4::oeffnet, this, &Programm::open);
   m_hub->waehlen(rennenZuBeginn(m_store));
 }
@@ -192,7 +193,11 @@ void Programm::showResult(Screen &opener, bool open) {
 
 void Programm::openPrinting() {
   KlassenZuordnen(m_store);
-  auto &form = replace(*m_hub, new Form8(m_desk, m_store, m_printers));
+  showResult(*m_hub, true);
+  letPaint();
+  auto *prints = new Form8(m_desk, m_store, m_printers);
+  showResult(*m_hub, false);
+  auto &form = replace(*m_hub, prints);
   connect(&form, &Form8::druckerGewuenscht, this, [this, &form] { replace(form, new Form28(m_desk, m_printers)); });
   connect(&form, &Form8::werbungGewuenscht, this, [this, &form] { replace(form, new Form21(m_desk, m_store)); });
 }
@@ -225,7 +230,7 @@ void Programm::openTimeSum() {
 template <typename S> void Programm::connectWorkSign(S &screen) {
   connect(&screen, &S::arbeitBegonnen, this, [this, &screen] {
     showResult(screen, true);
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    letPaint();
   });
   connect(&screen, &S::arbeitBeendet, this, [this, &screen] { showResult(screen, false); });
 }

@@ -3,7 +3,6 @@
 #include "core/Store.h"
 #include "platform/print/Printers.h"
 #include "platform/qt/Desk.h"
-#include "platform/qt/Preview.h"
 
 #include <QHash>
 #include <QObject>
@@ -24,8 +23,8 @@ class Programm : public QObject {
   Q_OBJECT
 
 public:
-  /// The store is started; the screens, the reminder of the saves and the printers of this run work on it.
-  explicit Programm(Store &store);
+  /// The store is started; the screens and the reminder of the saves work on it.
+  Programm(Store &store, Printers &printers);
   ~Programm() override;
 
   /// Shows the menu. Its closing, and nothing else, ends the event loop of the application.
@@ -75,8 +74,7 @@ private:
   void showBeside(Screen &opener, Screen &screen);
 
   Store &m_store;
-  Preview m_preview;
-  Printers m_printers;
+  Printers &m_printers;
   Desk m_desk;
   QHash<QString, Opening> m_openings;
   QPointer<Form1> m_menu;

@@ -1,10 +1,13 @@
 #include "Programm.h"
 #include "core/Safety.h"
 #include "core/Start.h"
+#include "platform/print/PdfFile.h"
 #include "platform/qt/Application.h"
 #include "platform/qt/FaultReport.h"
 #include "platform/qt/Look.h"
+#include "platform/qt/Preview.h"
 #include "platform/qt/RescueQuestion.h"
+#include "platform/qt/SystemPrinters.h"
 
 #include <QIcon>
 #include <QSettings>
@@ -45,7 +48,11 @@ void offerRescue(Safety &safety) {
 int run(Store &store, Safety &safety) {
   offerRescue(safety);
   setUp(store);
-  Programm programm(store);
+  Preview preview;
+  Printers printers(systemPrinters,
+                    {pdfPrinter(QStringLiteral("Ausdrucke"), QDateTime::currentDateTime), preview.printer()});
+  preview.offer(printers);
+  Programm programm(store, printers);
   safety.hint = [&programm](const QString &line) { programm.sicherungHinweis(line); };
   programm.start();
   safety.start();

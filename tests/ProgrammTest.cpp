@@ -3,8 +3,10 @@
 #include "core/RaceFiles.h"
 #include "platform/qt/LineList.h"
 #include "platform/qt/Screen.h"
+#include "support/FakePrinters.h"
 #include "support/TestStore.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
 #include <QPushButton>
@@ -18,7 +20,7 @@ protected:
   ~ProgrammTest() override { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
 
   void start() {
-    programm = std::make_unique<Programm>(test.store);
+    programm = std::make_unique<Programm>(test.store, *printers.printers);
     programm->start();
   }
   Screen *window(const char *name) {
@@ -33,6 +35,10 @@ protected:
   void press(const char *screen, const char *button) {
     QTest::mouseClick(control<QPushButton>(screen, button), Qt::LeftButton);
   }
+  void chooseLine(const char *screen, const char *name, int line) {
+    auto *list = control<LineList>(screen, name);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(line, 0)).center());
+  }
   std::string visible() {
     QStringList names;
     for (auto *widget : QApplication::topLevelWidgets())
@@ -44,6 +50,7 @@ protected:
   QString text(const char *screen, const char *box) { return control<QLineEdit>(screen, box)->text(); }
 
   TestStore test;
+  FakePrinters printers;
   std::unique_ptr<Programm> programm;
 };
 
@@ -80,6 +87,72 @@ TEST_F(ProgrammTest, ADeletedRaceStaysOpenAsLeer) {
   EXPECT_FALSE(test.hasFile(QStringLiteral("R 1.dat")));
   EXPECT_EQ(text("Form4", "Text1") + text("Form4", "Text2"), QStringLiteral("1leer"));
   EXPECT_TRUE(control<LineList>("Form4", "List1")->lines().isEmpty());
+}
+
+// Every button opens its screen in the place of the register, and closing that brings the register back.
+TEST_F(ProgrammTest, EachFunctionComesBackToTheRegister) {
+  test.addRace(QStringLiteral("Slalom"));
+  start();
+  press("Form1", "Command3");
+  const std::pair<const char *, const char *> functions[] = {
+      {"Command4", "Form5"},   {"Command5", "Form6"},   {"Command6", "Form7"},   {"Command8", "Form8"},
+      {"Command10", "Form11"}, {"Command11", "Form12"}, {"Command12", "Form16"}, {"Command13", "Form10"},
+      {"Command14", "Form14"}, {"Command15", "Form15"}, {"Command17", "Form20"}, {"Command18", "Form19"}};
+  for (const auto &[button, screen] : functions) {
+    press("Form4", button);
+    ASSERT_EQ(visible(), screen);
+    window(screen)->close();
+    ASSERT_EQ(visible(), "Form4") << screen;
+  }
+  press("Form4", "Command16");
+  EXPECT_EQ(visible(), "CupKopie Form4");
+  press("Form4", "Command1");
+  EXPECT_EQ(visible(), "Form1");
+}
+
+TEST_F(ProgrammTest, ScreensBesideTheTimingCloseWithIt) {
+  test.addRace(QStringLiteral("Slalom"));
+  test.enter(test.addAthlete(QStringLiteral("BERGER Eva"), 2000, 0), 1);
+  RennDatenSpeichern(test.store);
+  start();
+  press("Form1", "Command3");
+  press("Form4", "Command6");
+  chooseLine("Form7", "List2", 0);
+  QTest::mouseClick(control<QAbstractButton>("Form7", "Check1"), Qt::LeftButton, {}, {8, 8});
+  press("Form7", "Command7");
+  EXPECT_EQ(visible(), "Form13 Form18 Form7");
+  window("Form18")->close();
+  EXPECT_EQ(visible(), "Form13 Form7");
+  press("Form7", "Command7");
+  window("Form7")->close();
+  EXPECT_EQ(visible(), "Form4");
+}
+
+TEST_F(ProgrammTest, TheParticipantListTakesItsScreensAlongAndCommitsTheirFields) {
+  test.addRace(QStringLiteral("Slalom"));
+  test.addAthlete(QStringLiteral("BERGER Eva"), 2000, 0);
+  start();
+  press("Form1", "Command3");
+  press("Form4", "Command4");
+  QTest::keyClicks(control<QLineEdit>("Form5", "Text1"), QStringLiteral("Moser"));
+  press("Form5", "Command5");
+  EXPECT_EQ(visible(), "Form3 Form5");
+  window("Form5")->close();
+  EXPECT_EQ(visible(), "Form4");
+}
+
+TEST_F(ProgrammTest, AGeneratedRaceIsOpenedFromTheMenu) {
+  test.addRace(QStringLiteral("Slalom"));
+  test.addRace(QStringLiteral("Abfahrt"));
+  start();
+  press("Form1", "Command3");
+  press("Form4", "Command18");
+  chooseLine("Form19", "List1", 0);
+  chooseLine("Form19", "List1", 1);
+  press("Form19", "Command2");
+  EXPECT_EQ(visible(), "Form1");
+  press("Form1", "Command3");
+  EXPECT_EQ(text("Form4", "Text1") + text("Form4", "Text2"), QStringLiteral("3Kombilauf"));
 }
 
 TEST_F(ProgrammTest, TheReminderFollowsTheSaves) {

@@ -4,8 +4,10 @@
 #include "Programm.h"
 #include "core/Start.h"
 #include "platform/Faults.h"
+#include "platform/print/PdfFile.h"
 #include "platform/qt/LineList.h"
 #include "platform/qt/Look.h"
+#include "platform/qt/Preview.h"
 
 #include <QApplication>
 #include <QDir>
@@ -22,7 +24,10 @@ namespace {
 /// What the steps work with.
 class Tour {
 public:
-  Tour(Store &store, QDir pictures) : m_programm(store), m_pictures(std::move(pictures)) { m_programm.start(); }
+  Tour(Store &store, QDir pictures) : m_programm(store, m_printers), m_pictures(std::move(pictures)) {
+    m_preview.offer(m_printers);
+    m_programm.start();
+  }
 
   void press(const char *screen, const char *button) { QTest::mouseClick(control(screen, button), Qt::LeftButton); }
   void type(const char *screen, const char *field, const QString &text) {
@@ -85,6 +90,11 @@ private:
     throw Fault(QStringLiteral("%1 hat kein %2.").arg(QLatin1String(screen), QLatin1String(name)));
   }
 
+  Preview m_preview;
+  Printers m_printers{
+      [] { return SystemPrinters(); },
+      {pdfPrinter(QStringLiteral("Ausdrucke"), [] { return QDateTime(QDate(2026, 1, 15), QTime(12, 0)); }),
+       m_preview.printer()}};
   Programm m_programm;
   QDir m_pictures;
   int m_count = 0;

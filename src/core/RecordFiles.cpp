@@ -148,24 +148,6 @@ void RennenLeeren(Store &store) {
   rennen.BestzeitText = before.BestzeitText;
 }
 
-void letztenLaeuferLesen(Store &store) {
-  store.LaeuferIdx = store.LaeuferAnzahl;
-  LaeuferLeeren(store);
-  if (store.LaeuferIdx == 0)
-    store.LaeuferIdx = store.LaeuferAnzahl = 1;
-  else
-    LaeuferLesen(store);
-}
-
-void letztenVereinLesen(Store &store) {
-  store.VereinIdx = store.VereinAnzahl;
-  VereinLeeren(store);
-  if (store.VereinIdx == 0)
-    store.VereinIdx = store.VereinAnzahl = 1;
-  else
-    VereinLesen(store);
-}
-
 QStringList VereinListeFuellen(Store &store) {
   const int shown = store.VereinIdx;
   SortedLines lines;

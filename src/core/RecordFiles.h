@@ -36,11 +36,6 @@ void LaeuferLeeren(Store &store);
 /// the race before it.
 void RennenLeeren(Store &store);
 
-/// Makes the last athlete (club) the current one, as a register opens; in an empty register that is a new record 1,
-/// which counts from then on in memory, though nothing has been written yet.
-void letztenLaeuferLesen(Store &store);
-void letztenVereinLesen(Store &store);
-
 /// Lines of `Form2.List1`: all clubs with a name, sorted; ends in the record number. The index is restored.
 QStringList VereinListeFuellen(Store &store);
 /// Lines of `Form3.List1`: all athletes with a name, sorted; ends in the record number. The index is restored.

@@ -40,7 +40,7 @@ void Form12::fillCombos() {
 }
 
 void Form12::fill() {
-  ui->Label1->setText(m_store.Rennen.RennenName);
+  ui->Label1->setText(shownText(m_store.Rennen.RennenName));
   wertungVorbereiten(m_store);
   ui->List1->fill(vereinsZeilen(m_store));
   ui->List3->fill(mannschaftsZeilen(m_store));

@@ -110,7 +110,8 @@ double leadingNumber(QStringView text) {
       end = behind;
   }
   const auto number = text.sliced(start, end - start);
-  return number.size() <= ExactDigits && !number.contains(QLatin1Char('.')) ? plainWhole(number) : number.toDouble();
+  const bool whole = number.size() <= ExactDigits && !number.contains(QLatin1Char('.'));
+  return (whole ? plainWhole(number) : number.toDouble()) + 0.0; // no negative zero
 }
 
 qint64 wholeNumber(QStringView text) {

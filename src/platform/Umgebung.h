@@ -14,8 +14,6 @@ struct Umgebung {
   std::function<void()> piep = [] {};
   /// Shows the reminder of athletes without sex or birth date; an empty list takes it away.
   std::function<void(const QStringList &)> erinnern = [](const QStringList &) {};
-  /// Number of printers to choose from; two of our own always exist.
-  std::function<int()> druckerAnzahl = [] { return 2; };
   /// The one generator of the program, seeded from the clock at the start.
   std::mt19937 zufall;
   /// A random number in [0, 1).

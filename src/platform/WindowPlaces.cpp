@@ -5,7 +5,9 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <cstdlib>
+#include <limits>
 
 void WindowPlaces::load(const QString &path) {
   if (!QFile::exists(path))
@@ -14,7 +16,7 @@ void WindowPlaces::load(const QString &path) {
   for (int row = 1; row <= 60; ++row) {
     for (int *value : {&FensterTop[row], &FensterLeft[row]}) {
       file.numberInto(*value);
-      *value = std::abs(*value);
+      *value = std::abs(std::max(*value, -std::numeric_limits<int>::max()));
     }
   }
 }

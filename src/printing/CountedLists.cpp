@@ -73,8 +73,8 @@ void printUnranked(Store &store, Druckschicht &druck, const TeilnehmerZeile &par
   printPerson(store, druck, participant, y, 100);
   // The plain class stands here, not the exact one of the other lists; this is meant.
   Zelle(druck, 125, y,
-        store.Rennen.WertKlassen == 1 ? store.KlasseName[participant.KlasseNr]
-                                      : store.GruppeName[participant.GruppeNr]);
+        store.Rennen.WertKlassen == 0 ? store.GruppeName[participant.GruppeNr]
+                                      : store.KlasseName[participant.KlasseNr]);
   Zelle(druck, 145, y, participant.Gast == 1 ? QStringLiteral("G") : QStringLiteral("-"));
   druck.FontBold = true;
   if (participant.Status1 > 0)

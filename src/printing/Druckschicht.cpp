@@ -7,6 +7,7 @@
 #include <cmath>
 #include <utility>
 
+PrintItem::PrintItem(const QString &text) : m_text(shownText(text)) {}
 PrintItem::PrintItem(int number) : m_text(spacedText(number) + QLatin1Char(' ')) {}
 PrintItem::PrintItem(double number) : m_text(spacedText(number) + QLatin1Char(' ')) {}
 
@@ -35,7 +36,7 @@ void Druckschicht::Print(std::initializer_list<PrintItem> items, End end) {
 }
 
 float Druckschicht::TextWidth(const QString &text) const {
-  return float(PrintMetrics::textWidth(font(), text));
+  return float(PrintMetrics::textWidth(font(), shownText(text)));
 }
 
 float Druckschicht::ScaleWidth() const {

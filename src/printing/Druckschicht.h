@@ -9,7 +9,7 @@
 /// An item of a Print: a text, or a number, which is set with one blank in front and one behind.
 class PrintItem {
 public:
-  PrintItem(const QString &text) : m_text(text) {}
+  PrintItem(const QString &text);
   PrintItem(int number);
   PrintItem(double number);
   const QString &text() const { return m_text; }

@@ -9,7 +9,7 @@ Form16::Form16(Desk &desk, Store &store)
     : Screen(desk, QStringLiteral("Form16"), 16), ui(std::make_unique<Ui::Form16>()), m_store(store) {
   ui->setupUi(this);
   setUp();
-  ui->Label1->setText(m_store.Rennen.RennenName);
+  ui->Label1->setText(shownText(m_store.Rennen.RennenName));
   bind(ui->Text1, &RennenSatz::RennenOrt);
   bind(ui->Text2, &RennenSatz::RennenKurz);
   bind(ui->Text4, &RennenSatz::Veranstalter);

@@ -2,11 +2,13 @@
 
 #include "platform/Numbers.h"
 #include "platform/qt/Look.h"
+#include "platform/qt/Picture.h"
 #include "ui_Form21.h"
 
 #include <QFile>
+#include <QImageReader>
+#include <QLabel>
 #include <QMouseEvent>
-#include <QPixmap>
 
 #include <cmath>
 
@@ -66,9 +68,8 @@ void Form21::makeRow(int i) {
   row.rechts = findChild<QLineEdit *>(named("Text2"));
   row.runter = findChild<QLineEdit *>(named("Text3"));
   row.groesse = findChild<QLineEdit *>(named("Text4"));
-  row.image = new QLabel(ui->Image3);
+  row.image = new Picture(ui->Image3);
   row.image->setObjectName(named("Image1"));
-  row.image->setScaledContents(true);
   row.image->installEventFilter(this);
   connect(row.check, &QCheckBox::clicked, this, [this, i] { select(i); });
   onEnter(row.datei, [this, i] { select(i); });
@@ -119,25 +120,28 @@ void Form21::move(QLineEdit *Row::*field, int step) {
 }
 
 void Form21::preview() {
-  for (const Row &row : m_rows)
-    showBanner(row);
+  for (std::size_t i = 0; i < m_rows.size(); ++i)
+    showBanner(m_rows[i], int(i) == m_selection);
 }
 
-void Form21::showBanner(const Row &row) {
+// The fields have the ground of the screen, but for those of the chosen banner.
+void Form21::showBanner(const Row &row, bool chosen) {
+  for (auto *field : {row.datei, row.rechts, row.runter, row.groesse})
+    Look::setGround(field, chosen ? QColor(Qt::white) : palette().color(QPalette::Window));
   const QString path = m_store.DatenOrdner + row.datei->text();
-  const QPixmap picture =
-      row.check->isChecked() && !row.datei->text().isEmpty() && QFile::exists(path) ? QPixmap(path) : QPixmap();
-  row.image->setVisible(!picture.isNull());
-  if (picture.isNull())
+  const bool used = row.check->isChecked() && !row.datei->text().isEmpty() && QFile::exists(path);
+  const QSize natural = used ? QImageReader(path).size() : QSize();
+  row.image->setVisible(natural.isValid());
+  if (!natural.isValid())
     return;
   const double scale = leadingNumber(row.groesse->text()) / 100;
-  row.image->setPixmap(picture);
+  row.image->setFile(path);
   row.image->setGeometry(pixels(leadingNumber(row.rechts->text())), pixels(leadingNumber(row.runter->text()) - PageTop),
-                         int(std::lround(picture.width() * scale)), int(std::lround(picture.height() * scale)));
+                         int(std::lround(natural.width() * scale)), int(std::lround(natural.height() * scale)));
 }
 
 bool Form21::eventFilter(QObject *watched, QEvent *event) {
-  if (event->type() == QEvent::MouseButtonPress)
+  if (event->type() == QEvent::MouseButtonPress && static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton)
     for (std::size_t i = 0; i < m_rows.size(); ++i)
       if (m_rows[i].image == watched)
         select(int(i));

@@ -6,8 +6,8 @@
 #include <array>
 #include <memory>
 
+class Picture;
 class QCheckBox;
-class QLabel;
 class QLineEdit;
 
 namespace Ui {
@@ -34,7 +34,7 @@ private:
   struct Row {
     QCheckBox *check;
     QLineEdit *datei, *rechts, *runter, *groesse;
-    QLabel *image;
+    Picture *image;
   };
   void makePage();
   void makeRow(int i);
@@ -44,7 +44,7 @@ private:
   void select(int i);
   void move(QLineEdit *Row::*field, int step);
   void preview();
-  void showBanner(const Row &row);
+  void showBanner(const Row &row, bool chosen);
   int pixels(double millimetres) const;
 
   std::unique_ptr<Ui::Form21> ui;

@@ -33,7 +33,7 @@ Form8::Form8(Desk &desk, Store &store, Printers &printers)
 Form8::~Form8() = default;
 
 void Form8::fill() {
-  ui->Label1->setText(m_store.Rennen.RennenName);
+  ui->Label1->setText(shownText(m_store.Rennen.RennenName));
   ui->Combo3->addItems(vereinKurznamen(m_store));
   ui->Combo3->setCurrentIndex(-1);
   ui->Combo4->addItems(klassenNamen(m_store));
@@ -122,7 +122,8 @@ void Form8::printCertificates(Druckschicht &druck) {
 }
 
 void Form8::printTitlePage(Druckschicht &druck) {
-  m_werbung = WerbungLesen(m_store);
+  if (!m_werbung)
+    m_werbung = WerbungLesen(m_store);
   Titelblatt(m_store, druck, *m_werbung);
 }
 

@@ -17,12 +17,12 @@ void Zelle(Druckschicht &druck, double x, double y, const PrintItem &item) {
 }
 
 const QString &Klassentext(const Store &store, const TeilnehmerZeile &participant) {
-  return store.Rennen.WertKlassen == 1 ? store.KlasseGenauName[participant.KlasseGenau]
-                                       : store.GruppeName[participant.GruppeNr];
+  return store.Rennen.WertKlassen == 0 ? store.GruppeName[participant.GruppeNr]
+                                       : store.KlasseGenauName[participant.KlasseGenau];
 }
 
 QString Klassenspalte(const Store &store) {
-  return store.Rennen.WertKlassen == 1 ? QStringLiteral("Klasse") : QStringLiteral("Gruppe");
+  return store.Rennen.WertKlassen == 0 ? QStringLiteral("Gruppe") : QStringLiteral("Klasse");
 }
 
 QString Vereinstext(Store &store, const TeilnehmerZeile &participant, bool orLong) {

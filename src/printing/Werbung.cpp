@@ -43,7 +43,8 @@ void readBanner(TextReader &file, Werbebanner &banner) {
 
 QString WerbeGrenze::held(const QString &text) const {
   const double number = leadingNumber(text);
-  if (number < lowest)
+  const bool isNumber = number != 0 || trimmedBlanks(text).startsWith(QLatin1Char('0'));
+  if (!isNumber || number < lowest)
     return plainText(lowest);
   return number > highest ? plainText(highest) : text;
 }

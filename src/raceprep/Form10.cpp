@@ -31,9 +31,9 @@ Form10::~Form10() = default;
 void Form10::connectFields() {
   connect(ui->Text5, &QLineEdit::textChanged, this, &Form10::numberChanged);
   connect(ui->Text6, &QLineEdit::textChanged, this, &Form10::nameChanged);
-  onReturn(ui->Text5, [this] { ui->Text6->setFocus(); });
-  onReturn(ui->Text6, [this] { ui->Text1->setFocus(); });
-  onReturn(ui->Text1, [this] { ui->Text2->setFocus(); });
+  onReturn(ui->Text5, [this] { enterField(ui->Text6); });
+  onReturn(ui->Text6, [this] { enterField(ui->Text1); });
+  onReturn(ui->Text1, [this] { enterField(ui->Text2); });
   onLeave(ui->Text5, [this] { refresh(); });
   onLeave(ui->Text6, [this] { refresh(); });
   onLeave(ui->Text1, [this] { storeYear(true); });

@@ -5,25 +5,15 @@
 #include "raceprep/NameLists.h"
 #include "ui_Form11.h"
 
-namespace {
-
-// As by Tab: what is typed next takes the place of what is there.
-void enter(QLineEdit *field) {
-  field->setFocus();
-  field->selectAll();
-}
-
-} // namespace
-
 Form11::Form11(Desk &desk, Store &store)
     : Screen(desk, QStringLiteral("Form11"), 11), m_store(store), ui(std::make_unique<Ui::Form11>()) {
   ui->setupUi(this);
   setUp();
-  ui->Label1->setText(store.Rennen.RennenName);
+  ui->Label1->setText(shownText(store.Rennen.RennenName));
   connectSide({ui->Text1, ui->Text2, ui->List1, store.MannschaftName});
   connectSide({ui->Text4, ui->Text3, ui->List2, store.GruppeName});
   connect(ui->Command4, &QPushButton::clicked, this, &QWidget::close);
-  enter(ui->Text1);
+  enterField(ui->Text1);
 }
 
 Form11::~Form11() = default;
@@ -37,10 +27,10 @@ void Form11::connectSide(const Side &side) {
   });
   connect(side.name, &QLineEdit::textChanged, this,
           [side, number](const QString &text) { side.names[number()] = trimmedBlanks(text); });
-  onReturn(side.number, [side] { enter(side.name); });
+  onReturn(side.number, [side] { enterField(side.name); });
   onReturn(side.name, [side, number] {
     side.number->setText(plainText(number() + 1));
-    enter(side.number);
+    enterField(side.number);
   });
   const auto fill = [side] { side.list->fill(nameLines(side.names)); };
   onLeave(side.name, fill);

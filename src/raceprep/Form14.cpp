@@ -10,7 +10,7 @@ Form14::Form14(Desk &desk, Store &store)
   setUp();
   RennenLesen(store);
   auto &rennen = store.Rennen;
-  ui->Label1->setText(rennen.RennenName);
+  ui->Label1->setText(shownText(rennen.RennenName));
   setPair(ui->Check1, ui->Check2, rennen.WertKlassen);
   setSwitch(ui->Check3, rennen.WertGeschlecht);
   setSwitch(ui->Check4, rennen.WertGaeste);

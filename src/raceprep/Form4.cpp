@@ -2,14 +2,16 @@
 
 #include "core/RecordFiles.h"
 #include "platform/Numbers.h"
+#include "platform/print/Printers.h"
 #include "raceprep/RaceList.h"
 #include "raceprep/RaceRegister.h"
 #include "ui_Form4.h"
 
 #include <QMouseEvent>
 
-Form4::Form4(Desk &desk, Store &store)
-    : Screen(desk, QStringLiteral("Form4"), 4), ui(std::make_unique<Ui::Form4>()), m_store(store) {
+Form4::Form4(Desk &desk, Store &store, Printers &printers)
+    : Screen(desk, QStringLiteral("Form4"), 4), ui(std::make_unique<Ui::Form4>()), m_store(store),
+      m_printers(printers) {
   ui->setupUi(this);
   setUp();
   resize(sizeHint().width(), fontMetrics().height() * 32);
@@ -56,7 +58,7 @@ void Form4::connectFunction(const Function &function) {
 }
 
 bool Form4::isReady(const Function &function) const {
-  if (function.button == ui->Command8 && m_store.umgebung.druckerAnzahl() == 0)
+  if (function.button == ui->Command8 && m_printers.isEmpty())
     return false;
   return !function.needsName || !trimmedBlanks(ui->Text2->text()).isEmpty();
 }

@@ -4,6 +4,7 @@
 
 #include <memory>
 
+class Printers;
 class QPushButton;
 struct Store;
 namespace Ui {
@@ -21,7 +22,7 @@ class Form4 : public Screen {
   Q_OBJECT
 
 public:
-  Form4(Desk &desk, Store &store);
+  Form4(Desk &desk, Store &store, Printers &printers);
   ~Form4() override;
 
   void becomeActive() override;
@@ -63,4 +64,5 @@ private:
 
   std::unique_ptr<Ui::Form4> ui;
   Store &m_store;
+  Printers &m_printers;
 };

@@ -12,7 +12,7 @@ Form5::Form5(Desk &desk, Store &store)
     : Screen(desk, QStringLiteral("Form5"), 5), m_store(store), ui(std::make_unique<Ui::Form5>()) {
   ui->setupUi(this);
   setUp();
-  ui->Label1->setText(m_store.Rennen.RennenName);
+  ui->Label1->setText(shownText(m_store.Rennen.RennenName));
   ui->Combo1->addItems({QStringLiteral("Name"), QStringLiteral("Nenn-ID"), QStringLiteral("INV-Nenn-ID")});
   ui->List2->hideNumbers();
   connectAthletes();
@@ -77,7 +77,7 @@ void Form5::showAthlete(int record) {
   m_store.LaeuferIdx = record;
   LaeuferLesen(m_store);
   const AthleteClubs clubs = clubsOfAthlete(m_store);
-  ui->Label4->setText(m_store.Laeufer.Name);
+  ui->Label4->setText(shownText(m_store.Laeufer.Name));
   ui->Label6->setText(plainText(record));
   ui->Label8->setText(shortDate(fromDays(m_store.Laeufer.Geburtsdatum)));
   ui->Label10->setText(clubs.text);
@@ -89,7 +89,7 @@ void Form5::showAthlete(int record) {
 void Form5::showParticipant(const QString &line) {
   m_store.LaeuferIdx = rowAtEnd(line, 6);
   LaeuferLesen(m_store);
-  ui->Label5->setText(m_store.Laeufer.Name);
+  ui->Label5->setText(shownText(m_store.Laeufer.Name));
   ui->Label7->setText(plainText(rowOfLine(line)));
   ui->Command3->setEnabled(true);
 }

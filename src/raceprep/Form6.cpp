@@ -45,7 +45,7 @@ Form6::Form6(Desk &desk, Store &store)
   setUp();
   ui->List2->hide();
   keepPlaces({ui->personCard, ui->numberCard});
-  ui->Label1->setText(store.Rennen.RennenName);
+  ui->Label1->setText(shownText(store.Rennen.RennenName));
   showNobody();
   fillList();
   fillCombos();

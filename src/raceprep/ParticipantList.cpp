@@ -1,5 +1,6 @@
 #include "raceprep/ParticipantList.h"
 
+#include "core/Participants.h"
 #include "core/RecordFiles.h"
 #include "masterdata/ClubRegister.h"
 #include "platform/Numbers.h"
@@ -24,12 +25,10 @@ QString shortNameOfClub(Store &store, int club) {
   return trimmedBlanks(store.Verein.VereinKurz);
 }
 
-// Slots 0 (not chosen) and 4 (no club) have no text.
-QString clubTextOfSlot(Store &store, int slot) {
-  if (slot < 1 || slot > 3)
+QString clubText(Store &store, const TeilnehmerZeile &participant) {
+  if (!readClub(store, participant))
     return {};
-  const int club = clubSlots(store)[std::size_t(slot - 1)];
-  return isClub(store, club) ? QStringLiteral(" --- ") + shortNameOfClub(store, club).left(ClubTextLength) : QString();
+  return QStringLiteral(" --- ") + trimmedBlanks(store.Verein.VereinKurz).left(ClubTextLength);
 }
 
 QString sortPrefix(int row, int order) {
@@ -40,7 +39,7 @@ QString sortPrefix(int row, int order) {
 
 QString participantLine(Store &store, int row, int order) {
   const auto &line = store.Teilnehmer[row];
-  return sortPrefix(row, order) + store.Laeufer.Name + QStringLiteral("   ") + clubTextOfSlot(store, line.VereinNr) +
+  return sortPrefix(row, order) + store.Laeufer.Name + QStringLiteral("   ") + clubText(store, line) +
          QString(50, QLatin1Char(' ')) + masked(row, "0###") + masked(line.LaeuferNr, "0#####");
 }
 

@@ -7,7 +7,7 @@ Form13::Form13(Desk &desk, Store &store)
   ui->setupUi(this);
   setUp();
   connect(ui->Command1, &QPushButton::clicked, this, &Form13::close);
-  ui->Command1->setFocus();
+  ui->List2->setFocus();
   zeigen();
 }
 

@@ -12,8 +12,6 @@
 
 #include <QScrollBar>
 
-#include <algorithm>
-
 namespace {
 
 constexpr int StatusCount = 6; // the last two have no text and can be chosen all the same
@@ -52,10 +50,12 @@ Form7::Form7(Desk &desk, Store &store)
   setUp();
   hideUnused();
   Look::setGround(ui->Label11, QColor(FarbTabelle::Hellgrau));
-  ui->Label1->setText(m_store.Rennen.RennenName);
+  ui->Label1->setText(shownText(m_store.Rennen.RennenName));
   for (int status = 0; status < StatusCount; ++status)
     for (auto *combo : {ui->Combo1, ui->Combo2})
       combo->addItem(m_store.StatusText[status]);
+  for (auto *combo : {ui->Combo1, ui->Combo2})
+    combo->setCurrentIndex(-1);
   connectControls();
   refill();
   ui->List2->setFocus();
@@ -82,6 +82,7 @@ void Form7::connectControls() {
   for (auto *option : {ui->Option1, ui->Option2, ui->Option3, ui->Option4, ui->Option5})
     connect(option, &QRadioButton::clicked, this, &Form7::refill);
   connect(ui->List2, &LineList::chosen, this, &Form7::lineChosen);
+  connect(ui->List2, &LineList::doubleChosen, this, &Form7::returnInList);
   onReturn(ui->List2, [this] { returnInList(); });
   connectLauf(m_lauf1, ui->Command4, ui->Command2);
   connectLauf(m_lauf2, ui->Command1, ui->Command6);
@@ -240,6 +241,7 @@ void Form7::zeitUebernehmen(const QString &zeit) {
   if (const auto time = regionalNumber(zeit)) {
     selected().Zeit1 = *time;
     ui->Text1->setText(zeit);
+    ui->List2->setFocus();
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/qt/Desk.h"
 #include "platform/qt/LineList.h"
+#include "support/FakePrinters.h"
 #include "support/TestStore.h"
 
 #include <QLineEdit>
@@ -22,7 +23,7 @@ protected:
   Form4Test() {
     test.addRace(QStringLiteral("Slalom"));
     test.addRace(QStringLiteral("Abfahrt"));
-    form = std::make_unique<Form4>(desk, test.store);
+    form = std::make_unique<Form4>(desk, test.store, *printers.printers);
     desk.show(*form);
     form->waehlen(2);
   }
@@ -43,6 +44,7 @@ protected:
   }
 
   TestStore test;
+  FakePrinters printers;
   Desk desk{test.store.Fenster, [this] { FensterSpeichern(test.store); }};
   std::unique_ptr<Form4> form;
 };
@@ -84,12 +86,17 @@ TEST_F(Form4Test, AClickIntoTheNameLocksElevenButtonsUntilItIsStored) {
     EXPECT_TRUE(button(n)->isEnabled()) << n;
 }
 
-TEST_F(Form4Test, ButtonsOpenTheirScreensIfTheRaceHasANameAndAPrinterIsThere) {
+TEST_F(Form4Test, ButtonsOpenTheirScreensIfTheRaceHasAName) {
   EXPECT_EQ(openedByAll(), Screens);
-  test.umgebung.druckerAnzahl = [] { return 0; };
-  EXPECT_FALSE(openedByAll().contains(QStringLiteral("Form8")));
   box(2)->setText(QStringLiteral("  "));
   EXPECT_EQ(openedByAll(), Screens.sliced(10));
+}
+
+TEST_F(Form4Test, ListsNeedAPrinter) {
+  FakePrinters none{{}};
+  form = std::make_unique<Form4>(desk, test.store, *none.printers);
+  form->waehlen(2);
+  EXPECT_FALSE(openedByAll().contains(QStringLiteral("Form8")));
 }
 
 } // namespace

@@ -58,6 +58,7 @@ protected:
     QStyledItemDelegate::initStyleOption(option, index);
     if (const auto start = numberStart(option->text))
       option->text = option->text.left(*start);
+    option->text = shownText(option->text);
   }
 };
 
@@ -136,14 +137,25 @@ void LineList::currentChanged(const QModelIndex &current, const QModelIndex &pre
 // The press that gives this list the focus first makes another field store its value, which may refill this very list:
 // the lines that the operator aimed at are kept for the press that follows.
 void LineList::focusInEvent(QFocusEvent *event) {
-  m_aimedLines = event->reason() == Qt::MouseFocusReason ? lines() : QStringList();
+  if (event->reason() == Qt::MouseFocusReason)
+    aim();
   QListView::focusInEvent(event);
   update();
+}
+
+void LineList::aim() {
+  m_aimedLines = lines();
 }
 
 void LineList::focusOutEvent(QFocusEvent *event) {
   QListView::focusOutEvent(event);
   update();
+}
+
+// What has been painted since is what the operator sees.
+void LineList::paintEvent(QPaintEvent *event) {
+  m_aimedLines.clear();
+  QListView::paintEvent(event);
 }
 
 // A list without a chosen line shows by its frame that it has the focus.
@@ -166,7 +178,8 @@ QModelIndex LineList::aimedAt(QPoint at) {
   const int line = height > 0 ? (at.y() + verticalOffset()) / height : -1;
   if (line < 0 || line >= before.size())
     return {};
-  const bool numbered = before[line].back().isDigit(); // other lines are known by their position alone
+  const bool numbered =
+      !before[line].isEmpty() && before[line].back().isDigit(); // other lines are known by their position alone
   return m_model.index(numbered ? lineOfNumber(rowAtEnd(before[line], NumberLength)) : line);
 }
 
@@ -184,8 +197,11 @@ void LineList::mouseMoveEvent(QMouseEvent *) {} // no choosing by dragging
 
 void LineList::mouseDoubleClickEvent(QMouseEvent *event) {
   const QModelIndex index = indexAt(event->pos());
-  if (event->button() == Qt::LeftButton && index.isValid())
-    Q_EMIT doubleChosen(index.row());
+  m_aimedLines.clear();
+  if (event->button() != Qt::LeftButton || !index.isValid())
+    return;
+  setCurrentIndex(index);
+  Q_EMIT doubleChosen(index.row());
 }
 
 QItemSelectionModel::SelectionFlags LineList::selectionCommand(const QModelIndex &index, const QEvent *) const {
@@ -222,6 +238,8 @@ void MarkList::mousePressEvent(QMouseEvent *event) {
 }
 
 void MarkList::keyPressEvent(QKeyEvent *event) {
+  if (event->matches(QKeySequence::SelectAll)) // each line is marked for itself
+    return;
   if (event->key() != Qt::Key_Space || !currentIndex().isValid())
     return LineList::keyPressEvent(event);
   selectionModel()->select(currentIndex(), QItemSelectionModel::Toggle);

@@ -42,6 +42,9 @@ public:
   /// The highlighted line, from 0; −1 = none.
   int chosenLine() const { return currentIndex().row(); }
   QSize sizeHint() const override;
+  /// The press that follows before the next painting aims at the lines as they are now, whatever fills the list until
+  /// then: it finds its line again by the number at the end.
+  void aim();
 
 Q_SIGNALS:
   /// The operator chose a line: a left press, also on the line already chosen, or keys. Never by code, never by focus.
@@ -56,6 +59,7 @@ protected:
   void mouseDoubleClickEvent(QMouseEvent *event) override;
   void focusInEvent(QFocusEvent *event) override;
   void focusOutEvent(QFocusEvent *event) override;
+  void paintEvent(QPaintEvent *event) override;
   bool event(QEvent *event) override;
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index, const QEvent *event) const override;
 

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFontMetrics>
+#include <QLabel>
 #include <QFrame>
 #include <QLibraryInfo>
 #include <QLineEdit>
@@ -111,6 +112,8 @@ void Look::applyProperties(QWidget *screen) {
     setWidth(widget);
     setHeight(widget);
     setQuiet(widget);
+    if (auto *label = qobject_cast<QLabel *>(widget))
+      label->setTextFormat(Qt::PlainText); // a name may hold what looks like markup
     setCard(widget);
   }
 }

@@ -1,13 +1,17 @@
 #include "platform/qt/Screen.h"
 
 #include "platform/qt/Desk.h"
+#include "platform/qt/LineList.h"
 #include "platform/qt/Look.h"
 
 #include <QAbstractButton>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QGuiApplication>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QScreen>
+#include <QValidator>
 
 #include <algorithm>
 
@@ -25,6 +29,19 @@ QPoint heldOnScreen(QPoint place, QSize size) {
           std::clamp(place.y(), area.top(), std::max(area.top(), area.bottom() - size.height()))};
 }
 
+/// A pasted text may hold line breaks, which would tear the lines of a file apart.
+class SingleLine : public QValidator {
+public:
+  using QValidator::QValidator;
+
+  State validate(QString &input, int &) const override {
+    input.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
+    input.replace(QLatin1Char('\n'), QLatin1Char(' '));
+    input.replace(QLatin1Char('\r'), QLatin1Char(' '));
+    return Acceptable;
+  }
+};
+
 } // namespace
 
 Screen::Screen(Desk &desk, const QString &name, int row) : m_desk(desk), m_row(row) {
@@ -41,6 +58,8 @@ void Screen::setUp() {
     combo->setFocusPolicy(Qt::StrongFocus);
     combo->installEventFilter(this);
   }
+  for (auto *field : findChildren<QLineEdit *>())
+    field->setValidator(new SingleLine(field));
   if (m_row > 0)
     takePlace();
 }
@@ -56,6 +75,11 @@ void Screen::onEnter(QWidget *field, std::function<void()> action) {
 void Screen::onReturn(QWidget *control, std::function<void()> action) {
   m_return[control] = std::move(action);
   control->installEventFilter(this);
+}
+
+void Screen::enterField(QLineEdit *field) {
+  field->setFocus();
+  field->selectAll();
 }
 
 void Screen::setControlEnabled(QWidget *control, bool enabled, QWidget *instead) {
@@ -74,7 +98,7 @@ void Screen::takePlace() {
   const int left = m_desk.places().FensterLeft[m_row];
   const int top = m_desk.places().FensterTop[m_row];
   if (left != 0 || top != 0)
-    move(heldOnScreen({left / UnitsAPixel, top / UnitsAPixel}, size()));
+    move(heldOnScreen({left / UnitsAPixel, top / UnitsAPixel}, size().expandedTo(sizeHint())));
 }
 
 // A screen that was never visible leaves its row alone.
@@ -106,8 +130,11 @@ void Screen::hideEvent(QHideEvent *event) {
 }
 
 bool Screen::event(QEvent *event) {
-  if (event->type() == QEvent::WindowActivate && isVisible() && !testAttribute(Qt::WA_ShowWithoutActivating))
+  if (event->type() == QEvent::WindowActivate && isVisible() && !testAttribute(Qt::WA_ShowWithoutActivating)) {
+    for (auto *list : findChildren<LineList *>())
+      list->aim();
     m_desk.activate(*this);
+  }
   return QWidget::event(event);
 }
 
@@ -130,7 +157,7 @@ bool Screen::pressReturn(QObject *watched) {
     action();
     return true;
   }
-  if (auto *button = qobject_cast<QAbstractButton *>(watched)) {
+  if (auto *button = qobject_cast<QPushButton *>(watched)) {
     button->click();
     return true;
   }

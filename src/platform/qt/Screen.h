@@ -6,6 +6,7 @@
 #include <functional>
 
 class Desk;
+class QLineEdit;
 
 /// Base of all screens, which are top-level windows. It does for each of them: the window's place in the table of
 /// places, storing a field when the focus leaves it (see FieldGuard), Enter and the blank key, the order of closing,
@@ -39,6 +40,9 @@ protected:
   void onEnter(QWidget *field, std::function<void()> action);
   /// What Enter does in a control that has the focus. On buttons it presses them without this.
   void onReturn(QWidget *control, std::function<void()> action);
+
+  /// Puts the focus into a field as Tab does: what is typed next takes the place of what is there.
+  static void enterField(QLineEdit *field);
 
   /// Disables or hides a control; if it has the focus, that goes to `instead` first, so that no other field is entered
   /// and left by it.
