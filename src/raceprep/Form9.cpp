@@ -1,12 +1,13 @@
 #include "raceprep/Form9.h"
 
+#include "platform/Numbers.h"
 #include "raceprep/RaceRegister.h"
 #include "ui_Form9.h"
 
 Form9::Form9(Desk &desk, Store &store) : Screen(desk, QStringLiteral("Form9"), 9), ui(std::make_unique<Ui::Form9>()) {
   ui->setupUi(this);
   setUp();
-  ui->Label1->setText(store.Rennen.RennenName);
+  ui->Label1->setText(shownText(store.Rennen.RennenName));
   connect(ui->Command1, &QPushButton::clicked, this, [this, &store] {
     rennenLoeschen(store);
     Q_EMIT geloescht();
