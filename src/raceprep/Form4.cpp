@@ -91,6 +91,7 @@ void Form4::geloeschtZeigen() {
 void Form4::openRace() {
   rennenOeffnen(m_store, ui->Text1->text());
   ui->Text2->setText(m_store.Rennen.RennenName);
+  ui->Text2->setCursorPosition(0); // a long name shows its beginning
 }
 
 void Form4::nextRace() {
