@@ -17,10 +17,6 @@ struct Strike {
   const char *struck;
 };
 
-void PrintTo(const Strike &strike, std::ostream *out) {
-  *out << strike.what;
-}
-
 constexpr int Absent = 99;
 
 void setRuns(Store &store, int person, const QList<Run> &runs) {
@@ -32,11 +28,6 @@ void setRuns(Store &store, int person, const QList<Run> &runs) {
   }
 }
 
-class CupStrikeTest : public testing::TestWithParam<Strike> {
-protected:
-  TestStore test;
-};
-
 class CupScoringTest : public testing::Test {
 protected:
   TestStore test;
@@ -45,28 +36,26 @@ protected:
 
 } // namespace
 
-TEST_P(CupStrikeTest, strikes) {
-  setRuns(test.store, 1, GetParam().runs);
-  test.store.CupStreich(1, 1) = 1; // of an earlier evaluation
-  resultateStreichen(test.store, 1, GetParam().count);
-  std::string struck;
-  for (int round = 1; round <= test.store.CupRunden; ++round)
-    struck += test.store.CupStreich(1, round) == 1 ? 'X' : '.';
-  EXPECT_EQ(struck, GetParam().struck);
+TEST_F(CupScoringTest, strikes) {
+  const Strike cases[] = {
+      {"nothing", {{1, 50}, {9, 60}}, 0, ".."},
+      {"the absence before a bad place", {{1, 50}, {Absent, 0, 1}, {70, 40}}, 1, ".X."},
+      {"a dis", {{0, 0, 3}, {1, 50}, {2, 60}}, 1, "X.."},
+      {"the last of two missed", {{Absent, 0, 1}, {1, 50}, {0, 0, 2}}, 1, "..X"},
+      {"both missed, then the worst place", {{Absent, 0, 1}, {3, 50}, {0, 0, 2}, {2, 60}}, 3, "XXX."},
+      {"the slower of equal places", {{1, 70}, {5, 50}, {5, 60}}, 1, "..X"},
+      {"the first of equal places and times", {{5, 60}, {5, 60}}, 1, "X."},
+      {"nothing without a time", {{0, 0}, {0, 0}}, 1, ".."},
+      {"all", {{1, 50}, {2, 50}, {3, 50}}, 3, "XXX"}};
+  for (const auto &[what, runs, count, expected] : cases) {
+    setRuns(store, 1, runs); // what the case before struck is taken back
+    resultateStreichen(store, 1, count);
+    std::string struck;
+    for (int round = 1; round <= store.CupRunden; ++round)
+      struck += store.CupStreich(1, round) == 1 ? 'X' : '.';
+    EXPECT_EQ(struck, expected) << what;
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Rules, CupStrikeTest,
-    testing::Values(Strike{"nothing", {{1, 50}, {9, 60}}, 0, ".."},
-                    Strike{"the absence before a bad place", {{1, 50}, {Absent, 0, 1}, {70, 40}}, 1, ".X."},
-                    Strike{"a dis", {{0, 0, 3}, {1, 50}, {2, 60}}, 1, "X.."},
-                    Strike{"the last of two missed", {{Absent, 0, 1}, {1, 50}, {0, 0, 2}}, 1, "..X"},
-                    Strike{
-                        "both missed, then the worst place", {{Absent, 0, 1}, {3, 50}, {0, 0, 2}, {2, 60}}, 3, "XXX."},
-                    Strike{"the slower of equal places", {{1, 70}, {5, 50}, {5, 60}}, 1, "..X"},
-                    Strike{"the first of equal places and times", {{5, 60}, {5, 60}}, 1, "X."},
-                    Strike{"nothing without a time", {{0, 0}, {0, 0}}, 1, ".."},
-                    Strike{"all", {{1, 50}, {2, 50}, {3, 50}}, 3, "XXX"}));
 
 TEST_F(CupScoringTest, pointsComeFromTheTableAndNotForStruckOrMissedResults) {
   store.CupPunkteTabelle[1] = 20;
@@ -82,8 +71,7 @@ TEST_F(CupScoringTest, pointsComeFromTheTableAndNotForStruckOrMissedResults) {
 }
 
 TEST_F(CupScoringTest, personsStandByClassThenTotalThenName) {
-  const QStringList names{QStringLiteral("Zorn"), QStringLiteral("Adam"), QStringLiteral("Berg"),
-                          QStringLiteral("Cerny"), QStringLiteral("Dorn")};
+  const QStringList names = QStringLiteral("Zorn Adam Berg Cerny Dorn").split(QLatin1Char(' '));
   const int klassen[]{0, 0, 0, 24, 0}, totals[]{30, 5, 30, 40, 0};
   for (int person = 1; person <= 5; ++person) {
     store.CupKlasse[person] = klassen[person - 1];

