@@ -12,13 +12,13 @@
 #include <QMouseEvent>
 
 #include <algorithm>
-#include <limits>
 
 Form20::Form20(Desk &desk, Store &store, Printers &printers)
     : Screen(desk, QStringLiteral("Form20"), 20), m_store(store), m_printers(printers),
       ui(std::make_unique<Ui::Form20>()), m_openRace(store.AktRennen) {
   ui->setupUi(this);
   setUp();
+  ui->List5->showWholeLines();
   load();
   connectControls();
   ui->List1->setFocus();
@@ -83,11 +83,10 @@ void Form20::placeChanged() {
 
 void Form20::pointsChanged() {
   lockPrint();
-  const qint64 points = wholeNumber(ui->Text2->text());
-  using Limits = std::numeric_limits<qint16>;
-  if (points < Limits::min() || points > Limits::max())
-    return m_store.umgebung.piep();
-  m_store.CupPunkteTabelle[place()] = qint16(points);
+  if (const auto points = shortNumber(ui->Text2->text()))
+    m_store.CupPunkteTabelle[place()] = *points;
+  else
+    m_store.umgebung.piep();
 }
 
 void Form20::nextPlace() {
@@ -113,6 +112,7 @@ void Form20::evaluate() {
 // One print for each evaluation.
 void Form20::print() {
   lockPrint();
+  repaint();
   runPrinting(this, [this] {
     Druckschicht druck(m_printers);
     Cupliste(m_store, druck, {ui->Text4->text(), ui->Check1->isChecked(), ui->List4->lines()});

@@ -32,6 +32,7 @@ void zweitenLaufStreichen(Store &store) {
     store.Teilnehmer[row].Zeit2 = 0;
     store.Teilnehmer[row].Status2 = 0;
   }
+  store.TabellenRennen = -1; // no longer what the files of the race keep
 }
 
 void zweitenLaufVorziehen(Store &store) {

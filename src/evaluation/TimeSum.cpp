@@ -1,6 +1,5 @@
 #include "evaluation/TimeSum.h"
 
-#include "core/Participants.h"
 #include "core/RaceFiles.h"
 #include "core/RecordFiles.h"
 #include "core/SingleTimes.h"

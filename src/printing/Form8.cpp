@@ -97,6 +97,7 @@ std::optional<int> Form8::clubFilter() const {
 }
 
 void Form8::print(const std::function<void(Druckschicht &)> &document) {
+  repaint(); // the disabled button shows while the document is made
   runPrinting(this, [this, &document] {
     Druckschicht druck(m_printers);
     document(druck);

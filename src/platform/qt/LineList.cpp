@@ -37,7 +37,7 @@ public:
     const QString line = index.data().toString();
     const auto start = numberStart(line);
     QStyledItemDelegate::paint(painter, option, index);
-    if (!start || hidesNumbers)
+    if (!start || numbers != Numbers::Pale)
       return;
     const QRect area = option.rect.adjusted(0, 0, -6, 0);
     if (option.fontMetrics.horizontalAdvance(trimmedBlanks(line.left(*start)) + line.mid(*start - 1)) > area.width())
@@ -51,12 +51,12 @@ public:
     painter->setOpacity(1);
   }
 
-  bool hidesNumbers = false;
+  enum class Numbers { Pale, Hidden, PartOfTheLine } numbers = Numbers::Pale;
 
 protected:
   void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
-    if (const auto start = numberStart(option->text))
+    if (const auto start = numberStart(option->text); start && numbers != Numbers::PartOfTheLine)
       option->text = option->text.left(*start);
     option->text = shownText(option->text);
   }
@@ -103,7 +103,11 @@ void LineList::refill(QStringList lines, int number) {
 }
 
 void LineList::hideNumbers() {
-  static_cast<LineDelegate *>(itemDelegate())->hidesNumbers = true;
+  static_cast<LineDelegate *>(itemDelegate())->numbers = LineDelegate::Numbers::Hidden;
+}
+
+void LineList::showWholeLines() {
+  static_cast<LineDelegate *>(itemDelegate())->numbers = LineDelegate::Numbers::PartOfTheLine;
 }
 
 void LineList::choose(int line) {

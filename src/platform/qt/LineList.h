@@ -32,6 +32,8 @@ public:
   void refill(QStringList lines, int number);
   /// The numbers at the end of the lines are not painted at all.
   void hideNumbers();
+  /// Lines that end in a value of their own, which stays where it stands.
+  void showWholeLines();
   /// Highlights a line (from 0; −1 = none) without `chosen`, and scrolls to it.
   void choose(int line);
   /// Highlights the line that ends in `number`; none if there is none.

@@ -6,8 +6,8 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFontMetrics>
-#include <QLabel>
 #include <QFrame>
+#include <QLabel>
 #include <QLibraryInfo>
 #include <QLineEdit>
 #include <QPushButton>

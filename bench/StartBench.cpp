@@ -1,0 +1,87 @@
+// From the start to the painted menu with 30,000 athletes and 200 races on disk, and beside it an empty window.
+
+#include "Programm.h"
+#include "core/RaceFiles.h"
+#include "core/RecordFiles.h"
+#include "core/Safety.h"
+#include "core/Start.h"
+#include "platform/Files.h"
+#include "platform/Numbers.h"
+#include "platform/qt/Look.h"
+
+#include <QApplication>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+constexpr int Athletes = 30'000, Races = 200, Rows = 300;
+
+/// A data folder as after many seasons.
+struct LargeFolder {
+  LargeFolder() {
+    Umgebung umgebung;
+    Store store(umgebung);
+    store.DatenOrdner = path();
+    storeStarten(store);
+    alleDateienOeffnen(store);
+    for (store.LaeuferIdx = 1; store.LaeuferIdx <= Athletes; ++store.LaeuferIdx) {
+      store.Laeufer.Name = QStringLiteral("MÜLLER Vorname") + plainText(store.LaeuferIdx);
+      LaeuferSchreiben(store);
+    }
+    for (int row = 1; row <= Rows; ++row)
+      store.Teilnehmer[row].LaeuferNr = row;
+    for (store.RennenIdx = 1; store.RennenIdx <= Races; ++store.RennenIdx) {
+      store.Rennen.RennenName = QStringLiteral("Rennen ") + plainText(store.RennenIdx);
+      RennenSchreiben(store);
+      for (const auto &file : raceFiles(store))
+        writeFile(raceFileName(store, file.letter, store.RennenIdx), file.bytes);
+    }
+  }
+  QString path() const { return folder.path() + QLatin1Char('/'); }
+
+  QTemporaryDir folder;
+};
+
+void emptyWindow(benchmark::State &state) {
+  for ([[maybe_unused]] auto _ : state) {
+    QWidget window;
+    window.show();
+    benchmark::DoNotOptimize(QTest::qWaitForWindowExposed(&window));
+    QCoreApplication::processEvents();
+  }
+}
+
+void startToMenu(benchmark::State &state) {
+  static const LargeFolder data;
+  for ([[maybe_unused]] auto _ : state) {
+    Umgebung umgebung;
+    Store store(umgebung);
+    store.DatenOrdner = data.path();
+    Safety safety(store);
+    benchmark::DoNotOptimize(safety.findRescue());
+    storeStarten(store);
+    Printers printers([] { return SystemPrinters(); }, {});
+    Programm programm(store, printers);
+    programm.start();
+    benchmark::DoNotOptimize(QTest::qWaitForWindowExposed(QApplication::topLevelWidgets().first()));
+    QCoreApplication::processEvents();
+  }
+}
+
+BENCHMARK(emptyWindow)->Unit(benchmark::kMillisecond);
+BENCHMARK(startToMenu)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char **argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QStandardPaths::setTestModeEnabled(true);
+  QApplication application(argc, argv);
+  Look::apply(application);
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+}
