@@ -12,7 +12,6 @@
 namespace {
 
 constexpr int RowsAPage = 52;
-constexpr int SectionLength = 3;
 
 /// Counts the rows of a list and breaks its pages; a new page begins in row 1.
 class CountedPages {
@@ -41,11 +40,6 @@ private:
   QList<Spaltenkopf> m_spalten;
   int m_page = 0, m_line = 0;
 };
-
-void begin(const Store &store, Druckschicht &druck, const Listenkopf &kopf) {
-  druck.ScaleMode = Druckschicht::Scale::Millimetres;
-  druck.DocName(kopf.name, store.AktRennen);
-}
 
 QString sexText(const Store &store) {
   return store.Laeufer.Geschlecht == 1 ? QStringLiteral("m") : QStringLiteral("w");
@@ -104,7 +98,7 @@ QList<Spaltenkopf> unrankedHeads(const Store &store) {
 
 void StartlisteZweiterDurchgang(Store &store, Druckschicht &druck) {
   const Listenkopf &kopf = Listenkoepfe::startlisteZweiterDurchgang();
-  begin(store, druck, kopf);
+  Listenanfang(store, druck, kopf);
   Rangfolge1(store);
   const QStringList lines = SortierListe(store, [&store](int row) {
     const auto &participant = store.Teilnehmer[row];
@@ -116,7 +110,7 @@ void StartlisteZweiterDurchgang(Store &store, Druckschicht &druck) {
     const auto &participant = store.Teilnehmer[sortierReihe(line)];
     if (participant.StartNr == 0)
       break;
-    if (const int section = int(wholeNumber(QStringView(line).left(SectionLength))); section != lastSection) {
+    if (const int section = abschnittOf(line); section != lastSection) {
       lastSection = section;
       const double y = gitterY(pages.next()) + 2;
       druck.Line(20, y, 190, y);
@@ -129,7 +123,7 @@ void StartlisteZweiterDurchgang(Store &store, Druckschicht &druck) {
 
 void NichtInDerWertung(Store &store, Druckschicht &druck) {
   const Listenkopf &kopf = Listenkoepfe::nichtInDerWertung();
-  begin(store, druck, kopf);
+  Listenanfang(store, druck, kopf);
   const QStringList lines = SortierListe(store, [&store](int row) {
     const auto &participant = store.Teilnehmer[row];
     return participant.Status1 + participant.Status2 != 0 ? masked(participant.StartNr, "0###") + store.Laeufer.Name

@@ -9,7 +9,6 @@
 
 PrintItem::PrintItem(const QString &text) : m_text(shownText(text)) {}
 PrintItem::PrintItem(int number) : m_text(spacedText(number) + QLatin1Char(' ')) {}
-PrintItem::PrintItem(double number) : m_text(spacedText(number) + QLatin1Char(' ')) {}
 
 void Druckschicht::DocName(const QString &name, int race) {
   m_recording.name = name;

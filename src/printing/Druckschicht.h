@@ -11,7 +11,7 @@ class PrintItem {
 public:
   PrintItem(const QString &text);
   PrintItem(int number);
-  PrintItem(double number);
+  PrintItem(double) = delete; // every number on paper is whole
   const QString &text() const { return m_text; }
 
 private:

@@ -16,7 +16,6 @@ namespace {
 
 // The preview shows the page from 163 mm down, 202 × 126 mm.
 constexpr double PageTop = 163, PageWidth = 202, PageHeight = 126;
-constexpr double LeftEdge = 20, RightEdge = 185, LineY = 228, TextY = 229;
 constexpr double DotsAMillimetre = 96 / 25.4; // before the desktop's scale
 
 } // namespace
@@ -50,14 +49,15 @@ void Form21::makePage() {
   auto *line = new QFrame(ui->Image3);
   line->setObjectName(QStringLiteral("Line1"));
   Look::setGround(line, Qt::black);
-  line->setGeometry(pixels(LeftEdge), pixels(LineY - PageTop), pixels(RightEdge - LeftEdge), 2);
+  line->setGeometry(pixels(Titelfuss::Links), pixels(Titelfuss::LinieY - PageTop),
+                    pixels(Titelfuss::Rechts - Titelfuss::Links), 2);
   auto *text = new QLabel(QStringLiteral("Mit freundlicher Unterstützung von"), ui->Image3);
   text->setObjectName(QStringLiteral("Label5"));
   QFont font(QStringLiteral("Times"), 8);
   font.setBold(true);
   text->setFont(font);
   text->adjustSize();
-  text->move(pixels(PageWidth / 2) - text->width() / 2, pixels(TextY - PageTop));
+  text->move(pixels(PageWidth / 2) - text->width() / 2, pixels(Titelfuss::TextY - PageTop));
 }
 
 void Form21::makeRow(int i) {

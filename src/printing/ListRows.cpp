@@ -36,6 +36,11 @@ QString rechtsbuendig(int number, int width) {
   return rightAligned(plainText(number), width);
 }
 
+int abschnittOf(const QString &line) {
+  constexpr int keyLength = 3;
+  return int(wholeNumber(QStringView(line).left(keyLength)));
+}
+
 bool seiteVoll(const Druckschicht &druck, int zeilenNr, double limit) {
   return zeilenNr > RowsBeforeABreak && double(druck.CurrentY) > limit;
 }

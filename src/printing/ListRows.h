@@ -24,6 +24,11 @@ QString Vereinstext(Store &store, const TeilnehmerZeile &participant, bool orLon
 /// Right-aligned number of three or four characters; a longer one loses its front.
 QString rechtsbuendig(int number, int width);
 
+/// The class or group that a sort line begins with.
+int abschnittOf(const QString &line);
+
+/// Where a page ends for the head of a section and for a row, millimetres.
+constexpr double BandLimit = 240, RowLimit = 265;
 /// The break by position: a page that has begun is full when the last print ended below `limit` millimetres.
 bool seiteVoll(const Druckschicht &druck, int zeilenNr, double limit);
 

@@ -9,9 +9,6 @@
 
 namespace {
 
-constexpr double BandLimit = 240, RowLimit = 265; // millimetres
-constexpr int SectionLength = 3;
-
 /// One printing of "Teilnehmerliste": sections by class, each in the order of the start numbers.
 class ClassedList {
 public:
@@ -45,7 +42,7 @@ private:
 
   // The number starts at 0, so a first section 000 has no band; this is meant.
   void markSection(TeilnehmerZeile &participant, const QString &line) {
-    const int section = int(wholeNumber(QStringView(line).left(SectionLength)));
+    const int section = abschnittOf(line);
     participant.KlasseKopf = section != m_section ? 1 : 0;
     m_section = section;
   }
@@ -107,15 +104,10 @@ void printAlphabeticRow(Store &store, Druckschicht &druck, const TeilnehmerZeile
   druck.Box(20, gitterY(zeilenNr) - 0.5, 190, gitterY(zeilenNr + 1) - 0.5);
 }
 
-void begin(Store &store, Druckschicht &druck, const Listenkopf &kopf) {
-  druck.ScaleMode = Druckschicht::Scale::Millimetres;
-  druck.DocName(kopf.name, store.AktRennen);
-}
-
 } // namespace
 
 void Teilnehmerliste(Store &store, Druckschicht &druck) {
-  begin(store, druck, Listenkoepfe::teilnehmerliste());
+  Listenanfang(store, druck, Listenkoepfe::teilnehmerliste());
   ClassedList(store, druck).print(SortierListe(store, [&store](int row) {
     const auto &participant = store.Teilnehmer[row];
     return Reihungsschluessel(store, participant) + masked(participant.StartNr, "0###") + store.Laeufer.Name;
@@ -123,7 +115,7 @@ void Teilnehmerliste(Store &store, Druckschicht &druck) {
 }
 
 void AlphabetischeListe(Store &store, Druckschicht &druck) {
-  begin(store, druck, Listenkoepfe::alphabetischeListe());
+  Listenanfang(store, druck, Listenkoepfe::alphabetischeListe());
   int page = 0, zeilenNr = 0;
   const QStringList lines = SortierListe(store, [&store](int) { return store.Laeufer.Name; });
   printAlphabeticHead(store, druck, page);

@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr double BandLimit = 240, RowLimit = 265; // millimetres
 constexpr double BandX = 79, CombinedBandX = 65;
 constexpr double RemarkX = 180;
 
@@ -22,8 +21,7 @@ public:
       : m_store(store), m_druck(druck), m_combined(combined), m_club(std::move(club)) {}
 
   void print() {
-    m_druck.ScaleMode = Druckschicht::Scale::Millimetres;
-    m_druck.DocName(listHead().name, m_store.AktRennen);
+    Listenanfang(m_store, m_druck, listHead());
     printHead();
     for (int k = 1; k <= 1000; ++k) {
       const auto &participant = m_store.Teilnehmer[m_store.RangListe[k]];

@@ -96,10 +96,10 @@ void printSignatures(Druckschicht &druck, bool banners) {
 void printFoot(const Store &store, Druckschicht &druck, bool banners) {
   druck.DrawWidth = 5;
   if (banners)
-    druck.Line(20, 228, 185, 228);
+    druck.Line(Titelfuss::Links, Titelfuss::LinieY, Titelfuss::Rechts, Titelfuss::LinieY);
   druck.FontBold = true;
   druck.FontSize = 8;
-  druck.CurrentY = 229;
+  druck.CurrentY = float(Titelfuss::TextY);
   if (banners)
     MitteDrucken(druck, QStringLiteral("Mit freundlicher Unterstützung von"));
   druck.FontBold = false;

@@ -23,6 +23,11 @@ namespace WerbeGrenzen {
 constexpr WerbeGrenze rechts{0, 183}, runter{233, 283}, groesse{10, 800};
 } // namespace WerbeGrenzen
 
+/// Where the foot of the title page begins, millimetres: its line, its heading, and the edges of the page's content.
+namespace Titelfuss {
+constexpr double Links = 20, Rechts = 185, LinieY = 228, TextY = 229;
+} // namespace Titelfuss
+
 using Werbung = std::array<Werbebanner, 8>;
 
 /// The banners as werbung.dat has them, within their ranges; without the file the built-in ones.
