@@ -65,13 +65,14 @@ TEST_F(StartNumbers, NobodyIsLeftOutOfTheDraw) {
     for (int row = 1; row <= 1000; row += 1 + int(random() % 60)) {
       store.Teilnehmer[row].LaeuferNr = 1 + int(random() % 60);
       store.Teilnehmer[row].KlasseReihe = int(random() % 4);
+      store.Teilnehmer[row].StartNr = -7;
     }
     store.LaeuferIdx = 33;
     nummernAuslosen(store, 0);
     QList<int> given;
     for (int row = 1; row <= 1000; ++row) {
-      if (store.Teilnehmer[row].LaeuferNr % 8 == 0) // nobody, or without a name
-        EXPECT_EQ(store.Teilnehmer[row].StartNr, 0) << row;
+      if (store.Teilnehmer[row].LaeuferNr % 8 == 0) // nobody, or without a name: keeps the number
+        EXPECT_EQ(store.Teilnehmer[row].StartNr, store.Teilnehmer[row].LaeuferNr == 0 ? 0 : -7) << row;
       else
         given.append(store.Teilnehmer[row].StartNr);
     }
