@@ -9,19 +9,25 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
 namespace {
 
-class ProgrammTest : public testing::Test {
+class ProgrammTest : public StoreTest {
 protected:
   ~ProgrammTest() override { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
 
-  void start() {
-    programm = std::make_unique<Programm>(test.store, *printers.printers);
+  /// Starts over a store with these races, shows the register and presses a button of it.
+  void start(std::initializer_list<const char *> races, const char *button = nullptr) {
+    for (const char *race : races)
+      test.addRace(QLatin1String(race));
+    store.AktRennen = store.RennenIdx = 0;
+    programm = std::make_unique<Programm>(store, *printers.printers);
     programm->start();
+    press("Form1", "Command3");
+    if (button != nullptr)
+      press("Form4", button);
   }
   Screen *window(const char *name) {
     for (auto *widget : QApplication::topLevelWidgets())
@@ -33,7 +39,7 @@ protected:
     return window(screen)->findChild<T *>(QLatin1String(name));
   }
   void press(const char *screen, const char *button) {
-    QTest::mouseClick(control<QPushButton>(screen, button), Qt::LeftButton);
+    QTest::mouseClick(control<QAbstractButton>(screen, button), Qt::LeftButton);
   }
   void chooseLine(const char *screen, const char *name, int line) {
     auto *list = control<LineList>(screen, name);
@@ -47,53 +53,46 @@ protected:
     names.sort();
     return names.join(QLatin1Char(' ')).toStdString();
   }
-  QString text(const char *screen, const char *box) { return control<QLineEdit>(screen, box)->text(); }
+  /// Number and name of the race in the register.
+  std::string race() {
+    return (control<QLineEdit>("Form4", "Text1")->text() + control<QLineEdit>("Form4", "Text2")->text()).toStdString();
+  }
 
-  TestStore test;
   FakePrinters printers;
   std::unique_ptr<Programm> programm;
 };
 
 TEST_F(ProgrammTest, TheRegisterTakesThePlaceOfTheMenuAndKeepsTheOpenRace) {
-  test.addRace(QStringLiteral("Slalom"));
-  test.addRace(QStringLiteral("Abfahrt"));
-  test.store.AktRennen = test.store.RennenIdx = 0;
-  start();
-  press("Form1", "Command3");
+  start({"Slalom", "Abfahrt"});
   EXPECT_EQ(visible(), "Form4");
-  EXPECT_EQ(text("Form4", "Text2"), QStringLiteral("Abfahrt"));
+  EXPECT_EQ(race(), "2Abfahrt");
   EXPECT_EQ(test.beeps, 1); // race 0 is read while the list is filled for the first time
   press("Form4", "Command2");
   press("Form4", "Command1");
   EXPECT_EQ(visible(), "Form1");
   press("Form1", "Command3");
-  EXPECT_EQ(text("Form4", "Text2"), QStringLiteral("Slalom"));
+  EXPECT_EQ(race(), "1Slalom");
   window("Form4")->close();
   EXPECT_EQ(visible(), "Form1");
 }
 
 TEST_F(ProgrammTest, ADeletedRaceStaysOpenAsLeer) {
-  test.addRace(QStringLiteral("Slalom"));
-  RennDatenSpeichern(test.store);
-  start();
-  press("Form1", "Command3");
-  press("Form4", "Command9");
-  EXPECT_EQ(visible(), "Form9");
-  press("Form9", "Command2");
-  EXPECT_TRUE(test.hasFile(QStringLiteral("R 1.dat")));
-  press("Form4", "Command9");
-  press("Form9", "Command1");
-  EXPECT_EQ(visible(), "Form4");
-  EXPECT_FALSE(test.hasFile(QStringLiteral("R 1.dat")));
-  EXPECT_EQ(text("Form4", "Text1") + text("Form4", "Text2"), QStringLiteral("1leer"));
-  EXPECT_TRUE(control<LineList>("Form4", "List1")->lines().isEmpty());
+  start({"Slalom"});
+  RennDatenSpeichern(store);
+  for (const auto &[answer, kept] : {std::pair("Command2", true), {"Command1", false}}) {
+    press("Form4", "Command9");
+    EXPECT_EQ(visible(), "Form9");
+    press("Form9", answer);
+    EXPECT_EQ(visible(), "Form4");
+    EXPECT_EQ(race(), kept ? "1Slalom" : "1leer");
+    EXPECT_EQ(test.hasFile(QStringLiteral("K 1.lst")), kept);
+    EXPECT_EQ(control<LineList>("Form4", "List1")->lines().size(), kept);
+  }
 }
 
 // Every button opens its screen in the place of the register, and closing that brings the register back.
 TEST_F(ProgrammTest, EachFunctionComesBackToTheRegister) {
-  test.addRace(QStringLiteral("Slalom"));
-  start();
-  press("Form1", "Command3");
+  start({"Slalom"});
   const std::pair<const char *, const char *> functions[] = {
       {"Command4", "Form5"},   {"Command5", "Form6"},   {"Command6", "Form7"},   {"Command8", "Form8"},
       {"Command10", "Form11"}, {"Command11", "Form12"}, {"Command12", "Form16"}, {"Command13", "Form10"},
@@ -113,10 +112,8 @@ TEST_F(ProgrammTest, EachFunctionComesBackToTheRegister) {
 TEST_F(ProgrammTest, ScreensBesideTheTimingCloseWithIt) {
   test.addRace(QStringLiteral("Slalom"));
   test.enter(test.addAthlete(QStringLiteral("BERGER Eva"), 2000, 0), 1);
-  RennDatenSpeichern(test.store);
-  start();
-  press("Form1", "Command3");
-  press("Form4", "Command6");
+  RennDatenSpeichern(store);
+  start({}, "Command6");
   chooseLine("Form7", "List2", 0);
   QTest::mouseClick(control<QAbstractButton>("Form7", "Check1"), Qt::LeftButton, {}, {8, 8});
   press("Form7", "Command7");
@@ -128,13 +125,9 @@ TEST_F(ProgrammTest, ScreensBesideTheTimingCloseWithIt) {
   EXPECT_EQ(visible(), "Form4");
 }
 
-TEST_F(ProgrammTest, TheParticipantListTakesItsScreensAlongAndCommitsTheirFields) {
-  test.addRace(QStringLiteral("Slalom"));
+TEST_F(ProgrammTest, TheParticipantListTakesItsScreensAlong) {
   test.addAthlete(QStringLiteral("BERGER Eva"), 2000, 0);
-  start();
-  press("Form1", "Command3");
-  press("Form4", "Command4");
-  QTest::keyClicks(control<QLineEdit>("Form5", "Text1"), QStringLiteral("Moser"));
+  start({"Slalom"}, "Command4");
   press("Form5", "Command5");
   EXPECT_EQ(visible(), "Form3 Form5");
   window("Form5")->close();
@@ -142,51 +135,45 @@ TEST_F(ProgrammTest, TheParticipantListTakesItsScreensAlongAndCommitsTheirFields
 }
 
 TEST_F(ProgrammTest, AGeneratedRaceIsOpenedFromTheMenu) {
-  test.addRace(QStringLiteral("Slalom"));
-  test.addRace(QStringLiteral("Abfahrt"));
-  start();
-  press("Form1", "Command3");
-  press("Form4", "Command18");
+  start({"Slalom", "Abfahrt"}, "Command18");
   chooseLine("Form19", "List1", 0);
   chooseLine("Form19", "List1", 1);
   press("Form19", "Command2");
   EXPECT_EQ(visible(), "Form1");
   press("Form1", "Command3");
-  EXPECT_EQ(text("Form4", "Text1") + text("Form4", "Text2"), QStringLiteral("3Kombilauf"));
+  EXPECT_EQ(race(), "3Kombilauf");
 }
 
 TEST_F(ProgrammTest, TheReminderFollowsTheSaves) {
-  test.addRace(QStringLiteral("Slalom"));
-  start();
+  start({"Slalom"});
   const int row = test.enter(test.addAthlete(QStringLiteral("BERGER Eva"), 2000, 2));
-  RennDatenSpeichern(test.store);
-  RennDatenSpeichern(test.store);
-  EXPECT_EQ(visible(), "Form1 Form17");
+  RennDatenSpeichern(store);
+  RennDatenSpeichern(store);
+  EXPECT_EQ(visible(), "Form17 Form4");
   EXPECT_EQ(control<LineList>("Form17", "List1")->lines(), QStringList{QStringLiteral("1   BERGER Eva m/w ?")});
   window("Form17")->close();
-  RennDatenSpeichern(test.store); // closed by hand and wanted again at once
+  RennDatenSpeichern(store); // closed by hand and wanted again at once
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  EXPECT_EQ(visible(), "Form1 Form17");
-  test.store.Teilnehmer[row].LaeuferNr = 0;
-  RennDatenSpeichern(test.store);
-  EXPECT_EQ(visible(), "Form1");
+  EXPECT_EQ(visible(), "Form17 Form4");
+  store.Teilnehmer[row].LaeuferNr = 0;
+  RennDatenSpeichern(store);
+  EXPECT_EQ(visible(), "Form4");
 }
 
 TEST_F(ProgrammTest, OnlyTheMenuEndsTheProgramAlsoBesideTheReminder) {
-  start();
+  start({});
   test.umgebung.erinnern({QStringLiteral("1")});
-  press("Form1", "Command3");
-  int ended = 0;
+  bool stillRuns = false;
   QTimer::singleShot(0, [&] {
     window("Form4")->close();
     EXPECT_EQ(visible(), "Form1 Form17");
-    ended = 1;
+    stillRuns = true;
     press("Form1", "Command4");
   });
   QTimer::singleShot(10000, programm.get(), [] { QCoreApplication::exit(1); });
   EXPECT_EQ(QApplication::exec(), 0);
-  EXPECT_EQ(ended, 1);
-  EXPECT_FALSE(test.store.VereinDatei.isOpen() || test.store.LaeuferDatei.isOpen() || test.store.RennenDatei.isOpen());
+  EXPECT_TRUE(stillRuns);
+  EXPECT_FALSE(store.VereinDatei.isOpen() || store.LaeuferDatei.isOpen() || store.RennenDatei.isOpen());
 }
 
 } // namespace

@@ -8,7 +8,7 @@
 
 namespace {
 
-void readAthlete(Store &store, qint64 n) {
+void openAthlete(Store &store, qint64 n) {
   LaeuferLeeren(store);
   store.LaeuferIdx = int(n);
   LaeuferLesen(store);
@@ -18,11 +18,11 @@ void readAthlete(Store &store, qint64 n) {
 
 void openLastAthlete(Store &store) {
   store.LaeuferAnzahl = std::max(store.LaeuferAnzahl, 1);
-  readAthlete(store, store.LaeuferAnzahl);
+  openAthlete(store, store.LaeuferAnzahl);
 }
 
 void goToAthlete(Store &store, qint64 n) {
-  readAthlete(store, std::min<qint64>(std::max<qint64>(n, 1), store.LaeuferAnzahl));
+  openAthlete(store, std::min<qint64>(std::max<qint64>(n, 1), store.LaeuferAnzahl));
 }
 
 bool goToAthleteBefore(Store &store, qint64 shown) {

@@ -7,7 +7,7 @@
 
 namespace {
 
-void readClub(Store &store, qint64 n) {
+void openClub(Store &store, qint64 n) {
   store.VereinIdx = int(n);
   VereinLesen(store);
 }
@@ -17,11 +17,11 @@ void readClub(Store &store, qint64 n) {
 void openLastClub(Store &store) {
   VereinLeeren(store);
   store.VereinAnzahl = std::max(store.VereinAnzahl, 1);
-  readClub(store, store.VereinAnzahl);
+  openClub(store, store.VereinAnzahl);
 }
 
 void goToClub(Store &store, qint64 n) {
-  readClub(store, std::min<qint64>(std::max<qint64>(n, 1), store.VereinAnzahl));
+  openClub(store, std::min<qint64>(std::max<qint64>(n, 1), store.VereinAnzahl));
 }
 
 bool goToClubBefore(Store &store, qint64 shown) {
@@ -48,18 +48,21 @@ bool goToClubBehind(Store &store, qint64 shown, const QString &name) {
 }
 
 void storeClubField(Store &store, int n, QString VereinSatz::*field, const QString &text) {
-  readClub(store, n);
+  openClub(store, n);
   store.Verein.*field = trimmedBlanks(text);
   VereinSchreiben(store);
+}
+
+QString shortNameOfClub(Store &store, int n) {
+  openClub(store, n);
+  return trimmedBlanks(store.Verein.VereinKurz);
 }
 
 QStringList clubChoices(Store &store) {
   const int current = store.VereinIdx;
   QStringList choices{QStringLiteral("?")};
-  for (int n = 1; n <= store.VereinAnzahl; ++n) {
-    readClub(store, n);
-    choices.append(trimmedBlanks(store.Verein.VereinKurz));
-  }
+  for (int n = 1; n <= store.VereinAnzahl; ++n)
+    choices.append(shortNameOfClub(store, n));
   store.VereinIdx = current;
   return choices;
 }

@@ -15,6 +15,8 @@ bool goToClubBefore(Store &store, qint64 shown);
 bool goToClubBehind(Store &store, qint64 shown, const QString &name);
 /// Reads club n anew, changes one field to the trimmed text and writes it.
 void storeClubField(Store &store, int n, QString VereinSatz::*field, const QString &text);
+/// `VereinKurz` of club n, trimmed; the club becomes the current one.
+QString shortNameOfClub(Store &store, int n);
 /// "?" for no club, then `VereinKurz` of each record, also when it is empty: the position is the record number. The
 /// index is restored, the buffer is left at the last record.
 QStringList clubChoices(Store &store);

@@ -1,7 +1,6 @@
 #include "raceprep/ClassOrder.h"
 
 #include "core/Classes.h"
-#include "platform/Numbers.h"
 
 #include <algorithm>
 #include <limits>
@@ -88,11 +87,4 @@ bool numberCell(KlasseNummerRaster &raster, int cell) {
     return false;
   raster[cell] = qint16(number);
   return true;
-}
-
-std::optional<qint16> orderNumber(const QString &text) {
-  const qint64 number = wholeNumber(text);
-  if (number < std::numeric_limits<qint16>::min() || number > Highest)
-    return {};
-  return qint16(number);
 }

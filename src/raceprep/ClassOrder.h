@@ -2,8 +2,6 @@
 
 #include "core/Store.h"
 
-#include <optional>
-
 // The grid in which the exact classes of a race get their order numbers. Its cells run on over the classes in use,
 // eight for each; a cell is the exact class of the same number only as long as no empty row lies inside the class
 // table. Behind such a row the exact names land eight entries too early; this is meant.
@@ -31,5 +29,3 @@ void storeGrid(Store &store, const KlasseNummerRaster &raster);
 void clearGrid(Store &store, KlasseNummerRaster &raster);
 /// Gives a cell without a number (below 1) the highest of all plus 1; false if that is too large for the grid.
 bool numberCell(KlasseNummerRaster &raster, int cell);
-/// A typed order number; nothing if it is too large for the grid.
-std::optional<qint16> orderNumber(const QString &text);

@@ -9,8 +9,6 @@ namespace {
 
 constexpr int FirstYear = 1900;
 constexpr int LastRow = 20;
-// The editor reaches 16 of the 20 rows, the others are filled by the built-in table alone; this is meant.
-constexpr int LastEditable = 16;
 constexpr int NameWidth = 20;
 
 int lastNamedRow(const Store &store) {
@@ -76,7 +74,7 @@ void deleteClass(Store &store, int row) {
 }
 
 int heldClassNumber(const QString &text) {
-  return int(std::clamp<qint64>(wholeNumber(text), 1, LastEditable));
+  return int(std::clamp<qint64>(wholeNumber(text), 1, LastEditableClass));
 }
 
 int heldYear(const Store &store, const QString &text) {

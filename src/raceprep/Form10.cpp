@@ -8,13 +8,6 @@
 
 #include <QSignalBlocker>
 
-namespace {
-
-// Names are typed for these rows only; the rows behind can be looked at and get years. This is meant.
-constexpr int LastNamed = 16;
-
-} // namespace
-
 Form10::Form10(Desk &desk, Store &store)
     : Screen(desk, QStringLiteral("Form10"), 10), m_store(store), ui(std::make_unique<Ui::Form10>()) {
   ui->setupUi(this);
@@ -78,7 +71,7 @@ void Form10::numberChanged() {
 }
 
 void Form10::nameChanged() {
-  if (row() >= 1 && row() <= LastNamed)
+  if (row() >= 1 && row() <= LastEditableClass)
     m_store.KlasseName[row()] = trimmedBlanks(ui->Text6->text());
 }
 

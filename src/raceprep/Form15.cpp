@@ -171,7 +171,7 @@ void Form15::storeName() {
 void Form15::storeNumber() {
   if (selected() < 0)
     return;
-  if (const auto number = orderNumber(ui->Text2->text()))
+  if (const auto number = shortNumber(ui->Text2->text()))
     m_raster[selected()] = *number;
   else
     m_store.umgebung.piep();

@@ -3,6 +3,7 @@
 #include "core/RaceFiles.h"
 #include "core/RecordFiles.h"
 #include "core/Start.h"
+#include "masterdata/ClubRegister.h"
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
 #include "platform/qt/Look.h"
@@ -189,11 +190,7 @@ void Form6::fillClubs(int position) {
 }
 
 QString Form6::clubName(int club) {
-  if (club < 1 || club > m_store.VereinAnzahl)
-    return QStringLiteral("nicht belegt");
-  m_store.VereinIdx = club;
-  VereinLesen(m_store);
-  return trimmedBlanks(m_store.Verein.VereinKurz);
+  return isClub(m_store, club) ? shortNameOfClub(m_store, club) : QStringLiteral("nicht belegt");
 }
 
 void Form6::showFields(bool shown) {

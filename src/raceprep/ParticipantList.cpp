@@ -19,12 +19,6 @@ std::array<int, 3> clubSlots(const Store &store) {
   return {store.Laeufer.Verein1, store.Laeufer.Verein2, store.Laeufer.Verein3};
 }
 
-QString shortNameOfClub(Store &store, int club) {
-  store.VereinIdx = club;
-  VereinLesen(store);
-  return trimmedBlanks(store.Verein.VereinKurz);
-}
-
 QString clubText(Store &store, const TeilnehmerZeile &participant) {
   if (!readClub(store, participant))
     return {};

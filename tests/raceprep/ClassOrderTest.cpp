@@ -4,32 +4,12 @@
 
 namespace {
 
-class ClassOrder : public testing::Test {
+class ClassOrder : public RaceTest {
 protected:
-  ClassOrder() { test.addRace(QStringLiteral("Rennen")); }
-
-  TestStore test;
-  Store &store = test.store;
   KlasseNummerRaster raster{"KlasseNummerRaster"};
 };
 
 } // namespace
-
-TEST_F(ClassOrder, HeadingsFollowTheCriteria) {
-  const struct {
-    quint8 sex, guests, boarders;
-    const char *headings;
-  } cases[] = {{0, 0, 0, "w+m|||||||"},
-               {1, 0, 0, "w|m||||||"},
-               {0, 1, 1, "w+m||Gäste||Board||G,B|"},
-               {1, 1, 1, "w|m|G-w|G-m|Bw|Bm|B,Gw|B,Gm"}};
-  for (const auto &[sex, guests, boarders, headings] : cases) {
-    store.Rennen.WertGeschlecht = sex;
-    store.Rennen.WertGaeste = guests;
-    store.Rennen.WertBoarder = boarders;
-    EXPECT_EQ(gridHeadings(store.Rennen).join(QLatin1Char('|')).toStdString(), headings);
-  }
-}
 
 TEST_F(ClassOrder, CellsRunOnBehindAnEmptyRowAndNumbersReturnToTheirClass) {
   store.Rennen.WertGeschlecht = store.Rennen.WertGaeste = store.Rennen.WertBoarder = 1;

@@ -5,14 +5,11 @@
 
 namespace {
 
-struct Row {
-  const char *name;
-  int von, bis;
-};
+using Rows = std::vector<std::tuple<std::string, int, int>>; // name, first and last year
 
 const struct {
   const char *what;
-  std::vector<Row> before, after;
+  Rows before, after;
 } NormalForms[] = {
     {"a first year moves the next class",
      {{"A", 2010, 2020}, {"B", 2003, 2009}, {"C", 1980, 2004}},
@@ -29,37 +26,32 @@ const struct {
     {"no class has no year", {{"", 2010, 2020}}, {{"", 0, 0}}},
 };
 
-void fill(Store &store, const std::vector<Row> &rows) {
-  store.KlasseName.fill({});
-  for (int i = 1; const auto &row : rows) {
-    store.KlasseName[i] = QString::fromUtf8(row.name);
-    store.KlasseVon[i] = row.von;
-    store.KlasseBis[i++] = row.bis;
-  }
-}
+using ClassRules = StoreTest;
 
 } // namespace
 
-TEST(ClassRules, NormalForm) {
-  TestStore test;
+TEST_F(ClassRules, NormalForm) {
   for (const auto &[what, before, after] : NormalForms) {
-    fill(test.store, before);
-    KlassenAktualisieren(test.store);
-    for (int i = 1; const auto &row : after) {
-      EXPECT_EQ(test.store.KlasseVon[i], row.von) << what << ", class " << i;
-      EXPECT_EQ(test.store.KlasseBis[i], row.bis) << what << ", class " << i;
-      ++i;
+    store.KlasseName.fill({});
+    for (int i = 0; const auto &[name, von, bis] : before) {
+      store.KlasseName[++i] = QString::fromStdString(name);
+      store.KlasseVon[i] = von;
+      store.KlasseBis[i] = bis;
     }
+    KlassenAktualisieren(store);
+    Rows found;
+    for (int i = 1; i <= int(after.size()); ++i)
+      found.emplace_back(store.KlasseName[i].toStdString(), store.KlasseVon[i], store.KlasseBis[i]);
+    EXPECT_EQ(found, after) << what;
   }
 }
 
-TEST(ClassRules, LinesOfTheBuiltInTable) {
-  TestStore test;
-  takeStandardClasses(test.store);
+TEST_F(ClassRules, LinesOfTheBuiltInTable) {
+  takeStandardClasses(store);
   const int row = test.enter(test.addAthlete(QStringLiteral("A"), 2026, 1));
   test.enter(test.addAthlete(QStringLiteral("B"), 2025, 1));
-  test.store.Teilnehmer[row].Status1 = 1;
-  const QStringList lines = KlassenAktualisieren(test.store);
+  store.Teilnehmer[row].Status1 = 1;
+  const QStringList lines = KlassenAktualisieren(store);
   EXPECT_EQ(lines.first(), QStringLiteral(" 1 Bambini 1             2020 - 2026  (1/2)"));
   EXPECT_EQ(lines.at(13), QStringLiteral("14 Allg. Kl.             1996 - 2004  (0/0)")); // the gap is closed
   EXPECT_EQ(lines.at(15), QStringLiteral("16 AK 2                  1976 - 1985  (0/0)")); // so is the overlap

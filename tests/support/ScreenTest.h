@@ -28,6 +28,7 @@ protected:
   QString text(const char *name) { return find<QLineEdit>(name)->text(); }
   QStringList lines(const char *name) { return find<LineList>(name)->lines(); }
   bool shown(const char *name) { return find(name)->isVisible(); }
+  bool enabled(const char *name) { return find(name)->isEnabled(); }
 
   void press(const char *name) { QTest::mouseClick(find<QAbstractButton>(name), Qt::LeftButton); }
   void type(const char *name, const char *keys) {
@@ -40,8 +41,18 @@ protected:
     const QRect place = list->visualRect(list->model()->index(line, 0));
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, {5, place.center().y()});
   }
-  /// A key to the control that has the focus.
+  void doubleClickLine(const char *name, int line) {
+    clickLine(name, line);
+    auto *list = find<LineList>(name);
+    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(line, 0)).center());
+  }
+  /// Keys to the control that has the focus.
   void key(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
+  void keys(std::initializer_list<Qt::Key> keys) {
+    for (const auto each : keys)
+      key(each);
+  }
+  void keys(const char *text) { QTest::keyClicks(QApplication::focusWidget(), QLatin1String(text)); }
 
   TestStore test;
   Store &store = test.store;
