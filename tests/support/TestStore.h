@@ -39,3 +39,16 @@ public:
   int beeps = 0;
   Store store{umgebung};
 };
+
+/// A test with a store of its own.
+class StoreTest : public testing::Test {
+protected:
+  TestStore test;
+  Store &store = test.store;
+};
+
+/// The same with one race, which is open.
+class RaceTest : public StoreTest {
+protected:
+  RaceTest() { test.addRace(QStringLiteral("Rennen")); }
+};
