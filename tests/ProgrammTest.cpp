@@ -117,6 +117,7 @@ TEST_F(ProgrammTest, ScreensBesideTheTimingCloseWithIt) {
   chooseLine("Form7", "List2", 0);
   QTest::mouseClick(control<QAbstractButton>("Form7", "Check1"), Qt::LeftButton, {}, {8, 8});
   press("Form7", "Command7");
+  press("Form7", "Command7"); // it stands already
   EXPECT_EQ(visible(), "Form13 Form18 Form7");
   window("Form18")->close();
   EXPECT_EQ(visible(), "Form13 Form7");

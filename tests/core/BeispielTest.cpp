@@ -12,13 +12,19 @@ namespace {
 
 constexpr int Races = 6, Unprepared = 3;
 
+QMap<QString, QByteArray> bytesOf(const QDir &folder) {
+  QMap<QString, QByteArray> all;
+  for (const QString &name : folder.entryList(QDir::Files))
+    all[name] = readFile(folder.filePath(name));
+  return all;
+}
+
 /// The example event, copied into a folder of its own and opened.
-class Beispiel : public testing::Test {
+class Beispiel : public StoreTest {
 protected:
   Beispiel() {
-    const QDir example(QStringLiteral(VEXT_BEISPIEL));
-    for (const QString &name : example.entryList(QDir::Files))
-      test.writeFile(name, readFile(example.filePath(name)));
+    for (const auto &[name, bytes] : example.asKeyValueRange())
+      test.writeFile(name, bytes);
     storeStarten(store);
     alleDateienOeffnen(store);
   }
@@ -30,22 +36,12 @@ protected:
     KlassenZuordnen(store);
   }
 
-  /// Every file of the folder with its bytes.
-  QMap<QString, QByteArray> bytes() const {
-    QMap<QString, QByteArray> all;
-    for (const QString &name : QDir(test.folder.path()).entryList(QDir::Files))
-      all[name] = test.file(name);
-    return all;
-  }
-
-  TestStore test;
-  Store &store = test.store;
+  const QMap<QString, QByteArray> example = bytesOf(QStringLiteral(VEXT_BEISPIEL));
 };
 
 } // namespace
 
 TEST_F(Beispiel, ReadAndWrittenAgainIsTheSameBytes) {
-  const auto before = bytes();
   for (store.VereinIdx = 1; store.VereinIdx <= store.VereinAnzahl; ++store.VereinIdx) {
     VereinLesen(store);
     VereinSchreiben(store);
@@ -59,10 +55,10 @@ TEST_F(Beispiel, ReadAndWrittenAgainIsTheSameBytes) {
     RennenSchreiben(store);
     RennDatenSpeichern(store);
   }
-  const auto after = bytes();
-  EXPECT_EQ(after.keys(), before.keys());
-  for (const QString &name : before.keys())
-    EXPECT_EQ(after[name], before[name]) << name.toStdString();
+  const auto after = bytesOf(test.folder.path());
+  EXPECT_EQ(after.keys(), example.keys());
+  for (const QString &name : example.keys())
+    EXPECT_EQ(after[name], example[name]) << name.toStdString();
 }
 
 TEST_F(Beispiel, EveryFieldIsNamedNumberedAndSafeToRank) {
@@ -72,18 +68,18 @@ TEST_F(Beispiel, EveryFieldIsNamedNumberedAndSafeToRank) {
   for (int race = 1; race <= Races; ++race) {
     openRace(race);
     RennDatenSpeichern(store);
-    QList<int> numbers;
+    QList<int> numbers, expected;
     for (int row = 1; store.Teilnehmer[row].LaeuferNr != 0; ++row) {
       store.LaeuferIdx = store.Teilnehmer[row].LaeuferNr;
       LaeuferLesen(store);
       EXPECT_FALSE(store.Laeufer.Name.isEmpty()) << race << ": row " << row;
       EXPECT_GT(store.Teilnehmer[row].KlasseReihe, 0) << race << ": row " << row;
       numbers << store.Teilnehmer[row].StartNr;
+      expected << row;
     }
     std::sort(numbers.begin(), numbers.end());
     EXPECT_EQ(numbers.isEmpty(), race == Unprepared);
-    for (int i = 0; i < numbers.size(); ++i)
-      EXPECT_EQ(numbers[i], i + 1) << race;
+    EXPECT_EQ(numbers, expected) << race;
   }
   EXPECT_EQ(reminder, QStringList());
   EXPECT_EQ(test.beeps, 0);

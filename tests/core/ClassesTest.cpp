@@ -1,56 +1,49 @@
 #include "core/Classes.h"
 
-#include "core/RaceFiles.h"
 #include "platform/Faults.h"
 #include "support/TestStore.h"
 
 namespace {
 
-class Classes : public testing::Test {
+class Classes : public RaceTest {
 protected:
-  Classes() { test.addRace(QStringLiteral("Rennen")); }
-
-  TestStore test;
-  Store &store = test.store;
+  TeilnehmerZeile &enter(int year, int sex = 1) {
+    return store.Teilnehmer[test.enter(test.addAthlete(QStringLiteral("HUBER Kim"), year, sex))];
+  }
 };
 
 } // namespace
 
-TEST_F(Classes, LastOfOverlappingClassesHoldsAndAllCount) {
-  const int row = test.enter(test.addAthlete(QStringLiteral("A"), 1987, 1)); // in "AK 1" and "AK 2" of the season
+TEST_F(Classes, LastOfOverlappingClassesHoldsAndAllCountAndWithoutAClassTheRowKeepsItsOwn) {
+  const auto &row = enter(1987), &tooOld = enter(1890); // in "AK 1" and "AK 2" of the season, in none
+  store.Teilnehmer[2].KlasseNr = 5;
   KlassenZuordnen(store);
-  EXPECT_EQ(store.Teilnehmer[row].KlasseNr, 16);
+  EXPECT_EQ(row.KlasseNr, 16);
   EXPECT_EQ(store.KlasseAnzahl[15], 1);
   EXPECT_EQ(store.KlasseAnzahl[16], 1);
+  EXPECT_EQ(tooOld.KlasseNr, 5);
 }
 
 TEST_F(Classes, SwitchesActOnlyWhereTheRaceSplits) {
-  const int row = test.enter(test.addAthlete(QStringLiteral("A"), 2013, 1));
-  store.Teilnehmer[row].Gast = 1;
-  store.Teilnehmer[row].Status2 = 3;
+  auto &row = enter(2013);
+  row.Gast = 1;
+  row.Status2 = 3;
   store.KlasseReihenfolge(8, 1, 0, 0) = 12;
   store.KlasseReihenfolge(8, 1, 1, 0) = 34;
   store.Rennen.WertGeschlecht = 1;
   KlassenZuordnen(store);
-  EXPECT_EQ(store.Teilnehmer[row].KlasseReihe, 12);
-  EXPECT_EQ(store.Teilnehmer[row].KlasseGenau, 57);
+  EXPECT_EQ(row.KlasseReihe, 12);
+  EXPECT_EQ(row.KlasseGenau, 57);
   EXPECT_EQ(store.KlasseAnzahl[8], 1);
   EXPECT_EQ(store.KlasseAnzahlOk[8], 0);
   store.Rennen.WertGaeste = 1;
   KlassenZuordnen(store);
-  EXPECT_EQ(store.Teilnehmer[row].KlasseReihe, 34);
-  EXPECT_EQ(store.Teilnehmer[row].KlasseGenau, 59);
-}
-
-TEST_F(Classes, RowThatFitsNoClassKeepsWhatItHad) {
-  const int row = test.enter(test.addAthlete(QStringLiteral("A"), 1890, 1));
-  store.Teilnehmer[row].KlasseNr = 5;
-  KlassenZuordnen(store);
-  EXPECT_EQ(store.Teilnehmer[row].KlasseNr, 5);
+  EXPECT_EQ(row.KlasseReihe, 34);
+  EXPECT_EQ(row.KlasseGenau, 59);
 }
 
 TEST_F(Classes, MissingSexInARaceSplitBySexNamesThePerson) {
-  test.enter(test.addAthlete(QStringLiteral("HUBER Kim"), 2013, 2));
+  enter(2013, 2);
   KlassenZuordnen(store);
   store.Rennen.WertGeschlecht = 1;
   try {

@@ -1,61 +1,30 @@
 #include "core/Form17.h"
 
-#include "platform/qt/Desk.h"
-#include "platform/qt/LineList.h"
-#include "support/TestStore.h"
+#include "support/ScreenTest.h"
 
-#include <QLineEdit>
-#include <QTest>
 #include <QTimer>
-#include <QVBoxLayout>
 
-namespace {
+using Form17Test = ScreenTest<Form17>;
 
-/// A screen with a field, to see when it is left.
-class Work : public Screen {
-public:
-  explicit Work(Desk &desk) : Screen(desk, QStringLiteral("Work"), 0) {
-    (new QVBoxLayout(this))->addWidget(field);
-    setUp();
-    onLeave(field, [this] { ++left; });
-  }
-  QLineEdit *field = new QLineEdit;
+TEST_F(Form17Test, ComesForwardWithoutLeavingTheFieldOfAnotherScreenAndThePressLeavesItOnce) {
+  QWidget work;
+  QLineEdit field(&work);
   int left = 0;
-};
-
-class Form17Test : public testing::Test {
-protected:
-  Form17Test() {
-    desk.show(work);
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&work));
-    work.field->setFocus();
-  }
-
-  TestStore test;
-  Desk desk{test.store.Fenster, [this] { FensterSpeichern(test.store); }};
-  Work work{desk};
-  Form17 form{desk};
-  LineList *list = form.findChild<LineList *>(QStringLiteral("List1"));
-  QTimer *timer = form.findChild<QTimer *>(QStringLiteral("Timer1"));
-};
-
-TEST_F(Form17Test, ComesForwardWithoutLeavingTheFieldOfAnotherScreen) {
-  form.erinnern({QStringLiteral("7   BERGER Eva m/w ?")});
-  EXPECT_TRUE(form.isVisible());
-  EXPECT_TRUE(form.testAttribute(Qt::WA_ShowWithoutActivating));
-  form.hide();
+  desk.guard().onLeave(&field, [&left] { ++left; });
+  work.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&work));
+  field.setFocus();
+  form = std::make_unique<Form17>(desk);
+  form->erinnern({QStringLiteral("7   BERGER Eva m/w ?")});
+  EXPECT_TRUE(form->isVisible() && form->testAttribute(Qt::WA_ShowWithoutActivating));
+  form->hide();
+  auto *timer = form->findChild<QTimer *>(QStringLiteral("Timer1"));
   EXPECT_EQ(timer->interval(), 15000);
   timer->setInterval(0);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return form.isVisible(); }));
-  EXPECT_EQ(work.left, 0);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return form->isVisible(); }));
+  EXPECT_EQ(left, 0);
+  clickLine("List1", 0);
+  EXPECT_EQ(left, 1);
+  QTest::mouseClick(form.get(), Qt::LeftButton, {}, {2, 2});
+  EXPECT_EQ(left, 1);
 }
-
-TEST_F(Form17Test, ThePressOfTheOperatorLeavesTheFieldOnce) {
-  form.erinnern({QStringLiteral("7   BERGER Eva m/w ?")});
-  QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->viewport()->rect().center());
-  EXPECT_EQ(work.left, 1);
-  QTest::mouseClick(&form, Qt::LeftButton, {}, {2, 2});
-  EXPECT_EQ(work.left, 1);
-}
-
-} // namespace

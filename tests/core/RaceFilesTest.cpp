@@ -11,22 +11,20 @@ QByteArray participant(const char *zeit1, const char *status1 = " 0 ") {
   return block + QByteArray("\r\n").repeated(7);
 }
 
-class RaceFiles : public testing::Test {
+class RaceFiles : public RaceTest {
 protected:
-  RaceFiles() {
-    test.addAthlete(QStringLiteral("MÜLLER Änne"), 2010, 0);
-    test.addRace(QStringLiteral("Kinderrennen"));
-  }
+  RaceFiles() { test.addAthlete(QStringLiteral("MÜLLER Änne"), 2010, 0); }
 
-  TestStore test;
-  Store &store = test.store;
+  void load(const QByteArray &participants) {
+    test.writeFile(QStringLiteral("R 1.dat"), participants);
+    RennDatenLaden(store);
+  }
 };
 
 } // namespace
 
 TEST_F(RaceFiles, LoadedAndSavedAgainAreTheSameBytes) {
   const QByteArray r = participant("63,45") + participant("1E-05") + participant("-5").replace(" 21 ", "-21 ");
-  test.writeFile(QStringLiteral("R 1.dat"), r);
   QByteArray k;
   for (int i = 1; i <= 20; ++i) {
     k += "Klasse, " + QByteArray::number(i) + "\xfc\r\n 2000 \r\n 2010 \r\n";
@@ -35,10 +33,12 @@ TEST_F(RaceFiles, LoadedAndSavedAgainAreTheSameBytes) {
   }
   for (int i = 0; i < 160; ++i)
     k += "genau\x80 " + QByteArray::number(i) + "\r\n";
-  test.writeFile(QStringLiteral("K 1.lst"), k);
   const QByteArray m = "eins, zwei\r\n" + QByteArray("\r\n").repeated(98) + "hundert\r\n";
+  test.writeFile(QStringLiteral("K 1.lst"), k);
   test.writeFile(QStringLiteral("M 1.lst"), m);
-  RennDatenLaden(store);
+  load(r);
+  for (const char *name : {"R 1.dat", "K 1.lst", "M 1.lst"})
+    QFile::remove(store.DatenOrdner + QLatin1String(name));
   RennDatenSpeichern(store);
   EXPECT_EQ(test.file(QStringLiteral("R 1.dat")), r);
   EXPECT_EQ(test.file(QStringLiteral("K 1.lst")), k);
@@ -46,35 +46,22 @@ TEST_F(RaceFiles, LoadedAndSavedAgainAreTheSameBytes) {
   EXPECT_FALSE(test.hasFile(QStringLiteral("G 1.lst")));
 }
 
-TEST_F(RaceFiles, GuardsOfTheLoad) {
-  test.writeFile(QStringLiteral("R 1.dat"),
-                 participant("1", " 7 ").replace("\r\n 3 \r\n64,5\r\n 2 ", "\r\n-3 \r\n64,5\r\n 7 "));
-  RennDatenLaden(store);
-  EXPECT_EQ(store.Teilnehmer[1].Status1, 0);
-  EXPECT_EQ(store.Teilnehmer[1].Status2, 7);
-  EXPECT_EQ(store.Teilnehmer[1].MannschaftNr, 0);
-}
-
-TEST_F(RaceFiles, FractionOfPointsSlipsTheLines) {
-  test.writeFile(QStringLiteral("R 1.dat"), participant("63,45").replace("\r\n4\r\n", "\r\n12,5\r\n"));
-  RennDatenLaden(store);
-  EXPECT_EQ(store.Teilnehmer[1].Punkte, 12);
-  EXPECT_EQ(store.Teilnehmer[1].Zeit1, 5);
-  EXPECT_EQ(store.Teilnehmer[1].ZeitReserve, 63);
-}
-
-TEST_F(RaceFiles, FileCutShortKeepsTheRow) {
-  test.writeFile(QStringLiteral("R 1.dat"), participant("63,45") + " 9 \r\n 4 ");
-  RennDatenLaden(store);
-  EXPECT_EQ(store.Teilnehmer[2].LaeuferNr, 9);
-  EXPECT_EQ(store.Teilnehmer[2].StartNr, 4);
-  EXPECT_EQ(store.Teilnehmer[2].Zeit1, 0);
+TEST_F(RaceFiles, OddParticipantFiles) {
+  const auto &row = store.Teilnehmer[1], &next = store.Teilnehmer[2];
+  load(participant("1", " 7 ").replace("\r\n 3 \r\n64,5\r\n 2 ", "\r\n-3 \r\n64,5\r\n 7 "));
+  EXPECT_EQ(row.Status1, 0);
+  EXPECT_EQ(row.Status2, 7);
+  EXPECT_EQ(row.MannschaftNr, 0);
+  load(participant("63,45").replace("\r\n4\r\n", "\r\n12,5\r\n")); // the lines slip by one
+  EXPECT_EQ(row.Punkte, 12);
+  EXPECT_EQ(row.Zeit1, 5);
+  EXPECT_EQ(row.ZeitReserve, 63);
+  load(participant("63,45") + " 9 \r\n 4 "); // cut short
+  EXPECT_EQ(next.LaeuferNr, 9);
+  EXPECT_EQ(next.StartNr, 4);
+  EXPECT_EQ(next.Zeit1, 0);
   EXPECT_EQ(store.Teilnehmer[3].LaeuferNr, 0);
-}
-
-TEST_F(RaceFiles, FullTableStopsAtRow1000) {
-  test.writeFile(QStringLiteral("R 1.dat"), participant("1").repeated(1001));
-  RennDatenLaden(store);
+  load(participant("1").repeated(1001));
   EXPECT_EQ(store.Teilnehmer[1000].LaeuferNr, 5);
   EXPECT_EQ(participantFile(store).count('\n'), 23000);
 }
@@ -115,20 +102,17 @@ TEST_F(RaceFiles, RemindsOfAthletesWithoutSexOrBirthDate) {
 }
 
 TEST_F(RaceFiles, FaultsNameFileAndLine) {
-  const struct {
-    QByteArray bytes;
-    const char *where;
-  } cases[] = {{participant(""), "Zeile 8 "},
-               {participant("1") + participant("1.5"), "Zeile 31 "},
-               {participant("1").replace(" 3 \r\n64,5", " 40000 \r\n64,5"), "Zeile 12 "},
-               {participant("1").replace(" 5 ", " 3000000000 "), "Zeile 1 "}};
-  for (const auto &c : cases) {
-    test.writeFile(QStringLiteral("R 1.dat"), c.bytes);
+  const std::pair<QByteArray, const char *> cases[] = {
+      {participant(""), "Zeile 8 "},
+      {participant("1") + participant("1.5"), "Zeile 31 "},
+      {participant("1").replace(" 3 \r\n64,5", " 40000 \r\n64,5"), "Zeile 12 "},
+      {participant("1").replace(" 5 ", " 3000000000 "), "Zeile 1 "}};
+  for (const auto &[bytes, where] : cases) {
     try {
-      RennDatenLaden(store);
-      ADD_FAILURE() << "no fault: " << c.where;
+      load(bytes);
+      ADD_FAILURE() << "no fault: " << where;
     } catch (const ConversionFault &fault) {
-      EXPECT_TRUE(fault.report().contains(QString::fromUtf8(c.where))) << fault.what();
+      EXPECT_TRUE(fault.report().contains(QLatin1String(where))) << fault.what();
       EXPECT_TRUE(fault.report().contains(QStringLiteral("R 1.dat"))) << fault.what();
     }
   }

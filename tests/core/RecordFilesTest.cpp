@@ -4,7 +4,7 @@
 
 namespace {
 
-class RecordFiles : public testing::Test {
+class RecordFiles : public StoreTest {
 protected:
   // A record of numbered bytes, so that every field and its place show.
   static QByteArray pattern(int length) {
@@ -13,9 +13,6 @@ protected:
       bytes[i] = char('A' + i % 50);
     return bytes;
   }
-
-  TestStore test;
-  Store &store = test.store;
 };
 
 } // namespace
@@ -23,24 +20,27 @@ protected:
 TEST_F(RecordFiles, EveryByteSurvivesReadingAndWriting) {
   const QByteArray verein = pattern(VereinLaenge).replace(554, 4, QByteArray("\x00\x1a\x81\xff", 4));
   QByteArray laeufer = pattern(LaeuferLaenge).replace(0, 80, QByteArray("\xc4NGSTL \x80uro").leftJustified(80));
-  laeufer.replace(82, 4, QByteArray(4, '\0')).replace(80, 2, QByteArray("\x01\x00", 2));
-  laeufer.replace(94, 2, QByteArray("\x01\x00", 2));
-  QByteArray rennen = pattern(RennenLaenge).replace(363, 1, QByteArray("\x11"));
-  test.writeFile(QStringLiteral("Verein.rec"), verein);
-  test.writeFile(QStringLiteral("Laeufer.rec"), laeufer);
-  test.writeFile(QStringLiteral("Rennen.rec"), rennen);
+  laeufer.replace(80, 6, QByteArray("\x01\0\0\0\0\0", 6)).replace(94, 2, QByteArray("\x01\0", 2));
+  const QByteArray rennen = pattern(RennenLaenge).replace(363, 1, "\x11");
+  const std::pair<QString, QByteArray> files[] = {{QStringLiteral("Verein.rec"), verein},
+                                                  {QStringLiteral("Laeufer.rec"), laeufer},
+                                                  {QStringLiteral("Rennen.rec"), rennen}};
+  for (const auto &[name, bytes] : files)
+    test.writeFile(name, bytes);
   store.VereinAnzahl = store.LaeuferAnzahl = store.RennenAnzahl = 1;
   store.VereinIdx = store.LaeuferIdx = store.RennenIdx = 1;
   alleDateienOeffnen(store);
   VereinLesen(store);
   LaeuferLesen(store);
   RennenLesen(store);
+  for (const auto &[name, bytes] : files)
+    test.writeFile(name, {});
+  alleDateienOeffnen(store);
   VereinSchreiben(store);
   LaeuferSchreiben(store);
   RennenSchreiben(store);
-  EXPECT_EQ(test.file(QStringLiteral("Verein.rec")), verein);
-  EXPECT_EQ(test.file(QStringLiteral("Laeufer.rec")), laeufer);
-  EXPECT_EQ(test.file(QStringLiteral("Rennen.rec")), rennen);
+  for (const auto &[name, bytes] : files)
+    EXPECT_EQ(test.file(name), bytes);
 }
 
 TEST_F(RecordFiles, FieldsLieWhereTheyAreTold) {
@@ -51,31 +51,32 @@ TEST_F(RecordFiles, FieldsLieWhereTheyAreTold) {
   store.Rennen.WertBoarder = 1;
   store.RennenIdx = 1;
   RennenSchreiben(store);
-  const QByteArray verein = test.file(QStringLiteral("Verein.rec"));
-  EXPECT_EQ(verein.size(), 798);
-  EXPECT_EQ(verein.mid(79, 2), "xx"); // cut at 80, then the short name
-  const QByteArray laeufer = test.file(QStringLiteral("Laeufer.rec"));
-  EXPECT_EQ(laeufer.left(12), "M\xdcLLER \xc4nne ");
-  EXPECT_EQ(laeufer.mid(80, 2), QByteArray("\x01\x00", 2));
-  EXPECT_EQ(laeufer.mid(86, 8).toHex(), "00000000c0d0e240"); // 1 July 2005 = 38534.0
-  const QByteArray rennen = test.file(QStringLiteral("Rennen.rec"));
-  EXPECT_EQ(rennen.mid(362, 7), QByteArray("\x01\x00", 2) + "10:30");
-  EXPECT_EQ(rennen.mid(723, 8), "letzter ");
+  const struct {
+    const char *file;
+    int place;
+    QByteArray bytes;
+  } cases[] = {{"Verein.rec", 79, "xx"}, // cut at 80, then the short name
+               {"Laeufer.rec", 0, "M\xdcLLER \xc4nne "},
+               {"Laeufer.rec", 80, QByteArray("\x01\0", 2)},
+               {"Laeufer.rec", 86, QByteArray::fromHex("00000000c0d0e240")}, // 1 July 2005 = 38534.0
+               {"Rennen.rec", 362, QByteArray("\x01\0", 2) + "10:30"},
+               {"Rennen.rec", 723, "letzter "}};
+  for (const auto &[file, place, bytes] : cases)
+    EXPECT_EQ(test.file(QLatin1String(file)).mid(place, bytes.size()), bytes) << file << ' ' << place;
+  EXPECT_EQ(test.file(QStringLiteral("Verein.rec")).size(), 798);
 }
 
 TEST_F(RecordFiles, ReadingHoldsValuesInRange) {
   test.addClub(QStringLiteral("SK"));
-  const struct { qint16 sex, expected; } cases[] = {{5, 2}, {-1, 0}, {1, 1}};
-  for (const auto &c : cases) {
-    store.LaeuferIdx = 1;
-    store.Laeufer.Geschlecht = c.sex;
+  store.LaeuferIdx = store.RennenIdx = 1;
+  for (const auto &[sex, expected] : {std::pair(5, 2), {-1, 0}, {1, 1}}) {
+    store.Laeufer.Geschlecht = qint16(sex);
     store.Laeufer.Verein2 = 12;
     LaeuferSchreiben(store);
     LaeuferLesen(store);
-    EXPECT_EQ(store.Laeufer.Geschlecht, c.expected);
+    EXPECT_EQ(store.Laeufer.Geschlecht, expected);
     EXPECT_EQ(store.Laeufer.Verein2, 0);
   }
-  store.RennenIdx = 1;
   store.Rennen.BestzeitAbKlasse = 18;
   RennenSchreiben(store);
   RennenLesen(store);
@@ -139,12 +140,10 @@ TEST_F(RecordFiles, CountsAreWrittenWhenTheLastRecordChanges) {
   test.addAthlete(QStringLiteral("B"), 2001, 0);
   EXPECT_EQ(test.file(QStringLiteral("Vext.dat")), " 2 \r\n 0 \r\n 0 \r\n 9 \r\n");
   QFile::remove(store.DatenOrdner + QStringLiteral("Vext.dat"));
-  store.LaeuferIdx = 1;
-  LaeuferSchreiben(store);
-  EXPECT_FALSE(test.hasFile(QStringLiteral("Vext.dat")));
-  store.LaeuferIdx = 2;
-  LaeuferSchreiben(store);
-  EXPECT_TRUE(test.hasFile(QStringLiteral("Vext.dat")));
+  for (store.LaeuferIdx = 1; store.LaeuferIdx <= 2; ++store.LaeuferIdx) {
+    LaeuferSchreiben(store);
+    EXPECT_EQ(test.hasFile(QStringLiteral("Vext.dat")), store.LaeuferIdx == 2);
+  }
 }
 
 TEST_F(RecordFiles, ListsAreInGermanOrderWithTheNumberAtTheEnd) {

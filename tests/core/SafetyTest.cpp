@@ -9,22 +9,20 @@
 
 namespace {
 
-QDateTime at(const char *time) {
-  return QDateTime::fromString(QString::fromLatin1(time), QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+/// A time in January 2026.
+QDateTime at(const QString &time) {
+  return QDateTime::fromString(QStringLiteral("2026-01-") + time, QStringLiteral("yyyy-MM-dd HH:mm:ss"));
 }
 
-struct Ageing {
-  const char *name;
-  QList<const char *> copies, gone;
-};
-void PrintTo(const Ageing &ageing, std::ostream *out) {
-  *out << ageing.name;
+QList<QDateTime> times(const char *list) {
+  QList<QDateTime> all;
+  for (const QString &time : QString::fromLatin1(list).split(QStringLiteral(", "), Qt::SkipEmptyParts))
+    all << at(time);
+  return all;
 }
-
-class SafetyCopiesAge : public testing::TestWithParam<Ageing> {};
 
 /// The data location of the user and the data folder are folders of the test; `last` is the run that died.
-class SafetyOfARace : public testing::Test {
+class SafetyOfARace : public StoreTest {
 protected:
   SafetyOfARace() {
     qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
@@ -57,73 +55,50 @@ protected:
     return read.Teilnehmer[1].Zeit1;
   }
 
-  QStringList folders(const QString &under, const QString &pattern) const {
+  static QStringList folders(const QString &under, const QString &pattern) {
     return QDir(under).entryList({pattern}, QDir::Dirs | QDir::NoDotAndDotDot);
   }
-
-  QString safetyFolder() const {
-    const QString all = home.path() + QStringLiteral("/VEXT/Sicherung/");
-    return all + folders(all, QStringLiteral("*")).value(0);
-  }
+  QStringList rescues() const { return folders(test.folder.path(), QStringLiteral("Rettung *")); }
 
   QTemporaryDir home;
-  TestStore test;
-  Store &store = test.store;
   Store next{test.umgebung};
   std::optional<Safety> last, again;
 };
 
 } // namespace
 
-TEST_P(SafetyCopiesAge, KeepsFewerTheOlderTheyAre) {
-  QList<QDateTime> copies, gone;
-  for (const char *time : GetParam().copies)
-    copies << at(time);
-  for (const char *time : GetParam().gone)
-    gone << at(time);
-  EXPECT_EQ(outgrown(copies, at("2026-01-15 12:00:00")), gone);
+TEST(SafetyCopies, FewerAreKeptTheOlderTheyAre) {
+  const struct {
+    const char *what, *copies, *gone;
+  } cases[] = {{"the newest three of one minute", "15 11:59:01, 15 11:59:02, 15 11:59:03, 15 11:59:04", "15 11:59:01"},
+               {"many starts do not push out yesterday",
+                "14 18:00:00, 14 18:30:00, 15 11:01:00, 15 11:02:00, 15 11:03:00, 15 11:04:00, 15 11:05:00",
+                "15 11:02:00, 15 11:01:00, 14 18:00:00"},
+               {"one an hour for a day, then one a day",
+                "14 10:10:00, 14 11:10:00, 14 12:10:00, 14 13:10:00, 15 11:57:00, 15 11:58:00, 15 11:59:00",
+                "14 11:10:00, 14 10:10:00"},
+               {"a fortnight", "01 10:00:00, 02 10:00:00, 13 10:00:00, 14 10:00:00, 15 10:00:00", "01 10:00:00"},
+               {"a few old ones stay", "01 10:00:00, 01 10:00:01, 01 10:00:02", ""}};
+  for (const auto &[what, copies, gone] : cases)
+    EXPECT_EQ(outgrown(times(copies), at(QStringLiteral("15 12:00:00"))), times(gone)) << what;
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, SafetyCopiesAge,
-    testing::Values(Ageing{"newestThreeOfOneMinute",
-                           {"2026-01-15 11:59:01", "2026-01-15 11:59:02", "2026-01-15 11:59:03", "2026-01-15 11:59:04"},
-                           {"2026-01-15 11:59:01"}},
-                    Ageing{"tenStartsDoNotPushOutYesterday",
-                           {"2026-01-14 18:00:00", "2026-01-14 18:30:00", "2026-01-15 11:01:00", "2026-01-15 11:02:00",
-                            "2026-01-15 11:03:00", "2026-01-15 11:04:00", "2026-01-15 11:05:00"},
-                           {"2026-01-15 11:02:00", "2026-01-15 11:01:00", "2026-01-14 18:00:00"}},
-                    Ageing{"anHourEachForADayThenADayEach",
-                           {"2026-01-14 10:10:00", "2026-01-14 11:10:00", "2026-01-14 12:10:00", "2026-01-14 13:10:00",
-                            "2026-01-15 11:57:00", "2026-01-15 11:58:00", "2026-01-15 11:59:00"},
-                           {"2026-01-14 11:10:00", "2026-01-14 10:10:00"}},
-                    Ageing{"aFortnight",
-                           {"2026-01-01 10:00:00", "2026-01-02 10:00:00", "2026-01-13 10:00:00", "2026-01-14 10:00:00",
-                            "2026-01-15 10:00:00"},
-                           {"2026-01-01 10:00:00"}},
-                    Ageing{
-                        "fewOldOnesStay", {"2020-01-01 10:00:00", "2020-01-01 10:00:01", "2020-01-01 10:00:02"}, {}}),
-    [](const auto &ageing) { return std::string(ageing.param.name); });
 
 TEST_F(SafetyOfARace, CopiesAreMadeOfWhatChangedAndFailuresAreTold) {
   SafetyCopies copies(test.folder.path(), home.path() + QStringLiteral("/Kopien"));
-  copies.make(at("2026-01-15 10:00:00"));
-  copies.make(at("2026-01-15 10:00:01"));
+  const QString all = home.path() + QStringLiteral("/Kopien/");
+  copies.make(at(QStringLiteral("15 10:00:00")));
+  copies.make(at(QStringLiteral("15 10:00:01")));
   type(1);
   RennDatenSpeichern(store);
-  copies.make(at("2026-01-15 10:00:02"));
-  const QString all = home.path() + QStringLiteral("/Kopien");
-  ASSERT_EQ(folders(all, QStringLiteral("*")).size(), 2);
-  const auto in = [&](int i, const char *name) {
-    return readFile(all + QLatin1Char('/') + folders(all, QStringLiteral("*"))[i] + QLatin1String(name));
-  };
-  EXPECT_NE(in(0, "/R 1.dat"), in(1, "/R 1.dat"));
-  EXPECT_EQ(in(1, "/R 1.dat"), test.file(QStringLiteral("R 1.dat")));
-  EXPECT_EQ(in(1, "/Laeufer.rec"), test.file(QStringLiteral("Laeufer.rec")));
-  writeFile(home.path() + QStringLiteral("/besetzt"), {});
-  EXPECT_THROW(
-      SafetyCopies(test.folder.path(), home.path() + QStringLiteral("/besetzt")).make(at("2026-01-15 10:00:03")),
-      FileFault);
+  copies.make(at(QStringLiteral("15 10:00:02")));
+  const QStringList made = folders(all, QStringLiteral("*"));
+  ASSERT_EQ(made.size(), 2);
+  EXPECT_NE(readFile(all + made[0] + QStringLiteral("/R 1.dat")), test.file(QStringLiteral("R 1.dat")));
+  for (const char *name : {"R 1.dat", "Laeufer.rec"})
+    EXPECT_EQ(readFile(all + made[1] + QLatin1Char('/') + QLatin1String(name)), test.file(QLatin1String(name)));
+  const QString taken = home.path() + QStringLiteral("/besetzt");
+  writeFile(taken, {});
+  EXPECT_THROW(SafetyCopies(test.folder.path(), taken).make(at(QStringLiteral("15 10:00:03"))), FileFault);
 }
 
 TEST_F(SafetyOfARace, TimesOfADeadRunAreOfferedOnceAndTakenOver) {
@@ -143,15 +118,16 @@ TEST_F(SafetyOfARace, TimesOfADeadRunAreOfferedOnceAndTakenOver) {
   EXPECT_EQ(readFile(rescue->folder + QStringLiteral("/R 1.dat vorher")), before);
   again.reset();
   EXPECT_FALSE(startAgain());
-  EXPECT_EQ(folders(test.folder.path(), QStringLiteral("Rettung *")).size(), 1);
+  EXPECT_EQ(rescues().size(), 1);
 }
 
 TEST_F(SafetyOfARace, HalfASaveIsRescuedAndAHalfCopyIsNot) {
   type(63.45);
   test.writeFile(QStringLiteral("R 1.dat"), test.file(QStringLiteral("R 1.dat")).left(40));
-  const QString running = safetyFolder() + QStringLiteral("/Laufend/");
-  QDir().mkpath(running + QStringLiteral("99999998"));
-  writeFile(running + QStringLiteral("99999998/R 1.dat"), " 1 \r\n");
+  const QString all = home.path() + QStringLiteral("/VEXT/Sicherung/");
+  const QString half = all + folders(all, QStringLiteral("*")).value(0) + QStringLiteral("/Laufend/99999998");
+  QDir().mkpath(half);
+  writeFile(half + QStringLiteral("/R 1.dat"), " 1 \r\n");
   const auto rescue = startAgain();
   ASSERT_TRUE(rescue);
   again->takeOver(*rescue);
@@ -196,11 +172,11 @@ TEST_F(SafetyOfARace, NothingIsOfferedWithoutNews) {
 
 TEST_F(SafetyOfARace, AFaultRescuesAtOnceAndIsRescuedOnlyOnce) {
   store.Teilnehmer[1].Zeit1 = 63.45;
-  EXPECT_TRUE(last->rescue().contains(folders(test.folder.path(), QStringLiteral("Rettung *")).value(0)));
+  EXPECT_TRUE(last->rescue().contains(rescues().value(0)));
   for (int start = 0; start < 2; ++start) {
     const auto rescue = startAgain();
     ASSERT_TRUE(rescue);
-    EXPECT_EQ(folders(test.folder.path(), QStringLiteral("Rettung *")), QStringList(QDir(rescue->folder).dirName()));
+    EXPECT_EQ(rescues(), QStringList(QDir(rescue->folder).dirName()));
   }
   again->settle();
   EXPECT_FALSE(startAgain());

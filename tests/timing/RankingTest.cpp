@@ -7,21 +7,17 @@ namespace {
 using Rows = QList<int>;
 
 /// One race; the participants stand in the rows 1, 2, … in the order of entering.
-class RankingTest : public testing::Test {
+class RankingTest : public RaceTest {
 protected:
   RankingTest() {
-    test.addRace(QStringLiteral("Lauf"));
     store.KlasseGenauName[0] = QStringLiteral("Klasse 0");
     store.KlasseGenauName[1] = QStringLiteral("Klasse 1");
   }
 
-  TeilnehmerZeile &enter(const char *name, const TeilnehmerZeile &values, int sex = 0) {
-    const int athlete = test.addAthlete(QString::fromUtf8(name), 1990, sex, 1);
-    auto &participant = store.Teilnehmer[test.enter(athlete)];
-    participant = values;
-    participant.LaeuferNr = athlete;
-    participant.StartNr = 100;
-    return participant;
+  TeilnehmerZeile &enter(const char *name, TeilnehmerZeile values, int sex = 0) {
+    values.LaeuferNr = test.addAthlete(QString::fromUtf8(name), 1990, sex, 1);
+    values.StartNr = 100;
+    return store.Teilnehmer[test.enter(values.LaeuferNr)] = values;
   }
 
   Rows places() const {
@@ -37,9 +33,6 @@ protected:
       result << store.RangListe[line];
     return result;
   }
-
-  TestStore test;
-  Store &store = test.store;
 };
 
 TEST_F(RankingTest, listsOneRunWithTiesAndDifferences) {
@@ -100,10 +93,8 @@ TEST_F(RankingTest, surchargesAndBestTimes) {
   enter("C", {.KlasseNr = 2, .Zeit1 = 45});
   enter("D", {.KlasseNr = 2, .Zeit1 = 41}, 2);
   ErgebnisRechnen(store);
-  EXPECT_EQ(guest.WertZeit1, 1);
-  EXPECT_EQ(guest.WertZeit2, 0);
-  EXPECT_EQ(store.BestzeitDamen, 45);
-  EXPECT_EQ(store.BestzeitHerren, 1);
+  EXPECT_EQ(std::pair(guest.WertZeit1, guest.WertZeit2), std::pair(1., 0.));
+  EXPECT_EQ(std::pair(store.BestzeitDamen, store.BestzeitHerren), std::pair(45., 1.));
 }
 
 TEST_F(RankingTest, clubFilter) {

@@ -4,10 +4,9 @@
 
 namespace {
 
-class TimingListTest : public testing::Test {
+class TimingListTest : public RaceTest {
 protected:
   TimingListTest() {
-    test.addRace(QStringLiteral("Lauf"));
     store.KlasseGenauName[8] = QStringLiteral("Damen");
     store.KlasseGenauName[9] = QStringLiteral("Herren");
     enter(QStringLiteral("ADAM Eva"), 12, 8, 83.456);
@@ -25,9 +24,6 @@ protected:
   }
 
   std::string lines(ListMode mode) { return ZeitlisteFuellen(store, mode).join(QLatin1Char('\n')).toStdString(); }
-
-  TestStore test;
-  Store &store = test.store;
 };
 
 TEST_F(TimingListTest, fiveOrders) {

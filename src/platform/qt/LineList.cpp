@@ -147,8 +147,11 @@ void LineList::focusInEvent(QFocusEvent *event) {
   update();
 }
 
+// One press may activate the window and then bring the focus here, and each may refill: the first lines are the ones
+// that were seen.
 void LineList::aim() {
-  m_aimedLines = lines();
+  if (m_aimedLines.isEmpty())
+    m_aimedLines = lines();
 }
 
 void LineList::focusOutEvent(QFocusEvent *event) {

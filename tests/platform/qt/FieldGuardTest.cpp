@@ -1,30 +1,25 @@
-#include "platform/qt/Desk.h"
-#include "platform/qt/LineList.h"
 #include "platform/qt/Screen.h"
-#include "support/Print.h"
+#include "support/ScreenTest.h"
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QTest>
 #include <QVBoxLayout>
-
-#include <gtest/gtest.h>
 
 namespace {
 
 /// A screen with every kind of control that writes down what happens in which order.
 class Probe : public Screen {
 public:
-  explicit Probe(Desk &desk) : Screen(desk, QStringLiteral("Probe"), 7) {
+  Probe(Desk &desk, Store &) : Screen(desk, QStringLiteral("Probe"), 7) {
     auto *layout = new QVBoxLayout(this);
     for (QWidget *control : std::initializer_list<QWidget *>{text, other, combo, check, button, list})
       layout->addWidget(control);
+    list->setObjectName(QStringLiteral("list"));
     combo->addItems({QStringLiteral("ok"), QStringLiteral("naS")});
     setUp();
-    list->fill(
-        {QStringLiteral("A     1"), QStringLiteral("B     2"), QStringLiteral("C     3"), QStringLiteral("D     4")});
+    list->fill(lines({"A     1", "B     2", "C     3", "D     4"}));
     onLeave(text, [this] { note("text=" + text->text().toStdString()); });
     onLeave(combo, [this] { note("combo=" + std::to_string(combo->currentIndex())); });
     connect(button, &QPushButton::clicked, this, [this] { note("click"); });
@@ -32,17 +27,18 @@ public:
     connect(list, &LineList::chosen, this, [this](int row) { note("row" + std::to_string(row)); });
   }
 
-  void start() {
-    show();
-    activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(this));
-    text->setFocus();
-    QTest::keyClicks(text, QStringLiteral("83,5"));
-    log.clear();
+  static QStringList lines(std::initializer_list<const char *> texts) {
+    QStringList all;
+    for (const char *text : texts)
+      all << QLatin1String(text);
+    return all;
   }
-
   void note(const std::string &what) { log += (log.empty() ? "" : " ") + what; }
-  void becomeActive() override { ++activations; }
+  void reorder() { list->fill(lines({"C     3", "A     1", "B     2"})); }
+  void becomeActive() override {
+    if (++activations > 1)
+      reorder();
+  }
 
   std::string log;
   int activations = 0;
@@ -56,138 +52,140 @@ protected:
   void closing() override { note("save"); }
 };
 
-class FieldGuardTest : public testing::Test {
+/// Each test begins in the text field, into which something was typed.
+class FieldGuardTest : public ScreenTest<Probe> {
 protected:
-  void press(int row) {
-    const QRect area = probe.list->visualRect(probe.list->model()->index(row, 0));
-    QTest::mouseClick(probe.list->viewport(), Qt::LeftButton, {}, area.center());
-  }
+  FieldGuardTest() { start(); }
 
-  WindowPlaces places;
-  int saves = 0;
-  Desk desk{places, [this] { ++saves; }};
-  Probe probe{desk};
+  void start() {
+    open();
+    form->text->setFocus();
+    keys("83,5");
+  }
+  void clickLine(int line) { ScreenTest::clickLine("list", line); }
 };
 
 } // namespace
 
 TEST_F(FieldGuardTest, LeftBeforeTheClickActs) {
-  probe.start();
-  QTest::mouseClick(probe.button, Qt::LeftButton);
-  EXPECT_EQ(probe.log, "text=83,5 click");
-  probe.start();
-  press(2);
-  EXPECT_EQ(probe.log, "text=83,583,5 row2");
-  probe.start();
-  QTest::mouseClick(probe.check, Qt::LeftButton, {}, {8, probe.check->height() / 2});
-  EXPECT_EQ(probe.log.substr(probe.log.size() - 5), "check");
+  QTest::mouseClick(form->button, Qt::LeftButton);
+  EXPECT_EQ(form->log, "text=83,5 click");
+  start();
+  clickLine(2);
+  EXPECT_EQ(form->log, "text=83,5 row2");
+  start();
+  QTest::mouseClick(form->check, Qt::LeftButton, {}, {8, form->check->height() / 2});
+  EXPECT_EQ(form->log, "text=83,5 check");
 }
 
-TEST_F(FieldGuardTest, LeftOnceByTabAlsoUntyped) {
-  probe.start();
-  QTest::keyClick(probe.text, Qt::Key_Tab);
-  EXPECT_EQ(probe.log, "text=83,5");
-  QTest::keyClick(probe.other, Qt::Key_Backtab);
-  QTest::keyClick(probe.text, Qt::Key_Tab);
-  EXPECT_EQ(probe.log, "text=83,5 text=83,5");
-}
-
-TEST_F(FieldGuardTest, LeftOnceByClosingBeforeTheClosingSteps) {
-  probe.start();
-  probe.close();
-  EXPECT_EQ(probe.log, "text=83,5 save");
-  EXPECT_EQ(saves, 1);
+TEST_F(FieldGuardTest, LeftOnceByTabAlsoUntypedAndByClosingBeforeTheClosingSteps) {
+  key(Qt::Key_Tab);
+  EXPECT_EQ(form->log, "text=83,5");
+  key(Qt::Key_Backtab);
+  key(Qt::Key_Tab);
+  EXPECT_EQ(form->log, "text=83,5 text=83,5");
+  start();
+  form->close();
+  EXPECT_EQ(form->log, "text=83,5 save");
+  EXPECT_TRUE(test.hasFile(QStringLiteral("TopLeft.dat")));
 }
 
 TEST_F(FieldGuardTest, NotLeftForPopupsHiddenWindowsOrOtherPrograms) {
-  probe.start();
   QApplication::setActiveWindow(nullptr);
-  QApplication::setActiveWindow(&probe);
-  EXPECT_EQ(probe.log, "");
-  QTest::keyClick(probe.text, Qt::Key_Menu);
-  EXPECT_EQ(probe.log, "");
+  QApplication::setActiveWindow(form.get());
+  key(Qt::Key_Menu);
+  EXPECT_EQ(form->log, "");
   if (auto *popup = QApplication::activePopupWidget())
     popup->close();
-  probe.hide();
-  EXPECT_EQ(probe.log, "text=83,5");
+  form->hide();
+  EXPECT_EQ(form->log, "text=83,5");
 }
 
 TEST_F(FieldGuardTest, LeftBeforeAnotherScreenBecomesActiveButNotForOneThatRaisesItself) {
-  Probe beside(desk);
-  desk.show(probe);
-  probe.start();
-  const int before = probe.activations;
+  Probe beside(desk, store);
   QWidget reminder;
   reminder.setAttribute(Qt::WA_ShowWithoutActivating);
   auto *edit = new QLineEdit(&reminder);
   reminder.show();
   edit->setFocus();
-  EXPECT_EQ(probe.log, "");
+  EXPECT_EQ(form->log, "");
   desk.show(beside);
-  EXPECT_EQ(probe.log, "text=83,5");
+  EXPECT_EQ(form->log, "text=83,5");
   EXPECT_EQ(beside.activations, 1);
-  desk.show(probe);
-  EXPECT_EQ(probe.activations, before + 1);
+  desk.show(*form);
+  EXPECT_EQ(form->activations, 2);
 }
 
 TEST_F(FieldGuardTest, ComboOpensWithoutLeavingAndTheWheelNeedsTheFocus) {
-  probe.start();
-  QWheelEvent wheel({5, 5}, probe.combo->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
-  QApplication::sendEvent(probe.combo, &wheel);
-  EXPECT_EQ(probe.combo->currentIndex(), 0);
-  probe.combo->setFocus();
-  QTest::keyClick(probe.combo, Qt::Key_Down);
-  press(1);
-  EXPECT_EQ(probe.log, "text=83,5 combo=1 row1");
+  auto *combo = form->combo;
+  QWheelEvent wheel({5, 5}, combo->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(combo, &wheel);
+  EXPECT_EQ(combo->currentIndex(), 0);
+  combo->setFocus();
+  key(Qt::Key_Down);
+  clickLine(1);
+  EXPECT_EQ(form->log, "text=83,5 combo=1 row1");
 }
 
 TEST_F(FieldGuardTest, EnterPressesTheFocusedButtonOnly) {
-  probe.start();
-  QTest::keyClick(probe.text, Qt::Key_Return);
-  EXPECT_EQ(probe.log, "");
-  probe.button->setFocus();
-  QTest::keyClick(probe.button, Qt::Key_Return);
-  QTest::keyClick(probe.button, Qt::Key_Space);
-  EXPECT_EQ(probe.log, "text=83,5 click click");
+  key(Qt::Key_Return);
+  EXPECT_EQ(form->log, "");
+  form->button->setFocus();
+  key(Qt::Key_Return);
+  key(Qt::Key_Space);
+  EXPECT_EQ(form->log, "text=83,5 click click");
 }
 
 TEST_F(FieldGuardTest, ListIsChosenByPressAndKeysOnly) {
-  probe.start();
-  probe.list->setFocus();
-  probe.list->choose(3);
-  probe.log.clear();
-  press(3);
-  QTest::keyClick(probe.list, Qt::Key_Up);
-  QTest::mouseClick(probe.list->viewport(), Qt::RightButton, {}, {5, 5});
-  QTest::mouseClick(probe.list->viewport(), Qt::LeftButton, {}, {5, probe.list->viewport()->height() - 1});
-  EXPECT_EQ(probe.log, "row3 row2");
+  form->list->setFocus();
+  form->list->choose(3);
+  clickLine(3);
+  key(Qt::Key_Up);
+  QTest::mouseClick(form->list->viewport(), Qt::RightButton, {}, {5, 5});
+  QTest::mouseClick(form->list->viewport(), Qt::LeftButton, {}, {5, form->list->viewport()->height() - 1});
+  EXPECT_EQ(form->log, "text=83,5 row3 row2");
 }
 
 TEST_F(FieldGuardTest, LineAimedAtIsFoundAgainAfterARefillByTheFieldLeft) {
-  probe.start();
-  desk.guard().onLeave(probe.text, [this] {
-    probe.list->fill({QStringLiteral("C     3"), QStringLiteral("A     1"), QStringLiteral("B     2")});
-  });
-  press(1); // the line of B
-  EXPECT_EQ(probe.log, "row2");
-  EXPECT_EQ(probe.list->chosenLine(), 2);
+  desk.guard().onLeave(form->text, [this] { form->reorder(); });
+  clickLine(1); // the line of B
+  EXPECT_EQ(form->log, "row2");
+  EXPECT_EQ(form->list->chosenLine(), 2);
+}
+
+// The press that brings the window to the front makes it active first; nothing is painted in between.
+TEST_F(FieldGuardTest, LineAimedAtIsFoundAgainAfterARefillByTheActivation) {
+  Probe beside(desk, store);
+  desk.show(beside);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&beside));
+  form->log.clear();
+  QApplication::setActiveWindow(form.get());
+  clickLine(1); // the line of B
+  EXPECT_EQ(form->log, "text=83,5 row2");
+}
+
+TEST_F(FieldGuardTest, PastedLinesBecomeOne) {
+  QApplication::clipboard()->setText(QStringLiteral("SC\r\nAlm\nTal"));
+  form->text->selectAll();
+  form->text->paste();
+  EXPECT_EQ(form->text->text(), QStringLiteral("SC Alm Tal"));
 }
 
 TEST_F(FieldGuardTest, PlaceOfTheWindowIsKeptInTwentiethsOfAPoint) {
+  auto &places = store.Fenster;
   places.FensterLeft[7] = 300;
   places.FensterTop[7] = 600;
-  Probe placed(desk);
-  EXPECT_EQ(placed.pos(), QPoint(20, 40));
-  placed.show();
-  placed.move(30, 50);
-  placed.close();
+  open();
+  EXPECT_EQ(form->pos(), QPoint(20, 40));
+  form->move(30, 50);
+  form->close();
   EXPECT_EQ(places.FensterLeft[7], 450);
   EXPECT_EQ(places.FensterTop[7], 750);
 }
 
 TEST(MarkList, ClickAndBlankToggleOneLineArrowsNone) {
   MarkList list;
-  list.fill({QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")});
+  list.fill(Probe::lines({"A", "B", "C"}));
   list.show();
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&list));
   const auto press = [&](int row) {
