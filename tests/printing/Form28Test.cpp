@@ -7,7 +7,8 @@ using Form28Test = ScreenTest<Form28>;
 
 TEST_F(Form28Test, TheChosenPrinterBecomesTheCurrentOne) {
   FakePrinters fake;
-  open(*fake.printers);
+  form = std::make_unique<Form28>(desk, *fake.printers);
+  desk.show(*form);
   EXPECT_EQ(lines("List1"), (QStringList{QStringLiteral("Laser"), QStringLiteral("Alt")}));
   EXPECT_FALSE(find("Command2")->isEnabled());
   clickLine("List1", 1);

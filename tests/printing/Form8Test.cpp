@@ -62,6 +62,7 @@ TEST_F(Form8Test, OpensWithTheStoredChoicesAndTheRankedParticipants) {
   EXPECT_TRUE(choice("Combo1") == 2 && choice("Combo2") == 3 && choice("Combo4") == 5);
 }
 
+// The club filter takes the chosen club, and nobody without a choice.
 TEST_F(Form8Test, EachButtonPrintsItsDocumentAndIsUsableAgain) {
   open();
   for (const auto &[button, document] :
@@ -73,10 +74,6 @@ TEST_F(Form8Test, EachButtonPrintsItsDocumentAndIsUsableAgain) {
     EXPECT_TRUE(find(button)->isEnabled());
     EXPECT_EQ(label("letzteDatei"), QLatin1String(document) + QStringLiteral(".pdf"));
   }
-}
-
-TEST_F(Form8Test, ClubFilterTakesTheChosenClubAndNobodyWithoutAChoice) {
-  open();
   press("Check1");
   press("Command3");
   EXPECT_FALSE(printed("MOSER"));
@@ -97,18 +94,18 @@ TEST_F(Form8Test, CertificatesOfTheMarkedLinesEachADocumentUntilThePrinterRefuse
   EXPECT_TRUE(printed("Meisterschaft") && !printed("belegte den"));
   EXPECT_EQ(fake.documents.size(), 4);
   fake.refuse = true;
-  QStringList reports;
+  int reports = 0;
   QTimer watch;
   QObject::connect(&watch, &QTimer::timeout, [&] {
     if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
-      reports << box->text();
+      reports += box->text().contains(QStringLiteral("Der Drucker ist nicht bereit."));
       box->accept();
     }
   });
   watch.start(1);
   press("Command5");
   press("Command2");
-  EXPECT_EQ(reports.filter(QStringLiteral("Der Drucker ist nicht bereit.")).size(), 2) << "one for each run";
+  EXPECT_EQ(reports, 2) << "one for each run";
   EXPECT_TRUE(find("Command2")->isEnabled());
 }
 

@@ -45,23 +45,15 @@ TEST(PdfFileTest, IsNamedByRaceDocumentAndTimeAndWritesOverNothing) {
   EXPECT_TRUE(text.count(QStringLiteral("Größe Äöüß")) == 3 && text.count(QStringLiteral("Urkunde")) == 3);
 }
 
-TEST(PdfFileTest, AFullDiskIsReportedAndLeavesNoCutOffFile) {
+TEST(PdfFileTest, AFullDiskIsAFaultOfPrintingAndLeavesNoCutOffFile) {
   const QTemporaryDir folder;
+  Printers printers([] { return SystemPrinters(); }, {pdfPrinter(folder.path(), [] { return When; })});
   rlimit before;
   getrlimit(RLIMIT_FSIZE, &before);
   std::signal(SIGXFSZ, SIG_IGN);
   const rlimit small{4096, before.rlim_max};
   setrlimit(RLIMIT_FSIZE, &small);
-  EXPECT_THROW(writePdf(folder.path(), When, document()), FileFault);
-  setrlimit(RLIMIT_FSIZE, &before);
-  EXPECT_TRUE(QDir(folder.path()).isEmpty());
-}
-
-TEST(PdfFileTest, AFailureIsAFaultOfPrinting) {
-  const QTemporaryDir folder;
-  const QString blocked = folder.path() + QStringLiteral("/Ausdrucke");
-  writeFile(blocked, "a file stands where the folder must go");
-  Printers printers([] { return SystemPrinters(); }, {pdfPrinter(blocked, [] { return When; })});
   EXPECT_THROW(printers.print(document()), PrintFault);
-  EXPECT_TRUE(printers.lastFile().isEmpty());
+  setrlimit(RLIMIT_FSIZE, &before);
+  EXPECT_TRUE(QDir(folder.path()).isEmpty() && printers.lastFile().isEmpty());
 }
