@@ -17,8 +17,9 @@ protected:
     test.addRace(QStringLiteral("Riesentorlauf"));
     for (const auto &[name, seconds, from] :
          {std::tuple("BERGER Anna", 40, club), std::tuple("ÖLLINGER Karl", 38, other),
-          std::tuple("MOSER Hans", 41, club), std::tuple("STEINER Eva", 0, club)})
+          std::tuple("MOSER Hans", 41, club), std::tuple("STEINER Eva", 42, club)})
       store.Teilnehmer[test.enter(test.addAthlete(QString::fromUtf8(name), 1990, 1, from), 11)].Zeit1 = seconds;
+    store.Teilnehmer[4].Status1 = 3;
     KlassenZuordnen(store);
   }
   void open() { ScreenTest::open(*fake.printers); }
@@ -40,6 +41,7 @@ protected:
 } // namespace
 
 TEST_F(Form8Test, OpensWithTheStoredChoicesAndTheRankedParticipants) {
+  store.KlasseGenauName.fill(QStringLiteral("Herren"));
   store.Rennen.UrkundeBild = 9;
   store.Rennen.BestzeitText = 3;
   store.Rennen.BestzeitAbKlasse = 17;
@@ -48,7 +50,7 @@ TEST_F(Form8Test, OpensWithTheStoredChoicesAndTheRankedParticipants) {
   EXPECT_FALSE(shown("Combo3") || shown("Text1"));
   ASSERT_EQ(lines("List2").size(), 3);
   EXPECT_EQ(lines("List2")[0],
-            QStringLiteral("   1. ÖLLINGER Karl             AK 2").leftJustified(64) + QLatin1Char('2'));
+            QStringLiteral("   1. ÖLLINGER Karl             Herren").leftJustified(64) + QLatin1Char('2'));
   EXPECT_TRUE(choice("Combo1") == 0 && choice("Combo2") == 3 && choice("Combo4") == 17);
   EXPECT_EQ(store.Rennen.UrkundeBild, 9) << "a choice beyond the list stays until a pick";
   pick("Combo1", 2);
