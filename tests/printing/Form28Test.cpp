@@ -1,29 +1,19 @@
 #include "printing/Form28.h"
 
-#include "platform/qt/Desk.h"
-#include "platform/qt/LineList.h"
 #include "support/FakePrinters.h"
-#include "support/TestStore.h"
+#include "support/ScreenTest.h"
 
-#include <QPushButton>
-#include <QTest>
+using Form28Test = ScreenTest<Form28>;
 
-#include <gtest/gtest.h>
-
-TEST(Form28Test, TheChosenPrinterBecomesTheCurrentOne) {
-  TestStore test;
-  Desk desk{test.store.Fenster, [] {}};
+TEST_F(Form28Test, TheChosenPrinterBecomesTheCurrentOne) {
   FakePrinters fake;
-  Form28 form(desk, *fake.printers);
-  desk.show(form);
-  auto *list = form.findChild<LineList *>(QStringLiteral("List1"));
-  auto *take = form.findChild<QPushButton *>(QStringLiteral("Command2"));
-  EXPECT_EQ(list->lines(), (QStringList{QStringLiteral("Laser"), QStringLiteral("Alt")}));
-  EXPECT_FALSE(take->isEnabled());
-  QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(1, 0)).center());
-  EXPECT_TRUE(take->isEnabled());
+  form = std::make_unique<Form28>(desk, *fake.printers);
+  desk.show(*form);
+  EXPECT_EQ(lines("List1"), (QStringList{QStringLiteral("Laser"), QStringLiteral("Alt")}));
+  EXPECT_FALSE(find("Command2")->isEnabled());
+  clickLine("List1", 1);
   EXPECT_EQ(fake.printers->DeviceName(), QStringLiteral("Laser"));
-  QTest::mouseClick(take, Qt::LeftButton);
-  EXPECT_FALSE(form.isVisible());
+  press("Command2");
+  EXPECT_FALSE(form->isVisible());
   EXPECT_EQ(fake.printers->DeviceName(), QStringLiteral("Alt"));
 }

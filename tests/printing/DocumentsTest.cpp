@@ -1,0 +1,167 @@
+#include "printing/Documents.h"
+
+#include "core/Classes.h"
+#include "core/SingleTimes.h"
+#include "platform/Dates.h"
+#include "support/TestStore.h"
+#include "timing/Ranking.h"
+
+#include <QDir>
+#include <QRegularExpression>
+
+namespace {
+
+struct Person {
+  int startNr;
+  QByteArray name;
+  int year, sex, club, gruppe, gast;
+  double zeit1;
+  int status1 = 0;
+  double zeit2 = 0;
+  int status2 = 0;
+};
+
+/// AIGNER has no sex; the lists end at WOLF, who has no start number.
+const QList<Person> Field{{1, "HUBER Lena", 2014, 0, 1, 0, 0, 30.1, 0, 31.2},
+                          {2, "ÖLLER Tim", 2013, 1, 2, 2, 1, 28.1, 0, 28},
+                          {3, "AIGNER Max", 2015, 2, 0, 2, 0, 35, 0, 36},
+                          {4, "MAYR Eva", 1990, 0, 3, 2, 0, 28.5, 0, 28.5},
+                          {5, "ZAUNER Ida", 2008, 0, 1, 5, 1, 26, 0, 27},
+                          {6, "EBNER Pia", 1985, 0, 1, 5, 0, 29, 0, 30, 3},
+                          {7, "GRUBER Jo", 2006, 1, 1, 5, 0, 0, 1},
+                          {8, "FREIHERR VON HOHENSTEIN Maximilian", 1960, 1, 3, 2, 0, 3725.5, 0, 60},
+                          {9, "BERG Bo", 1970, 1, 2, 5, 1, 41, 2, 0, 3},
+                          {0, "WOLF Ute", 1971, 0, 1, 5, 1, 26.5},
+                          {10, "ZACHER Udo", 1972, 1, 1, 5, 0, 0, 1}};
+
+/// Each document printed is compared with the text in tests/data/<folder>/<document>.txt.
+class DocumentsTest : public testing::Test {
+protected:
+  DocumentsTest() {
+    QDir::setCurrent(test.folder.path()); // for the logo
+    store.OrganisationName = QStringLiteral("Schiklub Übelbach");
+    test.addClub(QStringLiteral("SK Alm"));
+    test.addClub(QStringLiteral("Turnverein Bergheim an der Enge"));
+    store.Verein.VereinKurz.clear();
+    VereinSchreiben(store);
+    test.addClub(QStringLiteral("Schiunion Oberes Inntal Nord"));
+    test.addRace(QStringLiteral("Vereinsmeisterschaft im Riesentorlauf der Sektion Hinterberg"));
+    store.Rennen.RennenOrt = QStringLiteral("Hinterberg");
+    store.Rennen.RennenDatum = toDays(QDate(2026, 1, 10));
+    store.Rennen.ZuschlagGast = 2;
+    store.KlasseName.fill({});
+  }
+  ~DocumentsTest() override { QDir::setCurrent(before); }
+
+  void addClass(int k, const char *name, int von, int bis, int order, int orderOfGuests) {
+    store.KlasseName[k] = store.KlasseGenauName[exactClass(k, 0, 0, 0)] = QLatin1String(name);
+    store.KlasseGenauName[exactClass(k, 0, 1, 0)] = store.KlasseName[k] + QStringLiteral(" Gäste");
+    store.KlasseReihenfolge(k, 0, 0, 0) = qint16(order);
+    store.KlasseReihenfolge(k, 0, 1, 0) = qint16(orderOfGuests);
+    store.KlasseVon[k] = von;
+    store.KlasseBis[k] = bis;
+  }
+  void enter(const QList<Person> &persons) {
+    for (const Person &p : persons) {
+      auto &row =
+          store.Teilnehmer[test.enter(test.addAthlete(QString::fromUtf8(p.name), p.year, p.sex, p.club), p.startNr)];
+      std::tie(row.GruppeNr, row.Gast, row.Zeit1, row.Status1) = std::tie(p.gruppe, p.gast, p.zeit1, p.status1);
+      if (store.Rennen.ZweiDurchgaenge == 1)
+        std::tie(row.Zeit2, row.Status2) = std::tie(p.zeit2, p.status2);
+    }
+    KlassenZuordnen(store);
+    ErgebnisRechnen(store);
+  }
+  /// Of each page its number, its bands or lines, and the first and last row below each.
+  static QString outline(const QStringList &lines) {
+    static const QRegularExpression mark(QStringLiteral("Seite|^fill|11 italic|width 1 0|Name 1"));
+    static const QRegularExpression between(QStringLiteral("(\n[^\n]*Name 1[^\n]*)(?:\n[^\n]*Name 1[^\n]*)+(?=(?1))"));
+    return lines.filter(mark).join(QLatin1Char('\n')).replace(between, QStringLiteral("\\1"));
+  }
+  void compare(const Recording &printed) {
+    ++documents;
+    const QString file = folder + QLatin1Char('/') + printed.name + QStringLiteral(".txt");
+    const QStringList lines = asText(printed);
+    const QString text = folder == QLatin1String("Seiten") ? outline(lines) : lines.join(QLatin1Char('\n'));
+    EXPECT_EQ(text.toStdString(), expectedPrint(file.toUtf8()).join(QLatin1Char('\n')).toStdString())
+        << file.toStdString();
+  }
+  void printLists() {
+    Ergebnisliste(store, druck, {});
+    for (const auto print : {Teilnehmerliste, AlphabetischeListe, StartlisteZweiterDurchgang, NichtInDerWertung})
+      print(store, druck);
+  }
+
+  TestStore test;
+  Store &store = test.store;
+  const QString before = QDir::currentPath();
+  QString folder;
+  int documents = 0;
+  Druckschicht druck{[this](const Recording &printed) { compare(printed); }};
+};
+
+} // namespace
+
+// "Kinder" and their guests are one section, the guests of "Jugend" and "Allgemein" another.
+TEST_F(DocumentsTest, TwoRunsByClasses) {
+  folder = QStringLiteral("Klassen");
+  store.Rennen.ZweiDurchgaenge = store.Rennen.WertGaeste = store.Rennen.BestzeitAbKlasse = 1;
+  store.Rennen.RennenKurz = QStringLiteral("Riesentorlauf");
+  store.Rennen.Kurssetzung = QStringLiteral("Karl Kurz");
+  store.Rennen.UrkundeBild = store.Rennen.BestzeitText = 4;
+  addClass(1, "Kinder", 2012, 2016, 1, 1);
+  addClass(2, "Jugend", 2005, 2011, 3, 2);
+  addClass(3, "Allgemein", 1950, 2004, 2, 4);
+  enter(Field);
+  Urkunde(store, druck, 5, {});
+  printLists();
+  Titelblatt(store, druck, {});
+  store.ZeitsummeRennenKurz[1] = QStringLiteral("Slalom");
+  store.ZeitsummeRennenKurz[2] = QStringLiteral("Super-G");
+  store.CupZeit(5, 1) = 15;
+  store.CupZeit(5, 2) = 25;
+  singleTimesSpeichern(store);
+  Ergebnisliste(store, druck, 1);
+  EXPECT_EQ(documents, 8);
+}
+
+TEST_F(DocumentsTest, OneRunByGroups) {
+  folder = QStringLiteral("Gruppen");
+  store.Rennen.WertKlassen = 0;
+  store.Rennen.Rennleiter = QStringLiteral("Rudi Rot");
+  store.Rennen.Tore = QStringLiteral("34 Tore");
+  store.Rennen.BestzeitText = 3;
+  store.Rennen.UrkundeBild = 8;
+  store.GruppeName[2] = QStringLiteral("Firma Alm");
+  store.GruppeName[5] = QStringLiteral("Gäste");
+  addClass(1, "Alle", 1950, 2020, 1, 1);
+  enter(Field);
+  test.writeFile(QStringLiteral("Logo.jpg"), "any picture");
+  printLists();
+  Urkunde(store, druck, 5, UrkundenText{QStringLiteral("hat an der"), QString(), QStringLiteral("teilgenommen.")});
+  QImage(100, 50, QImage::Format_RGB32).save(store.DatenOrdner + QStringLiteral("b.jpg"));
+  Werbung werbung;
+  werbung.fill({true, QStringLiteral("b.jpg"), QStringLiteral("20,5"), QStringLiteral("240"), QStringLiteral("200")});
+  werbung[0].datei = QStringLiteral("fehlt.jpg");
+  werbung[1].gewaehlt = false;
+  Titelblatt(store, druck, werbung);
+  EXPECT_EQ(documents, 7);
+}
+
+// The second class begins at the foot of the first page and goes on to a third.
+TEST_F(DocumentsTest, PagesBreakByRowAndByClass) {
+  folder = QStringLiteral("Seiten");
+  addClass(1, "Eins", 1980, 1980, 1, 1);
+  addClass(2, "Zwei", 1990, 1990, 2, 2);
+  QList<Person> persons;
+  for (int nr = 1; nr <= 93; ++nr)
+    persons << Person{nr, "Name " + QByteArray::number(nr + 100), nr <= 43 ? 1980 : 1990, 1, 0, 0, 0, 30.0 + nr};
+  enter(persons);
+  printLists();
+  singleTimesSpeichern(store);
+  Ergebnisliste(store, druck, {});
+  for (int row = 1; row <= 93; ++row)
+    store.Teilnehmer[row].Status1 = 3;
+  NichtInDerWertung(store, druck);
+  EXPECT_EQ(documents, 6);
+}

@@ -1,0 +1,37 @@
+#include "printing/Form21.h"
+
+#include "support/ScreenTest.h"
+
+using Form21Test = ScreenTest<Form21>;
+
+TEST_F(Form21Test, TheBannerLastClickedMovesWithinThePage) {
+  open();
+  press("Command2");
+  press("Check1_3");
+  for (const char *button : {"Command2", "Command2", "Command3", "Command4", "Command4", "Command5"})
+    press(button);
+  EXPECT_EQ(text("Text3_3"), QStringLiteral("249"));
+  type("Text3_3", "300");
+  EXPECT_EQ(text("Text3_3"), QStringLiteral("283"));
+  press("Command5");
+  find("Text1_0")->setFocus();
+  press("Command3");
+  press("Command1");
+  const QByteArray file = test.file(QStringLiteral("werbung.dat"));
+  EXPECT_TRUE(file.startsWith(" 0 \r\nwerbung1.jpg\r\n18\r\n235\r\n100\r\n"));
+  EXPECT_TRUE(file.contains(" 1 \r\nwerbung4.jpg\r\n137\r\n283\r\n100\r\n"));
+}
+
+TEST_F(Form21Test, APictureThatIsThereStandsInThePreviewInTrueScale) {
+  QImage(10, 5, QImage::Format_RGB32).save(store.DatenOrdner + QStringLiteral("werbung1.jpg"));
+  open();
+  press("Check1_0");
+  press("Check1_1");
+  EXPECT_FALSE(shown("Image1_1"));
+  find("Text4_0")->setFocus();
+  key(Qt::Key_Home);
+  key(Qt::Key_9);
+  EXPECT_EQ(find("Image1_0")->geometry(), QRect(76, 272, 10, 5)) << "typing alone shows nothing";
+  key(Qt::Key_Return);
+  EXPECT_EQ(find("Image1_0")->geometry(), QRect(76, 272, 80, 40));
+}
