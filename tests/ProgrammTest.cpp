@@ -1,58 +1,11 @@
-#include "Programm.h"
-
 #include "core/RaceFiles.h"
-#include "platform/qt/LineList.h"
-#include "platform/qt/Screen.h"
-#include "support/FakePrinters.h"
-#include "support/TestStore.h"
+#include "support/RoofTest.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTest>
 #include <QTimer>
 
 namespace {
 
-class ProgrammTest : public testing::Test {
-protected:
-  ~ProgrammTest() override { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
-
-  void start() {
-    programm = std::make_unique<Programm>(test.store, *printers.printers);
-    programm->start();
-  }
-  Screen *window(const char *name) {
-    for (auto *widget : QApplication::topLevelWidgets())
-      if (widget->objectName() == QLatin1String(name) && widget->isVisible())
-        return qobject_cast<Screen *>(widget);
-    return nullptr;
-  }
-  template <typename T> T *control(const char *screen, const char *name) {
-    return window(screen)->findChild<T *>(QLatin1String(name));
-  }
-  void press(const char *screen, const char *button) {
-    QTest::mouseClick(control<QPushButton>(screen, button), Qt::LeftButton);
-  }
-  void chooseLine(const char *screen, const char *name, int line) {
-    auto *list = control<LineList>(screen, name);
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(line, 0)).center());
-  }
-  std::string visible() {
-    QStringList names;
-    for (auto *widget : QApplication::topLevelWidgets())
-      if (widget->isVisible())
-        names << widget->objectName();
-    names.sort();
-    return names.join(QLatin1Char(' ')).toStdString();
-  }
-  QString text(const char *screen, const char *box) { return control<QLineEdit>(screen, box)->text(); }
-
-  TestStore test;
-  FakePrinters printers;
-  std::unique_ptr<Programm> programm;
-};
+using ProgrammTest = RoofTest;
 
 TEST_F(ProgrammTest, TheRegisterTakesThePlaceOfTheMenuAndKeepsTheOpenRace) {
   test.addRace(QStringLiteral("Slalom"));
@@ -118,7 +71,7 @@ TEST_F(ProgrammTest, ScreensBesideTheTimingCloseWithIt) {
   press("Form1", "Command3");
   press("Form4", "Command6");
   chooseLine("Form7", "List2", 0);
-  QTest::mouseClick(control<QAbstractButton>("Form7", "Check1"), Qt::LeftButton, {}, {8, 8});
+  press("Form7", "Check1");
   press("Form7", "Command7");
   EXPECT_EQ(visible(), "Form13 Form18 Form7");
   window("Form18")->close();

@@ -1,6 +1,5 @@
 #include "core/Classes.h"
 #include "core/RaceFiles.h"
-#include "platform/Files.h"
 #include "support/TestStore.h"
 
 #include <QDir>
@@ -15,13 +14,7 @@ constexpr int Races = 6, Unprepared = 3;
 /// The example event, copied into a folder of its own and opened.
 class Beispiel : public testing::Test {
 protected:
-  Beispiel() {
-    const QDir example(QStringLiteral(VEXT_BEISPIEL));
-    for (const QString &name : example.entryList(QDir::Files))
-      test.writeFile(name, readFile(example.filePath(name)));
-    storeStarten(store);
-    alleDateienOeffnen(store);
-  }
+  Beispiel() { test.takeOver(QStringLiteral(VEXT_BEISPIEL)); }
 
   void openRace(int number) {
     store.RennenIdx = store.AktRennen = number;
