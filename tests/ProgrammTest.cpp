@@ -1,65 +1,24 @@
-#include "Programm.h"
-
 #include "core/RaceFiles.h"
-#include "platform/qt/LineList.h"
-#include "platform/qt/Screen.h"
-#include "support/FakePrinters.h"
-#include "support/TestStore.h"
+#include "support/RoofTest.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QLineEdit>
-#include <QTest>
 #include <QTimer>
 
 namespace {
 
-class ProgrammTest : public StoreTest {
+class ProgrammTest : public RoofTest {
 protected:
-  ~ProgrammTest() override { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
-
   /// Starts over a store with these races, shows the register and presses a button of it.
   void start(std::initializer_list<const char *> races, const char *button = nullptr) {
     for (const char *race : races)
       test.addRace(QLatin1String(race));
     store.AktRennen = store.RennenIdx = 0;
-    programm = std::make_unique<Programm>(store, *printers.printers);
-    programm->start();
+    RoofTest::start();
     press("Form1", "Command3");
     if (button != nullptr)
       press("Form4", button);
   }
-  Screen *window(const char *name) {
-    for (auto *widget : QApplication::topLevelWidgets())
-      if (widget->objectName() == QLatin1String(name) && widget->isVisible())
-        return qobject_cast<Screen *>(widget);
-    return nullptr;
-  }
-  template <typename T> T *control(const char *screen, const char *name) {
-    return window(screen)->findChild<T *>(QLatin1String(name));
-  }
-  void press(const char *screen, const char *button) {
-    QTest::mouseClick(control<QAbstractButton>(screen, button), Qt::LeftButton);
-  }
-  void chooseLine(const char *screen, const char *name, int line) {
-    auto *list = control<LineList>(screen, name);
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(line, 0)).center());
-  }
-  std::string visible() {
-    QStringList names;
-    for (auto *widget : QApplication::topLevelWidgets())
-      if (widget->isVisible())
-        names << widget->objectName();
-    names.sort();
-    return names.join(QLatin1Char(' ')).toStdString();
-  }
   /// Number and name of the race in the register.
-  std::string race() {
-    return (control<QLineEdit>("Form4", "Text1")->text() + control<QLineEdit>("Form4", "Text2")->text()).toStdString();
-  }
-
-  FakePrinters printers;
-  std::unique_ptr<Programm> programm;
+  std::string race() { return (text("Form4", "Text1") + text("Form4", "Text2")).toStdString(); }
 };
 
 TEST_F(ProgrammTest, TheRegisterTakesThePlaceOfTheMenuAndKeepsTheOpenRace) {
@@ -115,7 +74,7 @@ TEST_F(ProgrammTest, ScreensBesideTheTimingCloseWithIt) {
   RennDatenSpeichern(store);
   start({}, "Command6");
   chooseLine("Form7", "List2", 0);
-  QTest::mouseClick(control<QAbstractButton>("Form7", "Check1"), Qt::LeftButton, {}, {8, 8});
+  press("Form7", "Check1");
   press("Form7", "Command7");
   press("Form7", "Command7"); // it stands already
   EXPECT_EQ(visible(), "Form13 Form18 Form7");

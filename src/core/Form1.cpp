@@ -34,7 +34,7 @@ Form1::~Form1() = default;
 
 void Form1::makePictures() {
   for (int i = 0; i < PictureCount; ++i) {
-    auto *picture = m_pictures.at(i) = new Picture(ui->bildRahmen);
+    auto *picture = m_pictures.at(std::size_t(i)) = new Picture(ui->bildRahmen);
     picture->setObjectName(QStringLiteral("Image") + plainText(i + 1));
     picture->setFile(QStringLiteral(":/bild%1.jpg").arg(i + 1));
     picture->hide();

@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int NewestKept = 3;
-constexpr qint64 SecondsOfDay = 24 * 60 * 60;
+constexpr qint64 SecondsOfDay = 86'400;
 constexpr qint64 DaysKept = 14;
 const auto NameFormat = QStringLiteral("yyyy-MM-dd HH-mm-ss-zzz");
 const auto Unfinished = QStringLiteral("unfertig");
@@ -54,8 +54,8 @@ bool linkFile(const QString &from, const QString &to) {
 
 } // namespace
 
-SafetyCopies::SafetyCopies(QString dataFolder, QString folder)
-    : m_dataFolder(std::move(dataFolder) + QLatin1Char('/')), m_folder(std::move(folder) + QLatin1Char('/')) {}
+SafetyCopies::SafetyCopies(const QString &dataFolder, const QString &folder)
+    : m_dataFolder(dataFolder + QLatin1Char('/')), m_folder(folder + QLatin1Char('/')) {}
 
 void SafetyCopies::make(const QDateTime &now) {
   const QStringList files = QDir(m_dataFolder)

@@ -7,7 +7,7 @@
 /// newest three stay, one an hour for a day, one a day for a fortnight.
 class SafetyCopies {
 public:
-  SafetyCopies(QString dataFolder, QString folder);
+  SafetyCopies(const QString &dataFolder, const QString &folder);
 
   /// Makes a copy, unless nothing has changed since the last, and removes what is outgrown. Unchanged files are linked
   /// to the last copy, not written again. A failure is a FileFault and leaves the earlier copies.

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <array>
+#include <ranges>
 
 namespace {
 
@@ -104,8 +105,8 @@ CupErgebnis cupAuswerten(Store &store, const QList<int> &races, qint64 streichre
   result.namen = gatherPersons(store, races);
   const Kriterien kriterien = kriterienMerken(store);
   store.CupRunden = 0;
-  for (auto race = races.crbegin(); race != races.crend(); ++race)
-    takeRounds(store, *race, kriterien);
+  for (const int race : std::ranges::reverse_view(races))
+    takeRounds(store, race, kriterien);
   const int persons = int(result.namen.size());
   result.gestrichen = int(std::min<qint64>(std::abs(streichresultate), store.CupRunden));
   resultateStreichen(store, persons, result.gestrichen);

@@ -11,6 +11,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <ranges>
 
 namespace {
 
@@ -109,8 +110,8 @@ void zeitsummeErzeugen(Store &store, const QList<int> &races, int number) {
   store.CupRunden = 0;
   takeBaseRace(store, races.first());
   const Kriterien kriterien = kriterienMerken(store);
-  for (auto race = races.crbegin(); race != races.crend(); ++race)
-    addRound(store, *race, kriterien);
+  for (const int race : std::ranges::reverse_view(races))
+    addRound(store, race, kriterien);
   putSums(store);
   writeRace(store, number);
 }

@@ -142,9 +142,14 @@ void Form3::LaeuferZeigen() {
   ui->List1->chooseByNumber(m_shown);
 }
 
+// The Tab key arrives at the one that is chosen, else at the first: the same keys give the same sex, whoever was
+// entered before.
 void Form3::showSex() {
+  const bool female = m_store.Laeufer.Geschlecht == 0;
   setChosen(ui->Option1, m_store.Laeufer.Geschlecht == 1);
-  setChosen(ui->Option2, m_store.Laeufer.Geschlecht == 0);
+  setChosen(ui->Option2, female);
+  ui->Option1->setFocusPolicy(female ? Qt::ClickFocus : Qt::StrongFocus);
+  ui->Option2->setFocusPolicy(female ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 void Form3::fillList() {

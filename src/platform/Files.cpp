@@ -9,7 +9,7 @@ QByteArray readFile(const QString &path) {
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly))
     throw FileFault(path, QStringLiteral("geöffnet"));
-  const QByteArray bytes = file.readAll();
+  QByteArray bytes = file.readAll();
   if (file.error() != QFileDevice::NoError)
     throw FileFault(path, QStringLiteral("gelesen"));
   return bytes;

@@ -61,7 +61,7 @@ void Form21::makePage() {
 }
 
 void Form21::makeRow(int i) {
-  const auto named = [this, i](const char *name) { return QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(i); };
+  const auto named = [i](const char *name) { return QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(i); };
   Row &row = m_rows[std::size_t(i)];
   row.check = findChild<QCheckBox *>(named("Check1"));
   row.datei = findChild<QLineEdit *>(named("Text1"));
@@ -82,7 +82,7 @@ void Form21::makeRow(int i) {
 
 // The bound stands in the field at once, also while a number is being typed.
 void Form21::hold(QLineEdit *field, const WerbeGrenze &range) {
-  connect(field, &QLineEdit::textChanged, this, [field, &range](const QString &text) {
+  connect(field, &QLineEdit::textChanged, this, [field, range](const QString &text) {
     if (const QString held = range.held(text); held != text)
       field->setText(held);
   });

@@ -22,12 +22,7 @@ QMap<QString, QByteArray> bytesOf(const QDir &folder) {
 /// The example event, copied into a folder of its own and opened.
 class Beispiel : public StoreTest {
 protected:
-  Beispiel() {
-    for (const auto &[name, bytes] : example.asKeyValueRange())
-      test.writeFile(name, bytes);
-    storeStarten(store);
-    alleDateienOeffnen(store);
-  }
+  Beispiel() { test.takeOver(QStringLiteral(VEXT_BEISPIEL)); }
 
   void openRace(int number) {
     store.RennenIdx = store.AktRennen = number;

@@ -4,7 +4,16 @@
 #include "platform/Dates.h"
 #include "platform/Files.h"
 
+#include <QDir>
 #include <QFile>
+
+void TestStore::takeOver(const QString &from) {
+  const QDir source(from);
+  for (const QString &name : source.entryList(QDir::Files))
+    writeFile(name, readFile(source.filePath(name)));
+  storeStarten(store);
+  alleDateienOeffnen(store);
+}
 
 int TestStore::addClub(const QString &name) {
   VereinLeeren(store);

@@ -20,6 +20,8 @@ public:
     alleDateienOeffnen(store);
   }
 
+  /// Copies the files of a folder into the own one and starts anew with them.
+  void takeOver(const QString &from);
   /// The next club, named and abbreviated alike; gives its number.
   int addClub(const QString &name);
   /// The next athlete, born on 1 July of `year`; gives his number.

@@ -46,7 +46,7 @@ QByteArray pdfOf(const Recording &recording) {
 QString writePdf(const QString &folder, const QDateTime &when, const Recording &recording) {
   if (!QDir().mkpath(folder))
     throw FileFault(folder, QStringLiteral("angelegt"));
-  const QString path = freePath(QDir(folder).filePath(baseName(recording, when)));
+  QString path = freePath(QDir(folder).filePath(baseName(recording, when)));
   try {
     writeFile(path, pdfOf(recording));
   } catch (const FileFault &) {

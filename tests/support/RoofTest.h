@@ -1,0 +1,83 @@
+#pragma once
+
+#include "Programm.h"
+#include "platform/qt/LineList.h"
+#include "platform/qt/Screen.h"
+#include "support/FakePrinters.h"
+#include "support/TestStore.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLineEdit>
+#include <QTest>
+
+#include <memory>
+
+/// The whole program over a store, worked as a person works it: screens and controls are found by name.
+class RoofTest : public StoreTest {
+protected:
+  ~RoofTest() override { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+
+  void start(Store &started) {
+    programm = std::make_unique<Programm>(started, *printers.printers);
+    programm->start();
+  }
+  void start() { start(store); }
+
+  Screen *window(const char *name) {
+    for (auto *widget : QApplication::topLevelWidgets())
+      if (widget->objectName() == QLatin1String(name) && widget->isVisible())
+        return qobject_cast<Screen *>(widget);
+    return nullptr;
+  }
+  template <typename T> T *control(const char *screen, const char *name) {
+    return window(screen)->findChild<T *>(QLatin1String(name));
+  }
+  QString text(const char *screen, const char *box) { return control<QLineEdit>(screen, box)->text(); }
+  QStringList lines(const char *screen, const char *list) { return control<LineList>(screen, list)->lines(); }
+  /// The names of all windows that are to be seen.
+  std::string visible() {
+    QStringList names;
+    for (auto *widget : QApplication::topLevelWidgets())
+      if (widget->isVisible())
+        names << widget->objectName();
+    names.sort();
+    return names.join(QLatin1Char(' ')).toStdString();
+  }
+
+  void press(const char *screen, const char *button) {
+    auto *target = control<QAbstractButton>(screen, button);
+    QTest::mouseClick(target, Qt::LeftButton, {}, {8, target->height() / 2}); // a check box is narrower than its place
+  }
+  void press(const char *screen, std::initializer_list<const char *> buttons) {
+    for (const char *button : buttons)
+      press(screen, button);
+  }
+  void chooseLine(const char *screen, const char *name, int line) {
+    auto *list = control<LineList>(screen, name);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(line, 0)).center());
+  }
+
+  // The keyboard: keys go to the control that has the focus.
+
+  /// Waits until the keys go to this screen, the only one that is to be seen.
+  void arriveAt(const char *screen) {
+    ASSERT_EQ(visible(), screen);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window(screen)));
+  }
+  void key(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
+  void keys(std::initializer_list<Qt::Key> keys) {
+    for (const auto each : keys)
+      key(each);
+  }
+  void type(const char *keys) { QTest::keyClicks(QApplication::focusWidget(), QString::fromUtf8(keys)); }
+  void tabTo(const char *name) {
+    for (int steps = 0; QApplication::focusWidget()->objectName() != QLatin1String(name); ++steps) {
+      ASSERT_LT(steps, 50) << name << " is not reached by the Tab key";
+      key(Qt::Key_Tab);
+    }
+  }
+
+  FakePrinters printers;
+  std::unique_ptr<Programm> programm;
+};
