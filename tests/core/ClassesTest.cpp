@@ -1,6 +1,5 @@
 #include "core/Classes.h"
 
-#include "platform/Faults.h"
 #include "support/TestStore.h"
 
 namespace {
@@ -40,16 +39,4 @@ TEST_F(Classes, SwitchesActOnlyWhereTheRaceSplits) {
   KlassenZuordnen(store);
   EXPECT_EQ(row.KlasseReihe, 34);
   EXPECT_EQ(row.KlasseGenau, 59);
-}
-
-TEST_F(Classes, MissingSexInARaceSplitBySexNamesThePerson) {
-  enter(2013, 2);
-  KlassenZuordnen(store);
-  store.Rennen.WertGeschlecht = 1;
-  try {
-    KlassenZuordnen(store);
-    FAIL() << "no fault";
-  } catch (const RangeFault &fault) {
-    EXPECT_TRUE(fault.report().contains(QStringLiteral("HUBER Kim"))) << fault.what();
-  }
 }

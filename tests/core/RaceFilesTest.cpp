@@ -77,16 +77,6 @@ TEST_F(RaceFiles, SavingDropsFreeRowsAndNamesInRowThreeAlone) {
   EXPECT_EQ(store.Teilnehmer[5].LaeuferNr, 0);
 }
 
-TEST_F(RaceFiles, WithoutClassFileTheBuiltInClassesAndTheOrderOfTheRaceBefore) {
-  store.KlasseReihenfolge(20, 1, 0, 1) = 77;
-  store.Teilnehmer[4].KlasseGenau = 9;
-  RennDatenLaden(store);
-  EXPECT_EQ(store.KlasseName[8], QStringLiteral("Schüler U13"));
-  EXPECT_EQ(store.KlasseVon[16], 1976);
-  EXPECT_EQ(store.KlasseReihenfolge(20, 1, 0, 1), 77);
-  EXPECT_EQ(store.Teilnehmer[4].KlasseGenau, 9);
-}
-
 TEST_F(RaceFiles, RemindsOfAthletesWithoutSexOrBirthDate) {
   QStringList reminder;
   test.umgebung.erinnern = [&](const QStringList &lines) { reminder = lines; };

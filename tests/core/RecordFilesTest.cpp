@@ -83,23 +83,6 @@ TEST_F(RecordFiles, ReadingHoldsValuesInRange) {
   EXPECT_EQ(store.Rennen.BestzeitAbKlasse, 0);
 }
 
-TEST_F(RecordFiles, OutsideTheRangeABeepAndAnEmptyName) {
-  test.addClub(QStringLiteral("SK"));
-  test.addAthlete(QStringLiteral("A"), 2001, 0, 1);
-  store.VereinIdx = 2;
-  VereinLesen(store);
-  EXPECT_EQ(store.Verein.VereinKurz, QStringLiteral("SK"));
-  EXPECT_EQ(store.Verein.VereinName, QString());
-  store.VereinIdx = 0;
-  VereinLesen(store);
-  EXPECT_EQ(store.Verein.VereinKurz, QString());
-  store.LaeuferIdx = 2;
-  LaeuferLesen(store);
-  EXPECT_EQ(store.Laeufer.Name, QString());
-  EXPECT_EQ(store.Laeufer.Verein1, 1); // the other fields are still those of the athlete before
-  EXPECT_EQ(test.beeps, 3);
-}
-
 TEST_F(RecordFiles, NewRaceInheritsTheCriteriaAndNothingElse) {
   test.addRace(QStringLiteral("Erstes"));
   store.Rennen.ZweiDurchgaenge = 1;

@@ -13,19 +13,6 @@ TEST(ValueFormats, TimesAsPrinted) {
     EXPECT_EQ(ZeitText(seconds), QString::fromUtf8(text)) << seconds;
 }
 
-TEST(ValueFormats, SecondsAreKeptToTheThousandth) {
-  const ZeitTeile parts = ZeitZerlegen(59.999);
-  EXPECT_EQ(parts.ZeitMin, 0);
-  EXPECT_DOUBLE_EQ(parts.ZeitSek, 59.999);
-}
-
-TEST(ValueFormats, TypedTimes) {
-  const std::pair<const char *, const char *> cases[] = {
-      {"12.5", "12,5"}, {"", "0"}, {"   ", "0"}, {" 63,45 ", "63,45"}, {"1.234.5", "1,234.5"}};
-  for (const auto &[typed, stored] : cases)
-    EXPECT_EQ(KommaEingabe(QString::fromUtf8(typed)), QString::fromUtf8(stored));
-}
-
 TEST(ValueFormats, ValuesInColumns) {
   EXPECT_EQ(WertText8(12.5), QStringLiteral("   12,50"));
   EXPECT_EQ(WertText10(12.5), QStringLiteral("     12,50"));

@@ -22,7 +22,6 @@ protected:
 
 TEST_F(Form20Test, evaluatesTheMarkedRacesAndPrintsOnce) {
   open();
-  EXPECT_FALSE(enabled("Command1") || enabled("Command2") || shown("List4"));
   markAll();
   type("Text3", "5"); // held to the rounds
   press("Command1");
@@ -33,22 +32,9 @@ TEST_F(Form20Test, evaluatesTheMarkedRacesAndPrintsOnce) {
   press("Command1");
   EXPECT_EQ(text("Text3"), QStringLiteral("-1"));
   EXPECT_EQ(lines("List5"), cup.lines);
-  EXPECT_EQ(lines("List4").size(), lines("List3").size());
-  EXPECT_EQ(label("Label8"), QStringLiteral("6"));
   press("Command2");
   EXPECT_EQ(fake.documents.size(), 1);
   EXPECT_FALSE(enabled("Command2"));
-}
-
-TEST_F(Form20Test, aMarkTakenAwayLocksThePrintAndTheLastTheEvaluation) {
-  open();
-  markAll();
-  press("Command1");
-  clickLine("List1", 0);
-  EXPECT_TRUE(enabled("Command1") && !enabled("Command2"));
-  clickLine("List1", 1);
-  clickLine("List1", 2);
-  EXPECT_FALSE(enabled("Command1"));
 }
 
 TEST_F(Form20Test, pointsAreTypedDownTheTable) {
@@ -68,8 +54,6 @@ TEST_F(Form20Test, pointsAreTypedDownTheTable) {
   EXPECT_EQ(store.CupPunkteTabelle[10], 9999);
   type("Text1", "300");
   EXPECT_EQ(text("Text1"), QStringLiteral("100"));
-  type("Text1", "0");
-  EXPECT_EQ(text("Text1"), QStringLiteral("1"));
 }
 
 TEST_F(Form20Test, closingKeepsTheChoiceAndOpensTheRaceOfBefore) {

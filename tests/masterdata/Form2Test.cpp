@@ -4,20 +4,6 @@
 
 using Form2Test = ScreenTest<Form2>;
 
-TEST_F(Form2Test, FreshRegisterTakesItsFirstClubAndThenTheNext) {
-  open();
-  press("Command3");
-  EXPECT_EQ(text("Text1"), QStringLiteral("1"));
-  type("Text2", " SK A ");
-  press("Command3");
-  EXPECT_EQ(text("Text1"), QStringLiteral("2"));
-  press("Command2");
-  EXPECT_EQ(text("Text2"), QStringLiteral("SK A"));
-  EXPECT_EQ(test.beeps, 0);
-  press("Command2");
-  EXPECT_EQ(test.beeps, 1);
-}
-
 TEST_F(Form2Test, EachFieldGoesToItsPlaceAndTheTelephoneTakesTheContact) {
   open();
   for (int n = 2; n <= 11; ++n)

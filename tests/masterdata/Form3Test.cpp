@@ -20,18 +20,6 @@ protected:
 
 } // namespace
 
-TEST_F(Form3Test, FreshRegisterBeginsWithAnUnwrittenRecord) {
-  open();
-  EXPECT_EQ(text("Text1") + text("Text4"), QStringLiteral("101.01.1900"));
-  press("Command3");
-  EXPECT_EQ(test.file(QStringLiteral("Laeufer.rec")).size(), 0);
-  type("Text2", " HUBER Anna ");
-  form->close();
-  EXPECT_EQ(record(1).Name, QStringLiteral("HUBER Anna"));
-  EXPECT_EQ(store.Laeufer.Geschlecht, 2);
-  EXPECT_EQ(store.Laeufer.Geburtsdatum, 2.0);
-}
-
 TEST_F(Form3Test, IndexActsAtEachKeyAndIsHeldToTheRegister) {
   openWith({"A", "B", "C"});
   for (const auto &[typed, shown] : {std::pair("1", "1A"), {"9999", "3C"}, {"2", "2B"}, {"x", "1A"}}) {

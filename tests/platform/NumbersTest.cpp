@@ -58,10 +58,3 @@ TEST(Numbers, MasksRoundTheDecimalText) {
   }
   EXPECT_EQ(masked(0.285F, "0#.00"), QStringLiteral("00,29"));
 }
-
-TEST(Numbers, OnlyBlanksAreTrimmed) {
-  EXPECT_EQ(trimmedBlanks(u"  a b\t "), QStringLiteral("a b\t"));
-  EXPECT_EQ(trimmedBlanks(QString(3, QChar(0))).size(), 3);
-  EXPECT_EQ(rightAligned(QStringLiteral("123456"), 4), QStringLiteral("3456"));
-  EXPECT_EQ(padded(QStringLiteral("abc"), 5), QStringLiteral("abc  "));
-}

@@ -2,7 +2,6 @@
 
 #include "evaluation/Cup.h"
 #include "evaluation/CupScoring.h"
-#include "platform/print/PrintMetrics.h"
 #include "support/CupRaces.h"
 
 #include <QRegularExpression>
@@ -47,21 +46,6 @@ TEST_F(CupListTest, threeRacesWorkedOutByHand) {
   EXPECT_EQ(druck.Orientation, Druckschicht::Portrait);
 }
 
-TEST_F(CupListTest, clubTakesTheRoomThatTheNameLeaves) {
-  const int other = test.addClub(QStringLiteral("Union Skiklub Hinterberg an der Enge"));
-  for (const auto &[letters, verein1, verein3, shown] :
-       {std::tuple(30, other, 0, "|, Union Sk|"), std::tuple(30, 0, cup.club, "|, SC Alm|"), std::tuple(30, 0, 0, ""),
-        std::tuple(38, other, 0, "")}) {
-    store.LaeuferIdx = 1;
-    store.Laeufer.Name = QString(letters, QLatin1Char('N'));
-    store.Laeufer.Verein1 = qint16(verein1);
-    store.Laeufer.Verein2 = qint16(other);
-    store.Laeufer.Verein3 = qint16(verein3);
-    LaeuferSchreiben(store);
-    EXPECT_EQ(print(people(1, 0)).filter(QStringLiteral("|, ")).join(QString()), QLatin1String(shown));
-  }
-}
-
 TEST_F(CupListTest, pagesBreakByRowAndByClass) {
   for (const auto &[first, second, separate, pages, continued] :
        {std::tuple(36, 0, false, 1, 0), std::tuple(37, 0, false, 2, 1), std::tuple(36, 1, false, 2, 0),
@@ -72,23 +56,4 @@ TEST_F(CupListTest, pagesBreakByRowAndByClass) {
     EXPECT_EQ(lines.count(QStringLiteral("|  - Fortsetzung|")), continued);
     EXPECT_EQ(lines.filter(QStringLiteral("Arial 9 bold | 1 |")).size(), first + second) << "a tie goes on";
   }
-}
-
-TEST_F(CupListTest, cellsOfManyRoundsDoNotRunIntoEachOther) {
-  const QStringList keys = people(1, 0);
-  store.CupRunden = 10;
-  for (int round = 1; round <= 10; ++round) {
-    store.CupZeit(1, round) = 3725.5;
-    store.CupPunkte(1, round) = 100;
-    store.CupStatus(1, round) = store.CupStreich(1, round) = 0;
-  }
-  print(keys);
-  TextOperation last{};
-  for (const PrintOperation &operation : printed.pages[0])
-    if (const auto *text = std::get_if<TextOperation>(&operation)) {
-      EXPECT_GE(text->font.size, 5);
-      const double end = last.x + PrintMetrics::textWidth(last.font, last.text.trimmed());
-      EXPECT_TRUE(text->y != last.y || text->y < 31 || end <= text->x + 0.01) << text->x << ' ' << text->y;
-      last = *text;
-    }
 }

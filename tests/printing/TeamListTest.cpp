@@ -30,16 +30,6 @@ TEST_F(TeamListTest, teamsWithTheirMembers) {
             expectedPrint("Mannschaftsliste.txt"));
 }
 
-TEST_F(TeamListTest, clubsOfARaceWithTwoRuns) {
-  store.Rennen.ZweiDurchgaenge = 1;
-  store.Teilnehmer[3].Zeit2 = 39;
-  const QStringList lines = print({});
-  for (const char *line :
-       {"text 181.00 43.00 Arial 10 bold |2.DG|", "text 38.00 51.00 Arial 10 bold |TV Berg     TV Berg|",
-        "text 100.00 51.00 Arial 10 bold |Bestzeit:   1:19,00|", "text 175.00 56.85 Arial 8 |         39,00|"})
-    EXPECT_TRUE(lines.contains(QLatin1String(line))) << line;
-}
-
 TEST_F(TeamListTest, pagesBreakByTheLastPrintedRow) {
   const QString unit = QStringLiteral("     40,00 Die Schnellen      3"), member = QStringLiteral("CERNY Ida        3");
   Mannschaftsliste(store, druck, {{Einheit::Mannschaft}, {unit}}, [&](int) { return QStringList(42, member); });

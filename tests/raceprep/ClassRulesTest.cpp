@@ -1,6 +1,5 @@
 #include "raceprep/ClassRules.h"
 
-#include "core/Classes.h"
 #include "support/TestStore.h"
 
 namespace {
@@ -22,7 +21,6 @@ const struct {
     {"empty row inside stays, behind is cleared",
      {{"A", 2010, 2020}, {"", 2005, 2005}, {"C", 1950, 1960}, {"", 1, 2}},
      {{"A", 2010, 2026}, {"", 2005, 2009}, {"C", 1900, 2004}, {"", 0, 0}}},
-    {"one class takes everybody", {{"A", 2010, 2020}}, {{"A", 1900, 2026}}},
     {"no class has no year", {{"", 2010, 2020}}, {{"", 0, 0}}},
 };
 
@@ -44,15 +42,4 @@ TEST_F(ClassRules, NormalForm) {
       found.emplace_back(store.KlasseName[i].toStdString(), store.KlasseVon[i], store.KlasseBis[i]);
     EXPECT_EQ(found, after) << what;
   }
-}
-
-TEST_F(ClassRules, LinesOfTheBuiltInTable) {
-  takeStandardClasses(store);
-  const int row = test.enter(test.addAthlete(QStringLiteral("A"), 2026, 1));
-  test.enter(test.addAthlete(QStringLiteral("B"), 2025, 1));
-  store.Teilnehmer[row].Status1 = 1;
-  const QStringList lines = KlassenAktualisieren(store);
-  EXPECT_EQ(lines.first(), QStringLiteral(" 1 Bambini 1             2020 - 2026  (1/2)"));
-  EXPECT_EQ(lines.at(13), QStringLiteral("14 Allg. Kl.             1996 - 2004  (0/0)")); // the gap is closed
-  EXPECT_EQ(lines.at(15), QStringLiteral("16 AK 2                  1976 - 1985  (0/0)")); // so is the overlap
 }

@@ -4,21 +4,6 @@
 
 using Form11Test = ScreenTest<Form11>;
 
-TEST_F(Form11Test, NamesAreTypedWithEnterAlone) {
-  test.addRace(QStringLiteral("Lauf"));
-  open();
-  EXPECT_FALSE(enabled("Text2"));
-  for (const char *typed : {"1", "Rot ", "", "Gelb", "", ""}) {
-    keys(typed);
-    key(Qt::Key_Return);
-  }
-  EXPECT_EQ(text("Text1"), QStringLiteral("4"));
-  EXPECT_EQ(lines("List1"), (QStringList{QStringLiteral("1 Rot"), QStringLiteral("2 Gelb")}));
-  press("Command4");
-  EXPECT_TRUE(test.file(QStringLiteral("M 1.lst")).startsWith("Rot\r\nGelb\r\n\r\n"));
-  EXPECT_FALSE(test.hasFile(QStringLiteral("G 1.lst")));
-}
-
 TEST_F(Form11Test, NumberIsHeldToItsLimits) {
   store.GruppeName[25] = QStringLiteral("Hang");
   open();

@@ -26,10 +26,6 @@ TEST_F(ParticipantListTest, LineCarriesClubRowAndRecord) {
   EXPECT_EQ(lines, QStringList(QStringLiteral("HUBER Anna    --- Ein sehr langer Vere") +
                                QString(50, QLatin1Char(' ')) + QStringLiteral("0001000001")));
   EXPECT_EQ(rowOfLine(lines[0]), 1);
-  for (const int slot : {0, 2, 4}) {
-    store.Teilnehmer[1].VereinNr = slot;
-    EXPECT_EQ(shown("", ByName), "HUBER Anna") << slot;
-  }
 }
 
 TEST_F(ParticipantListTest, OrdersAndFilters) {
@@ -42,20 +38,6 @@ TEST_F(ParticipantListTest, OrdersAndFilters) {
   EXPECT_EQ(shown("MAß", ByName), "Maß");
   EXPECT_EQ(shown("ma", ByName), "");
   EXPECT_EQ(athleteLines(store, QStringLiteral("MAS")), QStringList(QStringLiteral("MASER                    2")));
-}
-
-TEST_F(ParticipantListTest, ClubsAreCountedAndTheLastSlotKept) {
-  test.addClub(QStringLiteral("A"));
-  test.addClub(QStringLiteral("B"));
-  const std::tuple<qint16, qint16, qint16, const char *> cases[] = {
-      {0, 0, 0, " 0 0"}, {0, 2, 0, " - B 1 2"}, {0, 1, 2, " - A - B 2 3"}, {-1, 3, 1, " - A 1 3"}};
-  for (const auto &[first, second, third, expected] : cases) {
-    store.Laeufer.Verein1 = first;
-    store.Laeufer.Verein2 = second;
-    store.Laeufer.Verein3 = third;
-    const AthleteClubs clubs = clubsOfAthlete(store);
-    EXPECT_EQ(clubs.text + spacedText(clubs.count) + spacedText(clubs.lastSlot), QLatin1String(expected));
-  }
 }
 
 TEST_F(ParticipantListTest, AddingTakesTheFirstFreeRowUntilAllAreInUse) {

@@ -42,10 +42,3 @@ TEST_F(RaceCopy, RecordFarAheadRaisesTheCountAndLeavesZeroBytesBetween) {
   RennenLesen(store);
   EXPECT_EQ(store.Rennen.ZweiDurchgaenge, 1);
 }
-
-TEST(CopyNumber, IntegerPartFrom1To30000) {
-  for (const auto &[text, number] : {std::pair("7.9", 7), {"30000.9", 30000}, {"12x", 12}})
-    EXPECT_EQ(copyNumber(QString::fromLatin1(text)), number) << text;
-  for (const auto *text : {"30001", "0.9", "-1", "x", "", "99999999999999999999"})
-    EXPECT_FALSE(copyNumber(QString::fromLatin1(text)).has_value()) << text;
-}

