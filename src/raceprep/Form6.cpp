@@ -86,7 +86,7 @@ void Form6::connectParticipant() {
   connect(ui->Command1, &QPushButton::clicked, this, &QWidget::close);
 }
 
-void Form6::storeCombo(QComboBox *combo, std::function<void(TeilnehmerZeile &, int)> store) {
+void Form6::storeCombo(QComboBox *combo, const std::function<void(TeilnehmerZeile &, int)> &store) {
   onLeave(combo, [this, combo, store] {
     if (combo->currentIndex() >= 0)
       store(m_store.Teilnehmer[m_row], combo->currentIndex());
@@ -94,7 +94,7 @@ void Form6::storeCombo(QComboBox *combo, std::function<void(TeilnehmerZeile &, i
 }
 
 // The flags go to the row in work, not to the row shown: after a numbering run that is another one, which is meant.
-void Form6::storeCheck(QCheckBox *check, std::function<void(TeilnehmerZeile &, bool)> store) {
+void Form6::storeCheck(QCheckBox *check, const std::function<void(TeilnehmerZeile &, bool)> &store) {
   onLeave(check, [this, check, store] { store(m_store.Teilnehmer[m_store.TnIdx], check->isChecked()); });
 }
 

@@ -45,8 +45,8 @@ private:
   void connectDraw();
   void connectClassRun();
   void connectDeletion();
-  void storeCombo(QComboBox *combo, std::function<void(TeilnehmerZeile &, int)> store);
-  void storeCheck(QCheckBox *check, std::function<void(TeilnehmerZeile &, bool)> store);
+  void storeCombo(QComboBox *combo, const std::function<void(TeilnehmerZeile &, int)> &store);
+  void storeCheck(QCheckBox *check, const std::function<void(TeilnehmerZeile &, bool)> &store);
 
   void fillList();
   void showLine(int line);

@@ -51,6 +51,11 @@ TEST_F(CupTest, aNameIsOnePersonAndTheFirstOneGetsTheResults) {
   EXPECT_EQ(store.CupZeit(1, 1), 42) << "of two rows the last";
 }
 
+TEST_F(CupTest, moreThanTenRoundsAreARangeFaultAndNoRaceIsTakenForTheWorkingTables) {
+  EXPECT_THROW(cupAuswerten(store, QList<int>(11, 3), 0), RangeFault);
+  EXPECT_NE(store.TabellenRennen, store.AktRennen); // nothing of it may be rescued as the race
+}
+
 TEST_F(CupTest, cupFile) {
   CupAuswahl chosen = cupLaden(store);
   store.CupPunkteTabelle[2] = 0;
