@@ -7,7 +7,6 @@
 #include "evaluation/TimeSum.h"
 #include "timing/Ranking.h"
 
-#include <QGuiApplication>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
@@ -104,9 +103,3 @@ void sumOfTheBest(benchmark::State &state) {
 BENCHMARK(sumOfTheBest)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char **argv) {
-  const QGuiApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-}

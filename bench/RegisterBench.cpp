@@ -8,7 +8,6 @@
 #include "platform/SortedLines.h"
 #include "platform/qt/Desk.h"
 #include "platform/qt/LineList.h"
-#include "platform/qt/Look.h"
 #include "raceprep/Form5.h"
 #include "raceprep/ParticipantList.h"
 
@@ -167,14 +166,3 @@ BENCHMARK(filter)->Arg(0)->Arg(1)->ArgName("filtered")->Unit(benchmark::kMillise
 BENCHMARK(clickOnAthlete)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char **argv) {
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
-  QApplication::setQuitOnLastWindowClosed(false);
-  Look::apply(application);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
-}

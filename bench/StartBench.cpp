@@ -7,10 +7,8 @@
 #include "core/Start.h"
 #include "platform/Files.h"
 #include "platform/Numbers.h"
-#include "platform/qt/Look.h"
 
 #include <QApplication>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -76,12 +74,3 @@ BENCHMARK(emptyWindow)->Unit(benchmark::kMillisecond);
 BENCHMARK(startToMenu)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char **argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  QStandardPaths::setTestModeEnabled(true);
-  QApplication application(argc, argv);
-  Look::apply(application);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-}

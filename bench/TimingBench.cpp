@@ -5,7 +5,6 @@
 #include "platform/SortedLines.h"
 #include "platform/qt/Desk.h"
 #include "platform/qt/LineList.h"
-#include "platform/qt/Look.h"
 #include "timing/Form7.h"
 #include "timing/Ranking.h"
 
@@ -168,13 +167,3 @@ void enterUntilNextLine(benchmark::State &state) {
 BENCHMARK(enterUntilNextLine)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char **argv) {
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
-  QApplication::setQuitOnLastWindowClosed(false);
-  Look::apply(application);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-}
