@@ -6,7 +6,7 @@ Desk::Desk(WindowPlaces &places, std::function<void()> savePlaces)
     : m_places(places), m_savePlaces(std::move(savePlaces)) {}
 
 void Desk::show(Screen &screen) {
-  screen.show();
+  screen.comeBack();
   screen.raise();
   screen.activateWindow();
   activate(screen);

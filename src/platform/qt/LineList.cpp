@@ -190,6 +190,13 @@ QModelIndex LineList::aimedAt(QPoint at) {
   return m_model.index(numbered ? lineOfNumber(rowAtEnd(before[line], NumberLength)) : line);
 }
 
+// With nothing chosen yet, Qt would go to the first line by every key.
+QModelIndex LineList::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+  if (action == MoveEnd && !currentIndex().isValid())
+    return m_model.index(int(lines().size()) - 1);
+  return QListView::moveCursor(action, modifiers);
+}
+
 void LineList::mousePressEvent(QMouseEvent *event) {
   const QModelIndex index = aimedAt(event->pos());
   if (event->button() != Qt::LeftButton || !index.isValid())

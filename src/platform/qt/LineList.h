@@ -56,6 +56,7 @@ Q_SIGNALS:
 
 protected:
   void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+  QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
   void mousePressEvent(QMouseEvent *event) override;
   void mouseMoveEvent(QMouseEvent *event) override;
   void mouseDoubleClickEvent(QMouseEvent *event) override;

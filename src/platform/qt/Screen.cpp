@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QValidator>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -115,6 +116,12 @@ void Screen::showEvent(QShowEvent *event) {
   QWidget::showEvent(event);
 }
 
+void Screen::comeBack() {
+  if (m_hiddenAt && !isVisible() && windowHandle() != nullptr)
+    windowHandle()->setFramePosition(*m_hiddenAt); // move() to where it is would tell the window system nothing
+  show();
+}
+
 void Screen::closeEvent(QCloseEvent *event) {
   m_desk.guard().flush(this);
   storePlace();
@@ -124,8 +131,10 @@ void Screen::closeEvent(QCloseEvent *event) {
 }
 
 void Screen::hideEvent(QHideEvent *event) {
-  if (!event->spontaneous())
+  if (!event->spontaneous()) {
     m_desk.guard().flush(this);
+    m_hiddenAt = pos();
+  }
   QWidget::hideEvent(event);
 }
 

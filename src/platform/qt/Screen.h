@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 class Desk;
 class QLineEdit;
@@ -24,6 +25,9 @@ public:
   /// Steps that run each time the screen becomes active: at opening, when a screen opened from it closes, when the
   /// operator comes to it from another screen beside it. Never on return from another program or from a popup.
   virtual void becomeActive() {}
+
+  /// Shows the screen; one that was hidden stands where it stood, whatever the window system would like.
+  void comeBack();
 
 Q_SIGNALS:
   /// The closing steps have run; the roof shows the opener again.
@@ -67,4 +71,5 @@ private:
   int m_row;
   QHash<QObject *, std::function<void()>> m_return;
   bool m_placed = false;
+  std::optional<QPoint> m_hiddenAt;
 };
