@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ranges>
 
 namespace {
 
@@ -105,8 +104,8 @@ CupErgebnis cupAuswerten(Store &store, const QList<int> &races, qint64 streichre
   result.namen = gatherPersons(store, races);
   const Kriterien kriterien = kriterienMerken(store);
   store.CupRunden = 0;
-  for (const int race : std::ranges::reverse_view(races))
-    takeRounds(store, race, kriterien);
+  for (qsizetype line = races.size(); line-- > 0;)
+    takeRounds(store, races[line], kriterien);
   const int persons = int(result.namen.size());
   result.gestrichen = int(std::min<qint64>(std::abs(streichresultate), store.CupRunden));
   resultateStreichen(store, persons, result.gestrichen);

@@ -11,7 +11,6 @@
 #include <QSet>
 
 #include <algorithm>
-#include <ranges>
 
 namespace {
 
@@ -110,8 +109,8 @@ void zeitsummeErzeugen(Store &store, const QList<int> &races, int number) {
   store.CupRunden = 0;
   takeBaseRace(store, races.first());
   const Kriterien kriterien = kriterienMerken(store);
-  for (const int race : std::ranges::reverse_view(races))
-    addRound(store, race, kriterien);
+  for (qsizetype line = races.size(); line-- > 0;)
+    addRound(store, races[line], kriterien);
   putSums(store);
   writeRace(store, number);
 }
