@@ -24,7 +24,7 @@ namespace {
 /// What the steps work with.
 class Tour {
 public:
-  Tour(Store &store, QDir pictures) : m_programm(store, m_printers), m_pictures(std::move(pictures)) {
+  Tour(Store &store, const QDir &pictures) : m_programm(store, m_printers), m_pictures(pictures) {
     m_preview.offer(m_printers);
     m_programm.start();
   }

@@ -12,6 +12,8 @@
 
 #include <QScrollBar>
 
+#include <cmath>
+
 namespace {
 
 constexpr int StatusCount = 6; // the last two have no text and can be chosen all the same
@@ -226,7 +228,7 @@ void Form7::takeTime(const Lauf &lauf) {
 
 void Form7::joinTime(const Lauf &lauf) {
   const auto time = joined(lauf.teile[0]->text(), lauf.teile[1]->text(), lauf.teile[2]->text());
-  if (!time)
+  if (!time || !std::isfinite(*time)) // an endless time could not be read back from the file
     return;
   selected().*lauf.zeit = *time;
   lauf.sekunden->setText(plainText(*time));
