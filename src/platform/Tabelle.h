@@ -15,7 +15,6 @@ public:
   const T &operator[](int index) const { return m_rows[position(index)]; }
 
   void fill(const T &value) { std::fill(m_rows.begin(), m_rows.end(), value); }
-  static constexpr int first() { return First; }
   static constexpr int last() { return Last; }
 
 private:
