@@ -74,6 +74,10 @@ void Form7::hideUnused() {
     control->setSizePolicy(policy);
     control->hide();
   }
+  // A long name does not widen the card, or the list beside it would jump from person to person.
+  for (QWidget *name : {ui->Label2, ui->Label16, ui->Label19})
+    name->setSizePolicy(QSizePolicy::Ignored, name->sizePolicy().verticalPolicy());
+  ui->Label11->setSizePolicy(QSizePolicy::Fixed, ui->Label11->sizePolicy().verticalPolicy());
 }
 
 QList<QWidget *> Form7::secondRunControls() const {
