@@ -63,7 +63,7 @@ int pointsOf(const Store &store, int person, int round) {
 }
 
 QString headLine(const Store &store, int klasse) {
-  QString line = store.CupKlasseName[klasse].left(HeadLength).leftJustified(HeadLength, QLatin1Char('-'));
+  QString line = store.CupKlasseName.valueOrEmpty(klasse).left(HeadLength).leftJustified(HeadLength, QLatin1Char('-'));
   for (int round = 1; round <= store.CupRunden; ++round)
     line += (QStringLiteral("-----R") + plainText(round)).right(RoundLength);
   return line + QStringLiteral("-Summe");

@@ -14,6 +14,9 @@ public:
   T &operator[](int index) { return m_rows[position(index)]; }
   const T &operator[](int index) const { return m_rows[position(index)]; }
 
+  /// The row, or an empty value behind the last one: for an index that a file may carry without harm.
+  T valueOrEmpty(int index) const { return index > Last ? T() : (*this)[index]; }
+
   void fill(const T &value) { std::fill(m_rows.begin(), m_rows.end(), value); }
   static constexpr int last() { return Last; }
 

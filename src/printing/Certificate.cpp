@@ -45,9 +45,10 @@ QString timeLine(const Store &store, const Druckschicht &druck, const Teilnehmer
   const double sum = participant.WertSumme;
   if (sum != 0 && (sum == store.BestzeitDamen || sum == store.BestzeitHerren))
     line += QStringLiteral("   ") + Bestzeittext(store.Rennen.BestzeitText, store.Laeufer.Geschlecht);
-  return line + (store.Rennen.WertKlassen == 0
-                     ? QStringLiteral("        Gruppe: ") + store.GruppeName[participant.GruppeNr]
-                     : QStringLiteral("        Klasse: ") + store.KlasseGenauName[participant.KlasseGenau]);
+  return line +
+         (store.Rennen.WertKlassen == 0
+              ? QStringLiteral("        Gruppe: ") + store.GruppeName[participant.GruppeNr]
+              : QStringLiteral("        Klasse: ") + store.KlasseGenauName.valueOrEmpty(participant.KlasseGenau));
 }
 
 void printPlace(const Store &store, Druckschicht &druck, const TeilnehmerZeile &participant) {

@@ -68,7 +68,7 @@ private:
     m_druck.CurrentY = float(y());
     m_druck.FontSize = 12;
     m_druck.FontBold = true;
-    m_druck.Print(m_store.CupKlasseName[m_klasse], end);
+    m_druck.Print(m_store.CupKlasseName.valueOrEmpty(m_klasse), end);
   }
 
   void breakPage() {

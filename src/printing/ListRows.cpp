@@ -16,9 +16,9 @@ void Zelle(Druckschicht &druck, double x, double y, const PrintItem &item) {
   druck.Print(item);
 }
 
-const QString &Klassentext(const Store &store, const TeilnehmerZeile &participant) {
+QString Klassentext(const Store &store, const TeilnehmerZeile &participant) {
   return store.Rennen.WertKlassen == 0 ? store.GruppeName[participant.GruppeNr]
-                                       : store.KlasseGenauName[participant.KlasseGenau];
+                                       : store.KlasseGenauName.valueOrEmpty(participant.KlasseGenau);
 }
 
 QString Klassenspalte(const Store &store) {

@@ -14,7 +14,7 @@ constexpr double gitterY(double row) {
 void Zelle(Druckschicht &druck, double x, double y, const PrintItem &item);
 
 /// The exact class of a participant, or his group in a race that is evaluated by groups.
-const QString &Klassentext(const Store &store, const TeilnehmerZeile &participant);
+QString Klassentext(const Store &store, const TeilnehmerZeile &participant);
 /// Head of the column with that text.
 QString Klassenspalte(const Store &store);
 

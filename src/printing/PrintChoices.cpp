@@ -10,7 +10,7 @@ QString ranglisteZeile(Store &store, int row) {
   store.LaeuferIdx = participant.LaeuferNr;
   LaeuferLesen(store);
   return rightAligned(plainText(participant.Rang), 4) + QStringLiteral(". ") + padded(store.Laeufer.Name, 25) +
-         QLatin1Char(' ') + padded(store.KlasseGenauName[participant.KlasseGenau], 20) +
+         QLatin1Char(' ') + padded(store.KlasseGenauName.valueOrEmpty(participant.KlasseGenau), 20) +
          QStringLiteral("            ") + plainText(row);
 }
 

@@ -156,7 +156,7 @@ void Form6::showParticipant(int row) {
   ui->Label6->setText(plainText(row));
   ui->Text1->setText(plainText(participant.StartNr));
   ui->Label16->setText(m_store.KlasseName[participant.KlasseNr]);
-  ui->Label13->setText(m_store.KlasseGenauName[participant.KlasseGenau]);
+  ui->Label13->setText(m_store.KlasseGenauName.valueOrEmpty(participant.KlasseGenau));
   setPosition(ui->Combo3, participant.MannschaftNr);
   setPosition(ui->Combo4, participant.GruppeNr);
   ui->Check1->setChecked(participant.Gast == 1);

@@ -130,8 +130,9 @@ private:
 
   // The running count stands here, not the shared place; this is meant.
   QString resultLine(const TeilnehmerZeile &participant) const {
-    const QString &klasse = m_store.Rennen.WertKlassen == 1 ? m_store.KlasseGenauName[participant.KlasseGenau]
-                                                            : m_store.GruppeName[participant.GruppeNr];
+    const QString klasse = m_store.Rennen.WertKlassen == 1
+                               ? m_store.KlasseGenauName.valueOrEmpty(participant.KlasseGenau)
+                               : m_store.GruppeName[participant.GruppeNr];
     const QLatin1Char gap(' ');
     return rightAligned(plainText(m_place), 4) % QLatin1String(". ") % padded(m_store.Laeufer.Name, 25) %
            rightAligned(plainText(participant.StartNr), 5) % gap % padded(klasse, 12) % gap % values(participant);

@@ -73,7 +73,7 @@ QString lineOf(const QString &key, const TeilnehmerZeile &participant, ListMode 
 }
 
 QString headLine(const Store &store, const TeilnehmerZeile &participant) {
-  return QStringLiteral("----- ") + store.KlasseGenauName[participant.KlasseGenau] + QLatin1Char(' ') +
+  return QStringLiteral("----- ") + store.KlasseGenauName.valueOrEmpty(participant.KlasseGenau) + QLatin1Char(' ') +
          QString(35, QLatin1Char('-'));
 }
 

@@ -42,6 +42,16 @@ TEST_F(CupTest, theLastMarkedRaceGivesCriteriaAndTheFirstTheClass) {
   EXPECT_EQ(store.CupKlasse[1], 0);
 }
 
+TEST_F(CupTest, aClassBehindTheTableHasNoNameAndKeepsItsOrder) {
+  for (int row = 1; row <= 2; ++row)
+    store.Teilnehmer[row].KlasseGenau = qint16(162 - row); // order numbers, as in an untouched copy of a race
+  RennDatenSpeichern(store);
+  const CupErgebnis result = cupAuswerten(store, {3}, 0);
+  const QString unnamed = QString(26, QLatin1Char('-')) + QStringLiteral("----R1-Summe");
+  EXPECT_EQ(result.zeilen.count(unnamed), 2);
+  EXPECT_TRUE(result.schluessel.last().startsWith(QStringLiteral("161")));
+}
+
 TEST_F(CupTest, aNameIsOnePersonAndTheFirstOneGetsTheResults) {
   const int twin = cup.add("ADAM Ada", 1991), lower = cup.add("adam ada", 1991), nobody = cup.add("", 1991);
   addResults(test, QStringLiteral("Namen"), {{nobody, 1}, {twin, 40}, {1, 39}, {lower, 41}, {twin, 42}});
