@@ -51,4 +51,17 @@ TEST_F(RaceRegisterTest, DeletionTakesTheRacesFilesAndKeepsItsNumber) {
   EXPECT_EQ(store.KlasseName[1], QStringLiteral("Bambini 1"));
 }
 
+TEST_F(RaceRegisterTest, RaceZeroTakesTheCriteriaOfTheRaceReadLast) {
+  addRaces();
+  rennenOeffnen(store, QStringLiteral("1"));
+  store.Rennen.WertZeit = 7;
+  RennenSchreiben(store);
+  rennenOeffnen(store, QStringLiteral("3"));
+  store.AktRennen = 0;
+  RennenListeFuellen(store);
+  EXPECT_EQ(store.RennenIdx, 0);
+  EXPECT_EQ(store.Rennen.WertZeit, 7);
+  EXPECT_EQ(store.Rennen.RennenName, QString());
+}
+
 } // namespace
