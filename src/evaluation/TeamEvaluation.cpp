@@ -211,6 +211,7 @@ QString memberPrefix(const TeilnehmerZeile &participant, MitgliederOrdnung ordnu
 } // namespace
 
 void wertungVorbereiten(Store &store) {
+  store.WertGezaehlt.fill(0);
   findClubs(store);
   ErgebnisRechnen(store);
   numberClubs(store);

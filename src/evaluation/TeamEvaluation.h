@@ -23,9 +23,9 @@ struct Wertung {
   int anzahlBeste = 2;
 };
 
-/// Finds the club of each row, ranks the race and numbers the clubs that take part. Rows without a club of their own
-/// keep the one that stood there before, and such a club is numbered too. The hundredth number is given anew to each
-/// further club.
+/// Takes away the marks of an earlier sum, finds the club of each row, ranks the race and numbers the clubs that take
+/// part. Rows without a club of their own keep the one that stood there before, and such a club is numbered too. The
+/// hundredth number is given anew to each further club.
 void wertungVorbereiten(Store &store);
 
 /// Short names of the numbered clubs.

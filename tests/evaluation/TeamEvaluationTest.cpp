@@ -55,6 +55,8 @@ TEST_F(TeamEvaluationTest, sumOfTheBestPutsIncompleteUnitsBehind) {
   store.Teilnehmer[2].Zeit1 = 80.004;
   teamWertung(store, {Einheit::Mannschaft, WertungsArt::ZeitsummeDerBesten, Gemischt, 2});
   EXPECT_EQ(store.WertErgebnis[7], 120) << "added as they are listed";
+  wertungVorbereiten(store);
+  EXPECT_TRUE(gezaehlt().isEmpty()) << "the next opening marks nobody";
 }
 
 TEST_F(TeamEvaluationTest, membersInTheirOrders) {
@@ -77,6 +79,13 @@ TEST_F(TeamEvaluationTest, rowsKeepTheClubOfAnEarlierRaceButCountForNobody) {
   EXPECT_EQ(store.WertVereinIdx[6], 0);
   EXPECT_EQ(teamWertung(store, {}).last().left(10), QStringLiteral("     42,00"));
   EXPECT_EQ(mitgliederZeilen(store, {}, 2, Alphabetisch).size(), 3);
+}
+
+TEST_F(TeamEvaluationTest, aClassBehindTheTableHasNoName) {
+  store.Rennen.WertKlassen = 1;
+  store.Teilnehmer[1].KlasseGenau = 5000; // the order number in an untouched copy of a race
+  EXPECT_EQ(teamWertung(store, {}).size(), 2);
+  EXPECT_EQ(mitgliederZeilen(store, {}, 1, Alphabetisch).size(), 2);
 }
 
 TEST_F(TeamEvaluationTest, furtherClubsTakeTheHundredthNumber) {
