@@ -1,6 +1,7 @@
 #include "platform/WindowPlaces.h"
 
 #include "platform/Files.h"
+#include "platform/Numbers.h"
 #include "platform/TextFile.h"
 
 #include <QFile>
@@ -9,15 +10,24 @@
 #include <cstdlib>
 #include <limits>
 
+namespace {
+
+// The file ends early without harm: what it does not tell stays.
+qint64 nextPlace(TextReader &file, int present) {
+  return file.atEnd() ? present : std::abs(wholeNumber(file.field()));
+}
+
+} // namespace
+
 void WindowPlaces::load(const QString &path) {
   if (!QFile::exists(path))
     return;
   TextReader file(path);
   for (int row = 1; row <= 60; ++row) {
-    for (int *value : {&FensterTop[row], &FensterLeft[row]}) {
-      file.numberInto(*value);
-      *value = std::abs(std::max(*value, -std::numeric_limits<int>::max()));
-    }
+    const qint64 top = nextPlace(file, FensterTop[row]), left = nextPlace(file, FensterLeft[row]);
+    const bool fits = std::max(top, left) <= std::numeric_limits<int>::max();
+    FensterTop[row] = fits ? int(top) : 0;
+    FensterLeft[row] = fits ? int(left) : 0;
   }
 }
 

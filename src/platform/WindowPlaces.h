@@ -7,7 +7,8 @@ struct WindowPlaces {
   Tabelle<int, 1, 60> FensterTop{"FensterTop"};
   Tabelle<int, 1, 60> FensterLeft{"FensterLeft"};
 
-  /// Reads both values of each row, made positive; does nothing without the file.
+  /// Reads both values of each row, made positive; a row with a number beyond 32 bits has no position. Does nothing
+  /// without the file.
   void load(const QString &path);
   /// Writes all 60 rows anew.
   void save(const QString &path) const;

@@ -14,7 +14,7 @@ TEST_F(Start, SeasonTurnsAtTheBeginningOfJuly) {
 }
 
 TEST_F(Start, PlacesAreMirroredBackAndCountsReadAsFarAsTheyGo) {
-  test.writeFile(QStringLiteral("TopLeft.dat"), " 150 \r\n-300 \r\n 7 ");
+  test.writeFile(QStringLiteral("TopLeft.dat"), " 150 \r\n-300 \r\n 7 \r\n 8 \r\n 3000000000 \r\n 5 \r\n");
   test.writeFile(QStringLiteral("Vext.dat"), " 12 \r\n 3 \r\n");
   storeStarten(store);
   EXPECT_EQ(store.Fenster.FensterLeft[1], 300);
@@ -24,6 +24,6 @@ TEST_F(Start, PlacesAreMirroredBackAndCountsReadAsFarAsTheyGo) {
   EXPECT_EQ(store.RennenIdx, 0);
   FensterSpeichern(store);
   const QByteArray file = test.file(QStringLiteral("TopLeft.dat"));
-  EXPECT_TRUE(file.startsWith(" 150 \r\n 300 \r\n 7 \r\n 0 \r\n"));
+  EXPECT_TRUE(file.startsWith(" 150 \r\n 300 \r\n 7 \r\n 8 \r\n 0 \r\n 0 \r\n 0 \r\n"));
   EXPECT_EQ(file.count('\n'), 120);
 }
