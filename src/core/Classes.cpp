@@ -2,34 +2,57 @@
 
 #include "core/RecordFiles.h"
 #include "platform/Dates.h"
+#include "platform/Numbers.h"
 
 namespace {
 
+/// One of the three splits of a race: the criterion, and what of a person it asks for.
+struct Split {
+  int criterion, value;
+  const char *criterionName, *whatToDo;
+
+  /// The switch of the exact class.
+  int result() const { return criterion * value; }
+};
+
+QString criterionTrouble(const Split &split) {
+  return QStringLiteral("Bitte in den Auswertungskriterien „%1“ neu wählen: Im Satz der Veranstaltung steht dafür %2 "
+                        "statt 0 oder 1.")
+      .arg(QString::fromUtf8(split.criterionName))
+      .arg(split.criterion);
+}
+
+QString personTrouble(const Store &store, int row, const Split &split) {
+  return QStringLiteral("„%1“ (Läufer Nr. %2, Zeile %3 der Teilnehmer): %4")
+      .arg(shownText(store.Laeufer.Name))
+      .arg(store.LaeuferIdx)
+      .arg(row)
+      .arg(QString::fromUtf8(split.whatToDo));
+}
+
 // The report of a switch outside 0 and 1 must name the person, or nobody can mend it on race day.
-void requireSwitch(int value, const Store &store, int row, const QString &what) {
-  if (value < 0 || value > 1)
-    throw RangeFault(QStringLiteral("KlasseReihenfolge"), value, 0, 1,
-                     QStringLiteral("Betroffen ist \"%1\" (Läufer Nr. %2, Zeile %3 der Teilnehmer): %4.")
-                         .arg(store.Laeufer.Name)
-                         .arg(store.LaeuferIdx)
-                         .arg(row)
-                         .arg(what));
+void requireSwitch(const Store &store, int row, const Split &split) {
+  if (split.result() < 0 || split.result() > 1)
+    throw RangeFault(QStringLiteral("KlasseReihenfolge"), split.result(), 0, 1,
+                     split.criterion > 1 ? criterionTrouble(split) : personTrouble(store, row, split));
 }
 
 void assign(Store &store, int row, int klasse) {
   auto &line = store.Teilnehmer[row];
-  const int a = store.Rennen.WertGeschlecht * store.Laeufer.Geschlecht;
-  const int b = store.Rennen.WertGaeste * line.Gast;
-  const int f = store.Rennen.WertBoarder * line.Boarder;
+  const Split a{store.Rennen.WertGeschlecht, store.Laeufer.Geschlecht, "m/w",
+                "das Geschlecht fehlt. Bitte im Menü unter „Läufer“ eintragen und die Veranstaltung wieder öffnen."};
+  const Split b{store.Rennen.WertGaeste, line.Gast, "Gäste",
+                "„Gast“ ist weder 0 noch 1. Bitte in der Teilnehmerliste doppelt anklicken und neu setzen."};
+  const Split f{store.Rennen.WertBoarder, line.Boarder, "Boarder",
+                "„Boarder“ ist weder 0 noch 1. Bitte in der Teilnehmerliste doppelt anklicken und neu setzen."};
   line.KlasseNr = klasse;
   ++store.KlasseAnzahl[klasse];
   if (line.Status1 + line.Status2 == 0)
     ++store.KlasseAnzahlOk[klasse];
-  requireSwitch(a, store, row, QStringLiteral("das Geschlecht ist nicht eingetragen"));
-  requireSwitch(b, store, row, QStringLiteral("der Gast ist weder 0 noch 1"));
-  requireSwitch(f, store, row, QStringLiteral("der Boarder ist weder 0 noch 1"));
-  line.KlasseReihe = store.KlasseReihenfolge(klasse, a, b, f);
-  line.KlasseGenau = qint16(exactClass(klasse, a, b, f));
+  for (const Split &split : {a, b, f})
+    requireSwitch(store, row, split);
+  line.KlasseReihe = store.KlasseReihenfolge(klasse, a.result(), b.result(), f.result());
+  line.KlasseGenau = qint16(exactClass(klasse, a.result(), b.result(), f.result()));
 }
 
 } // namespace

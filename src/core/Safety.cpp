@@ -121,7 +121,7 @@ QString Safety::rescue() noexcept {
     m_copySoon.stop();
     hint = [](const QString &) {};
     const auto image = raceImage(m_store);
-    return image ? rescueImage(*image) : QStringLiteral("Es war keine Veranstaltung geöffnet; zu sichern war nichts.");
+    return image ? rescueImage(*image) : QStringLiteral("Alle Eingaben waren schon gespeichert; zu sichern war nichts.");
   } catch (const std::exception &e) {
     return QStringLiteral("Die offene Veranstaltung konnte nicht gesichert werden: ") + QString::fromUtf8(e.what());
   }

@@ -18,7 +18,8 @@ private:
   QByteArray m_utf8;
 };
 
-/// A file operation failed; the reason is taken from errno, so it must be thrown straight after the operation.
+/// A file operation failed; the reason is taken from errno, so it must be thrown straight after the operation. A folder
+/// in the file's place is told as such.
 class FileFault : public Fault {
 public:
   /// `action` is a German phrase for what was tried: "geschrieben", "geöffnet", "gelesen", "gelöscht".
@@ -33,7 +34,7 @@ public:
   ConversionFault(const QString &path, int line, const QString &text, const QString &why);
 };
 
-/// An index outside its table. `about` may add whom or what it concerns.
+/// An index outside its table. `about`, whole sentences, tells the operator first whom it concerns and what to do.
 class RangeFault : public Fault {
 public:
   RangeFault(const QString &table, int index, int first, int last, const QString &about = {});

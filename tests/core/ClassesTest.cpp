@@ -23,6 +23,29 @@ TEST_F(Classes, LastOfOverlappingClassesHoldsAndAllCountAndWithoutAClassTheRowKe
   EXPECT_EQ(tooOld.KlasseNr, 5);
 }
 
+TEST_F(Classes, AFaultBeginsWithWhatIsToBeDone) {
+  auto &row = enter(2013, 2);
+  const struct {
+    const char *begin;
+    int sexCriterion, guestCriterion, guest;
+  } cases[] = {{"„HUBER Kim“ (Läufer Nr. 1, Zeile 1 der Teilnehmer): das Geschlecht fehlt.", 1, 0, 0},
+               {"Bitte in den Auswertungskriterien „m/w“ neu wählen", 3, 0, 0},
+               {"„HUBER Kim“ (Läufer Nr. 1, Zeile 1 der Teilnehmer): „Gast“ ist weder", 0, 1, 2},
+               {"Bitte in den Auswertungskriterien „Gäste“ neu wählen", 0, 2, 1}};
+  for (const auto &[begin, sexCriterion, guestCriterion, guest] : cases) {
+    store.Rennen.WertGeschlecht = quint8(sexCriterion);
+    store.Rennen.WertGaeste = quint8(guestCriterion);
+    row.Gast = guest;
+    try {
+      KlassenZuordnen(store);
+      ADD_FAILURE() << begin;
+    } catch (const RangeFault &fault) {
+      EXPECT_TRUE(fault.report().startsWith(QString::fromUtf8(begin))) << fault.what();
+      EXPECT_TRUE(fault.report().endsWith(QStringLiteral("KlasseReihenfolge (0 bis 1)."))) << fault.what();
+    }
+  }
+}
+
 TEST_F(Classes, SwitchesActOnlyWhereTheRaceSplits) {
   auto &row = enter(2013);
   row.Gast = 1;

@@ -200,7 +200,7 @@ TEST_F(DyingProgram, ARaceFileThatIsNoRaceFileIsLeftAlone) {
   test.writeFile(QStringLiteral("R 1.dat"), r);
   const QString report = run(QStringLiteral("Form1.Command3 click\n") + CloseReport);
   EXPECT_EQ(program.exitCode(), 70);
-  EXPECT_TRUE(report.contains(QStringLiteral("R 1.dat\" steht in Zeile 8 \"abc\""))) << report.toStdString();
+  EXPECT_TRUE(report.contains(QStringLiteral("R 1.dat“ steht in Zeile 8 „abc“"))) << report.toStdString();
   EXPECT_EQ(test.file(QStringLiteral("R 1.dat")), r);
   EXPECT_EQ(rescues(), QStringList());
 }

@@ -1,0 +1,34 @@
+#include "platform/Faults.h"
+
+#include "support/Print.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+namespace {
+
+QString reportOf(const QString &path, int error) {
+  errno = error;
+  return FileFault(path, QStringLiteral("geöffnet")).report();
+}
+
+} // namespace
+
+TEST(Faults, TheSystemsReasonsAreGerman) {
+  const QString path = QStringLiteral("TopLeft.dat");
+  EXPECT_EQ(reportOf(path, EEXIST), QStringLiteral("Die Datei „TopLeft.dat“ konnte nicht geöffnet werden: unter diesem "
+                                                   "Namen liegt schon etwas anderes."));
+  for (const int error : {ENOSPC, EACCES, EROFS, EISDIR, ENOENT, EIO, EEXIST, ENOTDIR, EMFILE, ENFILE, EINTR, ENOMEM,
+                          ENAMETOOLONG, ELOOP, ENODEV})
+    EXPECT_FALSE(reportOf(path, error).contains(QStringLiteral("Betriebssystems ("))) << error;
+}
+
+TEST(Faults, AFolderInTheFilesPlaceIsToldAndNoReasonIsToldTwice) {
+  const QTemporaryDir folder;
+  EXPECT_TRUE(reportOf(folder.path(), ENOENT).endsWith(QStringLiteral("liegt ein Ordner.")));
+  EXPECT_TRUE(
+      FileFault(QStringLiteral("x"), QStringLiteral("gelesen")).report().endsWith(QStringLiteral("keinen Grund.")));
+}
