@@ -19,4 +19,4 @@ constexpr unsigned Hellgrau = 0xE0E0E0, BlassCyan = 0xC0FFFF, Dunkelgruen = 0x00
 } // namespace FarbTabelle
 
 /// Web address of the makers.
-constexpr auto WebAdresse = "www.vext.example";
+constexpr auto WebAdresse = "vext.example";

@@ -8,7 +8,7 @@
 namespace {
 
 [[noreturn]] void refuse(const QString &deviceName) {
-  throw Fault(QStringLiteral("Der Drucker \"%1\" nimmt den Ausdruck nicht an.").arg(deviceName));
+  throw Fault(QStringLiteral("Der Drucker „%1“ nimmt den Ausdruck nicht an.").arg(deviceName));
 }
 
 // The sheet is always A4 and never scaled; the margins of the driver play no part.
