@@ -3,7 +3,7 @@
 #include "Programm.h"
 #include "core/RaceFiles.h"
 #include "core/RecordFiles.h"
-#include "core/Safety.h"
+#include "safety/Safety.h"
 #include "core/Start.h"
 #include "platform/Files.h"
 #include "platform/Numbers.h"
@@ -59,8 +59,10 @@ void startToMenu(benchmark::State &state) {
     Umgebung umgebung;
     Store store(umgebung);
     store.DatenOrdner = data.path();
-    Safety safety(store);
-    benchmark::DoNotOptimize(safety.findRescue());
+    DiskWorker worker;
+    Safety safety(store, worker);
+    safety.claim();
+    benchmark::DoNotOptimize(safety.leftBehind());
     storeStarten(store);
     Printers printers([] { return SystemPrinters(); }, {});
     Programm programm(store, printers);

@@ -25,6 +25,7 @@
 #include "raceprep/Form6.h"
 #include "raceprep/Form9.h"
 #include "raceprep/RaceRegister.h"
+#include "safety/RaceImage.h"
 #include "timing/Form13.h"
 #include "timing/Form18.h"
 #include "timing/Form7.h"
@@ -62,6 +63,16 @@ void Programm::start() {
 void Programm::sicherungHinweis(const QString &text) {
   if (m_menu)
     m_menu->sicherungHinweis(text);
+}
+
+QList<SavedFile> Programm::openWork() const {
+  QList<SavedFile> work;
+  for (const auto &screen : m_screens)
+    if (screen && screen->isVisible())
+      work += screen->unsaved();
+  if (const QString input = m_desk.openInput(); !input.isEmpty())
+    work.append({noteName(), input.toUtf8()});
+  return work;
 }
 
 void Programm::open(const QString &screen) {

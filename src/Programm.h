@@ -29,6 +29,8 @@ public:
 
   /// Shows the menu. Its closing, and nothing else, ends the event loop of the application.
   void start();
+  /// What the open screens would write if they closed now, and the note of a field not yet left.
+  QList<SavedFile> openWork() const;
   /// A quiet line on the menu; an empty text takes it away.
   void sicherungHinweis(const QString &text);
 

@@ -1,13 +1,14 @@
 #include "Programm.h"
-#include "core/Safety.h"
 #include "core/Start.h"
 #include "platform/print/PdfFile.h"
 #include "platform/qt/Application.h"
+#include "platform/qt/BusyPointer.h"
 #include "platform/qt/FaultReport.h"
 #include "platform/qt/Look.h"
 #include "platform/qt/Preview.h"
 #include "platform/qt/RescueQuestion.h"
 #include "platform/qt/SystemPrinters.h"
+#include "safety/Safety.h"
 
 #include <QIcon>
 #include <QSettings>
@@ -36,23 +37,56 @@ void setUp(Store &store) {
   storeStarten(store);
 }
 
-void offerRescue(Safety &safety) {
-  const auto rescue = safety.findRescue();
-  if (!rescue)
-    return;
-  if (askTakeOver(rescue->text))
-    safety.takeOver(*rescue);
-  safety.settle();
+// A failure of the worker becomes a fault in the event loop.
+void connectDisk(DiskWorker &worker, Umgebung &umgebung) {
+  umgebung.replaceSoon = [&worker](const QString &path, const QByteArray &bytes) { worker.replace(path, bytes); };
+  umgebung.syncSoon = [&worker](const QStringList &paths) { worker.sync(paths); };
+  worker.failed = [&worker] {
+    QMetaObject::invokeMethod(
+        qApp, [&worker] { worker.rethrow(); }, Qt::QueuedConnection);
+  };
 }
 
-int run(Store &store, Safety &safety) {
+bool mayRun(Safety &safety) {
+  return safety.claim() ||
+         askBeforeMenu(
+             QStringLiteral("Zweitstart"),
+             QStringLiteral("VEXT läuft in diesem Ordner schon einmal.\n\nWer zweimal zugleich in einem Ordner "
+                            "arbeitet, überschreibt sich seine Eingaben; das zweite VEXT sichert auch nicht. "
+                            "Trotzdem öffnen?"),
+             QStringLiteral("Trotzdem öffnen"), QStringLiteral("nein"));
+}
+
+void answer(const Safety::Offer &offer) {
+  if (askBeforeMenu(QStringLiteral("Rettung"), offer.text, offer.accept, offer.decline))
+    offer.accepted();
+  else
+    offer.declined();
+}
+
+void offerRescue(Safety &safety) {
+  for (const auto &offer : safety.leftBehind())
+    answer(offer);
+  if (const auto offer = safety.lostCounts())
+    answer(*offer);
+}
+
+int run(Store &store, Safety &safety, DiskWorker &worker) {
+  if (!mayRun(safety))
+    return 0;
   offerRescue(safety);
   setUp(store);
+  connectDisk(worker, store.umgebung);
   Preview preview;
   Printers printers(systemPrinters,
                     {pdfPrinter(QStringLiteral("Ausdrucke"), QDateTime::currentDateTime), preview.printer()});
   preview.offer(printers);
   Programm programm(store, printers);
+  safety.screens = [&programm] { return programm.openWork(); };
+  safety.waitAtSave = [&worker] {
+    const BusyPointer busy;
+    worker.wait();
+  };
   safety.hint = [&programm](const QString &line) { programm.sicherungHinweis(line); };
   programm.start();
   safety.start();
@@ -68,11 +102,12 @@ int main(int argc, char **argv) {
   Application application(argc, argv);
   Umgebung umgebung;
   Store store(umgebung);
-  Safety safety(store);
+  DiskWorker worker;
+  Safety safety(store, worker);
   FaultReport::install([&safety] { return safety.rescue(); });
   try {
     setUp(application);
-    return run(store, safety);
+    return run(store, safety, worker);
   } catch (...) {
     FaultReport::reportCurrent();
   }

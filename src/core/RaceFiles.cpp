@@ -6,8 +6,6 @@
 #include "platform/Numbers.h"
 #include "platform/TextFile.h"
 
-#include <QFile>
-
 namespace {
 
 constexpr int ReserveLines = 7;
@@ -53,25 +51,19 @@ void readParticipant(TextReader &file, TeilnehmerZeile &row) {
 }
 
 void readParticipants(Store &store) {
-  const QString path = raceFileName(store, 'R', store.AktRennen);
-  if (!QFile::exists(path))
-    return;
-  TextReader file(path);
-  for (int row = 1; row <= 1000 && !file.atEnd(); ++row)
-    readParticipant(file, store.Teilnehmer[row]);
+  auto file = TextReader::ifThere(raceFileName(store, 'R', store.AktRennen));
+  for (int row = 1; file && row <= 1000 && !file->atEnd(); ++row)
+    readParticipant(*file, store.Teilnehmer[row]);
 }
 
 void readNames(const QString &path, Names &names) {
   names.fill({});
-  if (!QFile::exists(path))
-    return;
-  TextReader file(path);
-  for (int row = 1; row <= 100; ++row)
-    file.lineInto(names[row]);
+  auto file = TextReader::ifThere(path);
+  for (int row = 1; file && row <= 100; ++row)
+    file->lineInto(names[row]);
 }
 
-void readClasses(Store &store, const QString &path) {
-  TextReader file(path);
+void readClasses(Store &store, TextReader &file) {
   for (int k = 1; k <= 20; ++k) {
     file.lineInto(store.KlasseName[k]);
     file.numberInto(store.KlasseVon[k]);
@@ -86,9 +78,8 @@ void loadClasses(Store &store) {
   store.KlasseName.fill({});
   store.KlasseVon.fill(0);
   store.KlasseBis.fill(0);
-  const QString path = raceFileName(store, 'K', store.AktRennen);
-  if (QFile::exists(path))
-    readClasses(store, path);
+  if (auto file = TextReader::ifThere(raceFileName(store, 'K', store.AktRennen)))
+    readClasses(store, *file);
   else
     takeStandardClasses(store);
 }
@@ -155,9 +146,20 @@ void RennDatenSpeichern(Store &store) {
   store.TabellenRennen = store.AktRennen;
   store.umgebung.erinnern(missingAthleteData(store));
   store.vorDemSpeichern();
-  for (const auto &file : raceFiles(store))
-    writeFile(raceFileName(store, file.letter, store.AktRennen), file.bytes);
+  writeRaceFiles(store, store.AktRennen, raceFiles(store));
   store.nachDemSpeichern();
+}
+
+void writeRaceFiles(const Store &store, int race, const QList<RaceFile> &files) {
+  QStringList paths;
+  {
+    const std::scoped_lock lock(store.umgebung.writing);
+    for (const auto &file : files) {
+      paths << raceFileName(store, file.letter, race);
+      writeFile(paths.last(), file.bytes);
+    }
+  }
+  store.umgebung.syncSoon(paths);
 }
 
 QList<RaceFile> raceFiles(const Store &store) {
@@ -166,7 +168,7 @@ QList<RaceFile> raceFiles(const Store &store) {
     files.append({'M', nameFile(store.MannschaftName)});
   if (isWorthWriting(store.GruppeName))
     files.append({'G', nameFile(store.GruppeName)});
-  files.append({'K', classFile(store)});
+  files.append({'K', classFile(store, store.KlasseReihenfolge)});
   return files;
 }
 
@@ -174,7 +176,7 @@ QList<RaceFile> wholeRace(const Store &store) {
   return {{'R', participantFile(store)},
           {'M', nameFile(store.MannschaftName)},
           {'G', nameFile(store.GruppeName)},
-          {'K', classFile(store)}};
+          {'K', classFile(store, store.KlasseReihenfolge)}};
 }
 
 QByteArray participantFile(const Store &store) {
@@ -185,13 +187,13 @@ QByteArray participantFile(const Store &store) {
   return file.bytes();
 }
 
-QByteArray classFile(const Store &store) {
+QByteArray classFile(const Store &store, const KlassenReihenfolge &reihenfolge) {
   TextWriter file;
   for (int k = 1; k <= 20; ++k) {
     file.text(store.KlasseName[k]);
     file.number(store.KlasseVon[k]);
     file.number(store.KlasseBis[k]);
-    forEachExactClass([&](int a, int b, int f) { file.number(store.KlasseReihenfolge(k, a, b, f)); });
+    forEachExactClass([&](int a, int b, int f) { file.number(reihenfolge(k, a, b, f)); });
   }
   for (int row = 0; row <= 159; ++row)
     file.text(store.KlasseGenauName[row]);

@@ -26,6 +26,9 @@ struct RaceFile {
 QList<RaceFile> raceFiles(const Store &store);
 /// All four files, M and G also where a save would pass them over. Reads no record.
 QList<RaceFile> wholeRace(const Store &store);
-/// The R and K files as a save writes them.
+/// Writes files of a race in place, in their order.
+void writeRaceFiles(const Store &store, int race, const QList<RaceFile> &files);
+/// The R file as a save writes it.
 QByteArray participantFile(const Store &store);
-QByteArray classFile(const Store &store);
+/// The K file as a save writes it, with these order numbers.
+QByteArray classFile(const Store &store, const KlassenReihenfolge &reihenfolge);

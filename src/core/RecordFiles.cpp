@@ -1,6 +1,6 @@
 #include "core/RecordFiles.h"
 
-#include "core/Start.h"
+#include "core/StateFile.h"
 #include "platform/Numbers.h"
 #include "platform/SortedLines.h"
 
@@ -13,6 +13,14 @@ constexpr quint8 LastBestzeitKlasse = 17;
 // A record that begins at or beyond the end of its file has never been written: it reads as an empty one.
 template <typename Satz> Satz readOrEmpty(const RecordFile &file, int index, Satz (*fromBytes)(const QByteArray &)) {
   return file.holds(index) ? fromBytes(file.read(index)) : Satz();
+}
+
+void write(const Store &store, RecordFile &file, int index, const QByteArray &record) {
+  {
+    const std::scoped_lock lock(store.umgebung.writing);
+    file.write(index, record);
+  }
+  store.umgebung.syncSoon({file.path()});
 }
 
 void raiseCount(Store &store, int index, int &count) {
@@ -108,19 +116,19 @@ void RennenLesen(Store &store) {
 }
 
 void VereinSchreiben(Store &store) {
-  store.VereinDatei.write(store.VereinIdx, toBytes(store.Verein));
+  write(store, store.VereinDatei, store.VereinIdx, toBytes(store.Verein));
   raiseCount(store, store.VereinIdx, store.VereinAnzahl);
 }
 
 void LaeuferSchreiben(Store &store) {
   if (store.LaeuferIdx < 1)
     return;
-  store.LaeuferDatei.write(store.LaeuferIdx, toBytes(store.Laeufer));
+  write(store, store.LaeuferDatei, store.LaeuferIdx, toBytes(store.Laeufer));
   raiseCount(store, store.LaeuferIdx, store.LaeuferAnzahl);
 }
 
 void RennenSchreiben(Store &store) {
-  store.RennenDatei.write(store.RennenIdx, toBytes(store.Rennen));
+  write(store, store.RennenDatei, store.RennenIdx, toBytes(store.Rennen));
   raiseCount(store, store.RennenIdx, store.RennenAnzahl);
 }
 

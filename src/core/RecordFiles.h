@@ -23,7 +23,7 @@ void RennenLesen(Store &store);
 /// A race from its record as RennenLesen takes it.
 RennenSatz trimmedRace(const QByteArray &record);
 
-/// The count is raised if needed; Vext.dat is written anew whenever the index is not below the count.
+/// The count is raised if needed; Vext.dat is replaced whenever the index is not below the count.
 void VereinSchreiben(Store &store);
 /// Does nothing at an index below 1; VereinSchreiben and RennenSchreiben have no such guard and fault there, on
 /// purpose.

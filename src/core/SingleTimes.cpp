@@ -5,8 +5,6 @@
 #include "platform/Numbers.h"
 #include "platform/TextFile.h"
 
-#include <QFile>
-
 namespace {
 
 QString timesFile(const Store &store) {
@@ -16,10 +14,10 @@ QString timesFile(const Store &store) {
 } // namespace
 
 bool hatSingleTimes(const Store &store) {
-  return QFile::exists(timesFile(store));
+  return fileExists(timesFile(store));
 }
 
-void singleTimesSpeichern(Store &store) {
+QByteArray singleTimesBytes(const Store &store) {
   TextWriter file;
   for (int round = 1; round <= 10; ++round)
     file.text(store.ZeitsummeRennenKurz[round]);
@@ -28,11 +26,15 @@ void singleTimesSpeichern(Store &store) {
     for (int round = 0; round <= 10; ++round)
       file.text(QLatin1Char(' ') + plainText(store.CupZeit(row, round)) + QLatin1Char(' '));
   }
-  writeFile(timesFile(store), file.bytes());
+  return file.bytes();
+}
+
+void singleTimesSpeichern(const Store &store) {
+  replaceFile(timesFile(store), singleTimesBytes(store));
 }
 
 void singleTimesLaden(Store &store) {
-  TextReader file(timesFile(store));
+  TextReader file(readFile(timesFile(store)), timesFile(store));
   for (int round = 1; round <= 10; ++round)
     file.lineInto(store.ZeitsummeRennenKurz[round]);
   for (int row = 1; row <= 1000 && !file.atEnd(); ++row) {

@@ -6,7 +6,9 @@
 
 /// Whether the open race has a Z file, and so is a combined one.
 bool hatSingleTimes(const Store &store);
-/// Writes all 1000 blocks from `ZeitsummeRennenKurz`, `CupLaeufer` and `CupZeit`.
-void singleTimesSpeichern(Store &store);
+/// All 1000 blocks from `ZeitsummeRennenKurz`, `CupLaeufer` and `CupZeit`.
+QByteArray singleTimesBytes(const Store &store);
+/// Replaces the Z file of the open race whole.
+void singleTimesSpeichern(const Store &store);
 /// Reads the Z file of the open race into these tables; a file that ends early leaves the rest as it was.
 void singleTimesLaden(Store &store);

@@ -1,9 +1,6 @@
 #include "core/Start.h"
 
-#include "platform/Files.h"
-#include "platform/TextFile.h"
-
-#include <QFile>
+#include "core/StateFile.h"
 
 namespace {
 
@@ -27,18 +24,6 @@ QString windowFile(const Store &store) {
   return store.DatenOrdner + QStringLiteral("TopLeft.dat");
 }
 
-QString stateFile(const Store &store) {
-  return store.DatenOrdner + QStringLiteral("Vext.dat");
-}
-
-void readState(Store &store) {
-  if (!QFile::exists(stateFile(store)))
-    return;
-  TextReader file(stateFile(store));
-  for (int *value : {&store.LaeuferAnzahl, &store.VereinAnzahl, &store.RennenAnzahl, &store.VextReserve})
-    file.numberInto(*value);
-}
-
 void fillBuiltInTables(Store &store) {
   store.JahrOffset = float(store.umgebung.heute().addDays(DaysToNextSeason).year() - SeasonYear);
   int row = 1;
@@ -55,7 +40,7 @@ void fillBuiltInTables(Store &store) {
 
 void storeStarten(Store &store) {
   store.Fenster.load(windowFile(store));
-  readState(store);
+  ZustandLesen(store);
   store.LaeuferIdx = store.LaeuferAnzahl;
   store.VereinIdx = store.VereinAnzahl;
   store.RennenIdx = store.RennenAnzahl;
@@ -63,12 +48,5 @@ void storeStarten(Store &store) {
 }
 
 void FensterSpeichern(Store &store) {
-  store.Fenster.save(windowFile(store));
-}
-
-void ZustandSchreiben(Store &store) {
-  TextWriter file;
-  for (const int value : {store.LaeuferAnzahl, store.VereinAnzahl, store.RennenAnzahl, store.VextReserve})
-    file.number(value);
-  writeFile(stateFile(store), file.bytes());
+  store.umgebung.replaceSoon(windowFile(store), store.Fenster.bytes());
 }

@@ -6,10 +6,8 @@
 /// last records, the built-in tables for the season of today's date. No file is required.
 void storeStarten(Store &store);
 
-/// Writes TopLeft.dat anew.
+/// Replaces TopLeft.dat.
 void FensterSpeichern(Store &store);
-/// Writes Vext.dat anew: the three counts and the reserved number.
-void ZustandSchreiben(Store &store);
 
 /// The red, green, blue colours of the program (0xRRGGBB), rows 0 to 8.
 namespace FarbTabelle {

@@ -9,6 +9,8 @@
 #include <array>
 #include <functional>
 
+struct RaceImage;
+
 /// A row of the participant table; in use when `LaeuferNr` is not 0.
 struct TeilnehmerZeile {
   /// Record number of the athlete; 0 = row free.
@@ -166,4 +168,8 @@ struct Store {
 
   /// Called by RennDatenSpeichern before the first and after the last file.
   std::function<void()> vorDemSpeichern = [] {}, nachDemSpeichern = [] {};
+  /// Called before the first and after the last file of a race that is written as a whole new one, perhaps over
+  /// another.
+  std::function<void(const RaceImage &)> vorDemErsetzen = [](const RaceImage &) {};
+  std::function<void()> nachDemErsetzen = [] {};
 };

@@ -8,7 +8,6 @@
 #include "platform/SortedLines.h"
 #include "platform/TextFile.h"
 
-#include <QFile>
 #include <QSet>
 
 #include <algorithm>
@@ -137,25 +136,29 @@ CupAuswahl cupLaden(Store &store) {
   for (const qint16 points : UsualPoints)
     store.CupPunkteTabelle[++place] = points;
   CupAuswahl auswahl;
-  if (!QFile::exists(cupFile(store)))
+  auto file = TextReader::ifThere(cupFile(store));
+  if (!file)
     return auswahl;
-  TextReader file(cupFile(store));
-  file.lineInto(auswahl.bezeichnung);
+  file->lineInto(auswahl.bezeichnung);
   for (place = 1; place <= 100; ++place)
-    file.numberInto(store.CupPunkteTabelle[place]);
-  while (!file.atEnd())
-    file.numberInto(auswahl.rennen.emplaceBack(0));
+    file->numberInto(store.CupPunkteTabelle[place]);
+  while (!file->atEnd())
+    file->numberInto(auswahl.rennen.emplaceBack(0));
   return auswahl;
 }
 
-void cupSpeichern(const Store &store, const CupAuswahl &auswahl) {
+QByteArray cupBytes(const Store &store, const CupAuswahl &auswahl) {
   TextWriter file;
   file.text(trimmedBlanks(auswahl.bezeichnung));
   for (int place = 1; place <= 100; ++place)
     file.number(store.CupPunkteTabelle[place]);
   for (const int race : auswahl.rennen)
     file.number(race);
-  writeFile(cupFile(store), file.bytes());
+  return file.bytes();
+}
+
+void cupSpeichern(const Store &store, const CupAuswahl &auswahl) {
+  replaceFile(cupFile(store), cupBytes(store, auswahl));
 }
 
 int rennenDesCups(const QString &line) {

@@ -36,7 +36,9 @@ struct CupAuswahl {
 };
 /// Sets the points table from Cup.dat, or as usual where there is none.
 CupAuswahl cupLaden(Store &store);
-/// Writes Cup.dat anew.
+/// The content of Cup.dat.
+QByteArray cupBytes(const Store &store, const CupAuswahl &auswahl);
+/// Replaces Cup.dat whole.
 void cupSpeichern(const Store &store, const CupAuswahl &auswahl);
 /// Number that Cup.dat holds for a line of the race list.
 int rennenDesCups(const QString &line);

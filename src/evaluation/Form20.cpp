@@ -36,6 +36,7 @@ void Form20::load() {
       ui->List1->setMarked(line, true);
   ui->Command1->setEnabled(!ui->List1->marked().isEmpty());
   ui->List2->fill(punkteZeilen(m_store, false));
+  m_atOpening = cupBytes(m_store, auswahl());
 }
 
 void Form20::connectControls() {
@@ -119,11 +120,20 @@ void Form20::print() {
   });
 }
 
-void Form20::closing() {
+CupAuswahl Form20::auswahl() const {
   CupAuswahl cup{ui->Text4->text(), {}};
   for (const int line : ui->List1->marked())
     cup.rennen.append(rennenDesCups(ui->List1->lines()[line]));
-  cupSpeichern(m_store, cup);
+  return cup;
+}
+
+QList<SavedFile> Form20::unsaved() const {
+  const QByteArray now = cupBytes(m_store, auswahl());
+  return now == m_atOpening ? QList<SavedFile>() : QList<SavedFile>{{QStringLiteral("Cup.dat"), now}};
+}
+
+void Form20::closing() {
+  cupSpeichern(m_store, auswahl());
   rennenLaden(m_store, m_openRace);
   rennsatzLesen(m_store);
 }

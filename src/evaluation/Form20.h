@@ -9,6 +9,7 @@
 namespace Ui {
 class Form20;
 }
+struct CupAuswahl;
 
 /// Scores a series of races as a cup.
 ///
@@ -23,6 +24,8 @@ public:
   Form20(Desk &desk, Store &store, Printers &printers);
   ~Form20() override;
 
+  QList<SavedFile> unsaved() const override;
+
 Q_SIGNALS:
   /// Form13 is to be shown as a sign of work, and taken away again.
   void arbeitBegonnen();
@@ -34,6 +37,7 @@ protected:
 
 private:
   void load();
+  CupAuswahl auswahl() const;
   void connectControls();
   void marksChanged();
   void placeChanged();
@@ -50,4 +54,5 @@ private:
   std::unique_ptr<Ui::Form20> ui;
   /// The race that is open again after closing.
   int m_openRace;
+  QByteArray m_atOpening;
 };

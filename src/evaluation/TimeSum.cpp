@@ -7,6 +7,7 @@
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
 #include "raceprep/RaceList.h"
+#include "safety/RaceImage.h"
 
 #include <QSet>
 
@@ -82,9 +83,13 @@ void writeRace(Store &store, int number) {
   race.ZuschlagGast = race.ZuschlagMann = 0;
   race.ZweiDurchgaenge = 0;
   store.RennenIdx = store.AktRennen = number;
+  auto files = raceFiles(store);
+  files.append({'Z', singleTimesBytes(store)});
+  store.vorDemErsetzen(replacingImage(store, number, files, race));
   RennenSchreiben(store);
   RennDatenSpeichern(store);
   singleTimesSpeichern(store);
+  store.nachDemErsetzen();
 }
 
 } // namespace

@@ -64,6 +64,9 @@ Fault::Fault(QString report) : m_report(std::move(report)), m_utf8(m_report.toUt
 
 FileFault::FileFault(const QString &path, const QString &action) : FileFault(path, action, takeReason(path)) {}
 
+FileFault::FileFault(const QString &path, const QString &action, const std::error_code &reason)
+    : FileFault(path, action, reasonOf(reason.value())) {}
+
 FileFault::FileFault(const QString &path, const QString &action, const QString &reason)
     : Fault(QStringLiteral("Die Datei „%1“ konnte nicht %2 werden: %3.").arg(path, action, reason)) {}
 

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <exception>
+#include <system_error>
 
 /// What ends the program: an exception that nobody in the logic catches. The roof catches it at the event loop, saves
 /// what lives only in memory, reports in German and exits with a code that is not 0.
@@ -24,6 +25,8 @@ class FileFault : public Fault {
 public:
   /// `action` is a German phrase for what was tried: "geschrieben", "geöffnet", "gelesen", "gelöscht".
   FileFault(const QString &path, const QString &action);
+  /// The same with the reason that a routine of the standard library gave.
+  FileFault(const QString &path, const QString &action, const std::error_code &reason);
   /// The same with a reason that errno does not know.
   FileFault(const QString &path, const QString &action, const QString &reason);
 };

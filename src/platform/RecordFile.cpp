@@ -1,15 +1,14 @@
 #include "platform/RecordFile.h"
 
 #include "platform/Faults.h"
+#include "platform/Files.h"
 
 void RecordFile::open(const QString &path) {
   close();
+  m_image = readIfThere(path, LargestRecordFile).value_or(QByteArray());
   m_file.setFileName(path);
   if (!m_file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
     throw FileFault(path, QStringLiteral("geöffnet"));
-  m_image = m_file.readAll();
-  if (m_file.error() != QFileDevice::NoError)
-    throw FileFault(path, QStringLiteral("gelesen"));
 }
 
 void RecordFile::close() {
@@ -19,7 +18,7 @@ void RecordFile::close() {
 
 QByteArray RecordFile::read(int n) const {
   requireOpen(QStringLiteral("gelesen"));
-  return m_image.mid(qsizetype(n - 1) * m_length, m_length).leftJustified(m_length, '\0');
+  return recordIn(m_image, n, m_length);
 }
 
 void RecordFile::write(int n, const QByteArray &record) {
@@ -38,4 +37,12 @@ void RecordFile::write(int n, const QByteArray &record) {
 void RecordFile::requireOpen(const QString &action) const {
   if (!m_file.isOpen())
     throw FileFault(m_file.fileName(), action, QStringLiteral("sie ist nicht geöffnet"));
+}
+
+bool holdsRecord(const QByteArray &file, int n, int length) {
+  return n >= 1 && qint64(n - 1) * length < file.size();
+}
+
+QByteArray recordIn(const QByteArray &file, int n, int length) {
+  return file.mid(qsizetype(n - 1) * length, length).leftJustified(length, '\0');
 }

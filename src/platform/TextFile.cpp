@@ -7,9 +7,20 @@
 
 #include <limits>
 
+namespace {
+
+constexpr qsizetype ShownOfLongLine = 40;
+
+} // namespace
+
 TextReader::TextReader(QByteArray bytes, QString path) : m_bytes(std::move(bytes)), m_path(std::move(path)) {}
 
-TextReader::TextReader(const QString &path) : TextReader(readFile(path), path) {}
+std::optional<TextReader> TextReader::ifThere(const QString &path) {
+  auto bytes = readIfThere(path);
+  if (!bytes)
+    return {};
+  return TextReader(*std::move(bytes), path);
+}
 
 QString TextReader::itemUpTo(bool comma) {
   if (m_at == 0 || m_bytes[m_at - 1] == '\n')
@@ -21,6 +32,9 @@ QString TextReader::itemUpTo(bool comma) {
   QByteArrayView item = QByteArrayView(m_bytes).sliced(m_at, end - m_at);
   if (lineEnds && item.endsWith('\r'))
     item.chop(1);
+  if (item.size() > LongestLine)
+    throw ConversionFault(m_path, m_line, fromCodePage(item.first(ShownOfLongLine)) + QStringLiteral("…"),
+                          QStringLiteral("die Zeile ist zu lang für eine Datei von VEXT"));
   m_at = std::min(end + 1, m_bytes.size());
   return fromCodePage(item);
 }

@@ -3,17 +3,21 @@
 #include <QByteArray>
 #include <QString>
 
+#include <optional>
+
 /// Reads the items of a text file: lines end in CR LF or LF; a field goes up to the next comma or the end of the line,
 /// the comma is eaten and the rest of the line is the next item. Text is Windows-1252.
 class TextReader {
 public:
+  static constexpr qsizetype LongestLine = 65'536;
+
   /// `path` is only for reports.
   TextReader(QByteArray bytes, QString path);
-  /// Reads the file at `path`, which must exist.
-  explicit TextReader(const QString &path);
+  /// The file at `path`; nothing if it is absent, a FileFault if it cannot be read.
+  static std::optional<TextReader> ifThere(const QString &path);
 
   bool atEnd() const { return m_at >= m_bytes.size(); }
-  /// The rest of the line, as it stands.
+  /// The rest of the line, as it stands. One of more than LongestLine bytes is none of ours: a ConversionFault.
   QString line();
   /// A field without the blanks around it.
   QString field();

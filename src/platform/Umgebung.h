@@ -1,9 +1,12 @@
 #pragma once
 
+#include "platform/Files.h"
+
 #include <QDate>
 #include <QStringList>
 
 #include <functional>
+#include <mutex>
 #include <random>
 
 /// What the logic takes from outside, in one place that a test can set.
@@ -14,6 +17,14 @@ struct Umgebung {
   std::function<void()> piep = [] {};
   /// Shows the reminder of athletes without sex or birth date; an empty list takes it away.
   std::function<void(const QStringList &)> erinnern = [](const QStringList &) {};
+  /// Replaces a state file. The program hands it to its disk worker, which does it whole and soon; a failure is a
+  /// fault.
+  std::function<void(const QString &, const QByteArray &)> replaceSoon =
+      [](const QString &path, const QByteArray &bytes) { writeFile(path, bytes); };
+  /// Brings files that were written in place to the disk, likewise.
+  std::function<void(const QStringList &)> syncSoon = [](const QStringList &) {};
+  /// Held while files of the data folder are written in place, so that nobody copies half a save.
+  std::mutex writing;
   /// The one generator of the program, seeded from the clock at the start.
   std::mt19937 zufall;
   /// A random number in [0, 1).

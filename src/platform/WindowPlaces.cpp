@@ -1,10 +1,7 @@
 #include "platform/WindowPlaces.h"
 
-#include "platform/Files.h"
 #include "platform/Numbers.h"
 #include "platform/TextFile.h"
-
-#include <QFile>
 
 #include <algorithm>
 #include <cstdlib>
@@ -20,22 +17,22 @@ qint64 nextPlace(TextReader &file, int present) {
 } // namespace
 
 void WindowPlaces::load(const QString &path) {
-  if (!QFile::exists(path))
+  auto file = TextReader::ifThere(path);
+  if (!file)
     return;
-  TextReader file(path);
   for (int row = 1; row <= 60; ++row) {
-    const qint64 top = nextPlace(file, FensterTop[row]), left = nextPlace(file, FensterLeft[row]);
+    const qint64 top = nextPlace(*file, FensterTop[row]), left = nextPlace(*file, FensterLeft[row]);
     const bool fits = std::max(top, left) <= std::numeric_limits<int>::max();
     FensterTop[row] = fits ? int(top) : 0;
     FensterLeft[row] = fits ? int(left) : 0;
   }
 }
 
-void WindowPlaces::save(const QString &path) const {
+QByteArray WindowPlaces::bytes() const {
   TextWriter file;
   for (int row = 1; row <= 60; ++row) {
     file.number(FensterTop[row]);
     file.number(FensterLeft[row]);
   }
-  writeFile(path, file.bytes());
+  return file.bytes();
 }

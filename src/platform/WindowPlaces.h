@@ -10,6 +10,6 @@ struct WindowPlaces {
   /// Reads both values of each row, made positive; a row with a number beyond 32 bits has no position. Does nothing
   /// without the file.
   void load(const QString &path);
-  /// Writes all 60 rows anew.
-  void save(const QString &path) const;
+  /// The file of all 60 rows.
+  QByteArray bytes() const;
 };

@@ -28,6 +28,7 @@ Form21::Form21(Desk &desk, Store &store)
     makeRow(i);
   setUp();
   fill(WerbungLesen(m_store));
+  m_atOpening = werbungBytes(werbung());
   connect(ui->Command2, &QPushButton::clicked, this, [this] { move(&Row::rechts, 2); });
   connect(ui->Command3, &QPushButton::clicked, this, [this] { move(&Row::rechts, -2); });
   connect(ui->Command4, &QPushButton::clicked, this, [this] { move(&Row::runter, -1); });
@@ -146,6 +147,11 @@ bool Form21::eventFilter(QObject *watched, QEvent *event) {
       if (m_rows[i].image == watched)
         select(int(i));
   return Screen::eventFilter(watched, event);
+}
+
+QList<SavedFile> Form21::unsaved() const {
+  const QByteArray now = werbungBytes(werbung());
+  return now == m_atOpening ? QList<SavedFile>() : QList<SavedFile>{{QStringLiteral("werbung.dat"), now}};
 }
 
 void Form21::closing() {

@@ -26,6 +26,8 @@ public:
   Form21(Desk &desk, Store &store);
   ~Form21() override;
 
+  QList<SavedFile> unsaved() const override;
+
 protected:
   void closing() override;
   bool eventFilter(QObject *watched, QEvent *event) override;
@@ -52,4 +54,5 @@ private:
   std::array<Row, 8> m_rows{};
   /// 0 to 7; −1 = none.
   int m_selection = -1;
+  QByteArray m_atOpening;
 };

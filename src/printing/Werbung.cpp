@@ -4,8 +4,6 @@
 #include "platform/Numbers.h"
 #include "platform/TextFile.h"
 
-#include <QFile>
-
 namespace {
 
 QString bannerFile(const Store &store) {
@@ -51,20 +49,24 @@ QString WerbeGrenze::held(const QString &text) const {
 
 Werbung WerbungLesen(const Store &store) {
   Werbung werbung = builtIn();
-  if (!QFile::exists(bannerFile(store)))
+  auto file = TextReader::ifThere(bannerFile(store));
+  if (!file)
     return werbung;
-  TextReader file(bannerFile(store));
   for (auto &banner : werbung)
-    readBanner(file, banner);
+    readBanner(*file, banner);
   return werbung;
 }
 
-void WerbungSchreiben(const Store &store, const Werbung &werbung) {
+QByteArray werbungBytes(const Werbung &werbung) {
   TextWriter file;
   for (const auto &banner : werbung) {
     file.number(banner.gewaehlt ? 1 : 0);
     for (const QString &text : {banner.datei, banner.rechts, banner.runter, banner.groesse})
       file.text(text);
   }
-  writeFile(bannerFile(store), file.bytes());
+  return file.bytes();
+}
+
+void WerbungSchreiben(const Store &store, const Werbung &werbung) {
+  replaceFile(bannerFile(store), werbungBytes(werbung));
 }

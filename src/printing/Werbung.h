@@ -32,5 +32,7 @@ using Werbung = std::array<Werbebanner, 8>;
 
 /// The banners as werbung.dat has them, within their ranges; without the file the built-in ones.
 Werbung WerbungLesen(const Store &store);
-/// Writes werbung.dat anew.
+/// The content of werbung.dat.
+QByteArray werbungBytes(const Werbung &werbung);
+/// Replaces werbung.dat whole.
 void WerbungSchreiben(const Store &store, const Werbung &werbung);

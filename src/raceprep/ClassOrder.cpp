@@ -66,10 +66,16 @@ void loadGrid(Store &store, KlasseNummerRaster &raster) {
   }
 }
 
-void storeGrid(Store &store, const KlasseNummerRaster &raster) {
+KlassenReihenfolge gridOrder(const Store &store, const KlasseNummerRaster &raster) {
+  KlassenReihenfolge order = store.KlasseReihenfolge;
   int position = 0;
   for (const auto &cell : gridCells(store))
-    store.KlasseReihenfolge(cell.klasse, cell.a, cell.b, cell.f) = raster[position++];
+    order(cell.klasse, cell.a, cell.b, cell.f) = raster[position++];
+  return order;
+}
+
+void storeGrid(Store &store, const KlasseNummerRaster &raster) {
+  store.KlasseReihenfolge = gridOrder(store, raster);
 }
 
 void clearGrid(Store &store, KlasseNummerRaster &raster) {

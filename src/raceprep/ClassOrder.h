@@ -23,6 +23,8 @@ QStringList gridHeadings(const RennenSatz &rennen);
 
 /// Fills the grid from `KlasseReihenfolge`, all other cells become 0; exact names that are missing are built.
 void loadGrid(Store &store, KlasseNummerRaster &raster);
+/// The order numbers of the open race with those of all cells, of hidden ones too.
+KlassenReihenfolge gridOrder(const Store &store, const KlasseNummerRaster &raster);
 /// Writes the numbers of all cells back, those of hidden ones too.
 void storeGrid(Store &store, const KlasseNummerRaster &raster);
 /// All numbers 0, all exact names of the classes in use built anew.

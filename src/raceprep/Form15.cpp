@@ -189,6 +189,11 @@ void Form15::clearAll() {
     showNumber(cell);
 }
 
+QList<SavedFile> Form15::unsaved() const {
+  return {{raceFileName(m_store, 'K', m_store.AktRennen).mid(m_store.DatenOrdner.size()),
+           classFile(m_store, gridOrder(m_store, m_raster))}};
+}
+
 void Form15::closing() {
   storeGrid(m_store, m_raster);
   Q_EMIT saving();

@@ -27,6 +27,8 @@ public:
   Form15(Desk &desk, Store &store);
   ~Form15() override;
 
+  QList<SavedFile> unsaved() const override;
+
 Q_SIGNALS:
   /// The opener is to be shown now, before the race is saved.
   void saving();

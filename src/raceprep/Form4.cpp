@@ -37,6 +37,7 @@ void Form4::connectRegister() {
     close();
   });
   ui->Text2->installEventFilter(this);
+  ui->Text2->setProperty("einzutragen", true); // only a button stores it
 }
 
 QList<Form4::Function> Form4::functions() const {

@@ -266,6 +266,10 @@ void Form6::zeilenVerschoben() {
   fillList();
 }
 
+QString Form6::subject() const {
+  return m_row == 0 ? QString() : ui->Label2->text();
+}
+
 void Form6::closing() {
   RennDatenSpeichern(m_store);
 }

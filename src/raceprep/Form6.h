@@ -32,6 +32,7 @@ public:
   /// For the participant list: hides the class, which may not be current then, and shows the participant of a table row
   /// as a click would; nobody new if the row is not in the list.
   void teilnehmerWaehlen(int row);
+  QString subject() const override;
   /// For the participant list after it deleted a row, since all rows behind it have moved up: back to nobody selected,
   /// and `List1` anew.
   void zeilenVerschoben();

@@ -2,9 +2,9 @@
 
 #include "core/RaceFiles.h"
 #include "core/RecordFiles.h"
-#include "platform/Files.h"
 #include "platform/Numbers.h"
 #include "platform/TextFile.h"
+#include "safety/RaceImage.h"
 
 #include <cmath>
 
@@ -53,9 +53,9 @@ QByteArray copiedParticipants(const Store &store, bool withResults) {
   return file.bytes();
 }
 
-void writeRecord(Store &store, int number, const QString &name) {
+void writeRecord(Store &store, int number, const RennenSatz &record) {
   store.RennenIdx = number;
-  store.Rennen.RennenName = QStringLiteral("Kopie v. ") + name;
+  store.Rennen = record;
   RennenSchreiben(store);
   store.RennenIdx = store.AktRennen;
   RennenLesen(store);
@@ -71,8 +71,12 @@ std::optional<int> copyNumber(const QString &text) {
 }
 
 void copyRace(Store &store, int number, const QString &name, bool withResults) {
-  for (const auto &file : raceFiles(store))
-    writeFile(raceFileName(store, file.letter, number),
-              file.letter == 'R' ? copiedParticipants(store, withResults) : file.bytes);
-  writeRecord(store, number, name);
+  auto files = raceFiles(store);
+  files.first().bytes = copiedParticipants(store, withResults);
+  RennenSatz record = store.Rennen;
+  record.RennenName = QStringLiteral("Kopie v. ") + name;
+  store.vorDemErsetzen(replacingImage(store, number, files, record));
+  writeRaceFiles(store, number, files);
+  writeRecord(store, number, record);
+  store.nachDemErsetzen();
 }

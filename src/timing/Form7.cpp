@@ -123,6 +123,10 @@ void Form7::becomeActive() {
     control->show();
 }
 
+QString Form7::subject() const {
+  return QStringLiteral("Nr. %1 %2").arg(ui->Label5->text(), ui->Label2->text());
+}
+
 void Form7::closing() {
   RennDatenSpeichern(m_store);
 }

@@ -33,6 +33,7 @@ public:
   ~Form7() override;
 
   void becomeActive() override;
+  QString subject() const override;
   /// Takes a time, as plain text, as the first run of the selected participant, also while the second run is worked on.
   void zeitUebernehmen(const QString &zeit);
 

@@ -52,7 +52,7 @@ TEST_F(Form15Test, TypedNumberIsShownByTheButtonAndCountsFromTheClosing) {
   form->close();
   EXPECT_FALSE(savedBefore);
   EXPECT_EQ(store.KlasseReihenfolge(2, 0, 0, 0), 1);
-  EXPECT_EQ(test.file(QStringLiteral("K 1.lst")), classFile(store));
+  EXPECT_EQ(test.file(QStringLiteral("K 1.lst")), classFile(store, store.KlasseReihenfolge));
 }
 
 TEST_F(Form15Test, KeysWalkOverVisibleCellsAndPressThem) {

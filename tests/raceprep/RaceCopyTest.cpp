@@ -26,7 +26,7 @@ TEST_F(RaceCopy, ForeignNamesStayWhereTheRaceHasNone) {
   EXPECT_EQ(test.file(QStringLiteral("R 2.dat")), "");
   EXPECT_EQ(test.file(QStringLiteral("M 2.lst")), "alt\r\n");
   EXPECT_TRUE(test.file(QStringLiteral("G 2.lst")).startsWith("\r\nGruppe\r\n"));
-  EXPECT_EQ(test.file(QStringLiteral("K 2.lst")), classFile(store));
+  EXPECT_EQ(test.file(QStringLiteral("K 2.lst")), classFile(store, store.KlasseReihenfolge));
 }
 
 TEST_F(RaceCopy, RecordFarAheadRaisesTheCountAndLeavesZeroBytesBetween) {

@@ -23,7 +23,7 @@ QString baseName(const Recording &recording, const QDateTime &when) {
 
 QString freePath(const QString &base) {
   QString path = base + QStringLiteral(".pdf");
-  for (int copy = 2; QFile::exists(path); ++copy)
+  for (int copy = 2; fileExists(path); ++copy)
     path = base + QStringLiteral(" (%1).pdf").arg(copy);
   return path;
 }

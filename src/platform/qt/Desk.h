@@ -20,6 +20,9 @@ public:
   WindowPlaces &places() { return m_places; }
   void savePlaces() { m_savePlaces(); }
 
+  /// What was typed into a field that has not been left, with the field and whom it is about; empty if nothing was.
+  QString openInput() const;
+
   /// Shows a screen on top and makes it active.
   void show(Screen &screen);
   /// Makes a visible screen active: fields of other screens are left first, then its activation steps run, once for

@@ -30,7 +30,8 @@ QString whatHappened() {
 }
 
 void tellConsole(const QString &text) {
-  std::fputs((QStringLiteral("VEXT: ") + text + QLatin1Char('\n')).toLocal8Bit().constData(), stderr);
+  const QByteArray line = (QStringLiteral("VEXT: ") + text + QLatin1Char('\n')).toLocal8Bit();
+  std::fwrite(line.constData(), 1, size_t(line.size()), stderr); // a text from a file may hold NULs
   std::fflush(stderr);
 }
 

@@ -1,6 +1,7 @@
 #include "platform/qt/FieldGuard.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QWidget>
 
 FieldGuard::FieldGuard() {
@@ -50,6 +51,8 @@ void FieldGuard::moveTo(QWidget *field) {
     return;
   QWidget *const left = m_field;
   m_field = field;
+  if (auto *edit = qobject_cast<QLineEdit *>(left))
+    edit->setModified(false);
   if (const auto leave = m_leave.value(left))
     leave();
   if (field && m_field == field)

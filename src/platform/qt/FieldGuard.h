@@ -25,6 +25,9 @@ public:
   void flush(const QWidget *window);
   /// Leaves the field that has the focus if it belongs to another window than `window`.
   void flushOthers(const QWidget *window);
+  /// The control that has the focus, or will have it on return from another program.
+  QWidget *field() const { return m_field; }
+  bool storesOnLeaving(QWidget *field) const { return m_leave.contains(field); }
 
 private:
   void focusMoved(QWidget *now);

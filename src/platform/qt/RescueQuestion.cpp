@@ -3,13 +3,14 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-bool askTakeOver(const QString &text) {
-  QMessageBox box(QMessageBox::Question, QStringLiteral("VEXT - Rettung"), text);
+bool askBeforeMenu(const QString &name, const QString &text, const QString &accept, const QString &decline) {
+  QMessageBox box(QMessageBox::Question, QStringLiteral("VEXT"), text);
   box.setTextFormat(Qt::PlainText);
-  box.setObjectName(QStringLiteral("Rettung"));
+  box.setObjectName(name);
   box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  const auto *take = box.addButton(QStringLiteral("Übernehmen"), QMessageBox::AcceptRole);
-  box.addButton(QStringLiteral("Alles lassen, wie es ist"), QMessageBox::RejectRole);
+  const auto *accepting = box.addButton(accept, QMessageBox::AcceptRole);
+  if (!decline.isEmpty())
+    box.addButton(decline, QMessageBox::RejectRole);
   box.exec();
-  return box.clickedButton() == take;
+  return box.clickedButton() == accepting;
 }

@@ -2,6 +2,6 @@
 
 #include <QString>
 
-/// Shows what was rescued, before the menu, and asks what to do with it: true for "Übernehmen", false for "Alles
-/// lassen, wie es ist" or when it is closed.
-bool askTakeOver(const QString &text);
+/// A question before the menu, in a window of the given object name: true for the first answer, false for the second or
+/// when it is closed. Without a second answer there is only one button.
+bool askBeforeMenu(const QString &name, const QString &text, const QString &accept, const QString &decline);

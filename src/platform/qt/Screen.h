@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Files.h"
+
 #include <QHash>
 #include <QWidget>
 
@@ -25,6 +27,11 @@ public:
   /// Steps that run each time the screen becomes active: at opening, when a screen opened from it closes, when the
   /// operator comes to it from another screen beside it. Never on return from another program or from a popup.
   virtual void becomeActive() {}
+
+  /// The files that the screen would write if it closed now and that lie neither in the store nor on the disk.
+  virtual QList<SavedFile> unsaved() const { return {}; }
+  /// Whom its fields are about, as "Nr. 28"; empty where the title says it.
+  virtual QString subject() const { return {}; }
 
   /// Shows the screen; one that was hidden stands where it stood, whatever the window system would like.
   void comeBack();

@@ -1,0 +1,405 @@
+#include "safety/Safety.h"
+
+#include "core/RecordFiles.h"
+#include "core/StateFile.h"
+#include "platform/Faults.h"
+
+#include <QFileInfo>
+
+#include <chrono>
+#include <utility>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto RunningInterval = 2s;
+/// The menu is painted and ready before the first safety copy begins.
+constexpr auto CopyDelay = 500ms;
+constexpr int LinesOfState = 4;
+
+const auto TakeOver = QStringLiteral("Übernehmen");
+const auto LeaveAll = QStringLiteral("Alles lassen, wie es ist");
+const auto GoOn = QStringLiteral("Weiter");
+
+QString namesOf(const QList<SavedFile> &files) {
+  QStringList names;
+  for (const auto &file : files)
+    names << file.name;
+  return names.join(QStringLiteral(", "));
+}
+
+QString raceTitle(const RaceImage &image) {
+  for (const auto &file : image.files)
+    if (file.name == recordCopyName(image.race))
+      return QStringLiteral("der Veranstaltung %1 „%2“").arg(image.race).arg(trimmedRace(file.bytes).RennenName);
+  return image.race == RaceImage::NoRace ? QStringLiteral("der Veranstaltungsmappe")
+                                         : QStringLiteral("der Veranstaltung %1").arg(image.race);
+}
+
+/// Whether it holds more than the counts, which the files of the folder have as well.
+bool holdsWork(const RaceImage &image) {
+  return image.race != RaceImage::NoRace || image.files.size() > 1;
+}
+
+// What cannot be compared counts as news.
+QList<SavedFile> newsOf(const RunningCopy::Found &found, const Store &store) {
+  try {
+    return newsIn(found.image, found.folder, store, found.isWhole());
+  } catch (const Fault &) {
+    QList<SavedFile> all;
+    for (const auto &file : found.image.files)
+      if (file.name != noteName())
+        all << file;
+    return all;
+  }
+}
+
+QString whatHappened(const RunningCopy::Found &found) {
+  const QString when = QFileInfo(found.folder).lastModified().toString(QStringLiteral("dd.MM.yyyy, HH:mm:ss"));
+  QString text =
+      found.rescuedTo.isEmpty()
+          ? QStringLiteral("VEXT ist beim letzten Mal nicht ordentlich beendet worden (%1 Uhr).").arg(when)
+          : QStringLiteral("VEXT musste beim letzten Mal wegen eines Fehlers beendet werden (%1 Uhr).").arg(when);
+  if (!found.isWhole())
+    text += QStringLiteral("\n\nDie laufende Sicherung von damals ist beschädigt, nicht lesbar ist: %1. Sie bleibt "
+                           "liegen in\n%2")
+                .arg(found.unreadable.join(QStringLiteral(", ")), found.folder);
+  return text;
+}
+
+QString noteText(const RaceImage &image) {
+  const QString note = noteIn(image).trimmed();
+  return note.isEmpty() ? QString() : QStringLiteral("\n\nNoch nicht eingetragen war:\n") + note;
+}
+
+void removeIfPossible(const QString &folder) {
+  try {
+    removeFolder(folder);
+  } catch (const Fault &) { // half a rescue does no harm
+  }
+}
+
+bool isCutOff(const QByteArray &state) {
+  return state.count('\n') + (state.isEmpty() || state.endsWith('\n') ? 0 : 1) < LinesOfState;
+}
+
+QString countsText(const Zustand &counts) {
+  return QStringLiteral("%1 Läufer, %2 Vereine, %3 Veranstaltungen")
+      .arg(counts.LaeuferAnzahl)
+      .arg(counts.VereinAnzahl)
+      .arg(counts.RennenAnzahl);
+}
+
+} // namespace
+
+void Safety::Trouble::set(const QString &now) {
+  const std::scoped_lock lock(guard);
+  text = now;
+}
+
+QString Safety::Trouble::get() {
+  const std::scoped_lock lock(guard);
+  return text;
+}
+
+Safety::Safety(Store &store, DiskWorker &worker)
+    : waitAtSave([&worker] { worker.wait(); }), m_store(store), m_worker(worker), m_folder(store.DatenOrdner),
+      m_running(m_folder.path()), m_copies(m_folder.dataFolder(), m_folder.path() + QStringLiteral("/Kopien")) {
+  m_ticks.setInterval(RunningInterval);
+  m_ticks.callOnTimeout([this] { tick(); });
+  m_copySoon.setSingleShot(true);
+  m_copySoon.callOnTimeout([this] { copyAll(); });
+}
+
+Safety::~Safety() {
+  m_worker.wait();
+}
+
+// A lock that cannot be asked is no reason to go without a running copy.
+bool Safety::claim() {
+  try {
+    m_folder.open();
+  } catch (const Fault &fault) {
+    stopRunning(fault.report());
+    return true;
+  }
+  if (m_lock.take(m_folder.path() + QStringLiteral("/VEXT.lock")) != System::Lock::State::Taken)
+    return true;
+  m_alone = false;
+  stopRunning(QStringLiteral("VEXT läuft in diesem Ordner schon einmal."));
+  return false;
+}
+
+QList<Safety::Offer> Safety::leftBehind() {
+  QList<Offer> offers;
+  try {
+    for (const auto &found : m_alone ? m_running.leftBehind() : QList<RunningCopy::Found>())
+      if (const auto offer = offerFor(found))
+        offers << *offer;
+  } catch (const Fault &fault) {
+    stopRunning(
+        QStringLiteral("Was beim letzten Mal zu retten war, liegt in „%1“. %2").arg(m_folder.path(), fault.report()));
+  }
+  return offers;
+}
+
+std::optional<Safety::Offer> Safety::lostCounts() {
+  const auto state = readIfThere(zustandDatei(m_store));
+  if (!m_alone || !state || !isCutOff(*state))
+    return {};
+  try {
+    const auto copy = m_copies.newest(QStringLiteral("Vext.dat"));
+    const Zustand now = countsOnDisk(m_store);
+    const Zustand counts = copy ? raisedCounts(m_store, zustandAus(*copy, zustandDatei(m_store))) : now;
+    if (counts == now)
+      return {};
+    return Offer{
+        QStringLiteral("Die Datei Vext.dat ist abgeschnitten; nach ihr gibt es: %1.\n\nDie letzte "
+                       "Sicherungskopie zählt: %2. So viele stehen auch in den Dateien.\n\n„Übernehmen“ stellt "
+                       "diese Zahlen wieder her.")
+            .arg(countsText(now), countsText(counts)),
+        TakeOver, LeaveAll, [this, counts] { replaceFile(zustandDatei(m_store), toBytes(counts)); }, [] {}};
+  } catch (const Fault &) {
+    return {};
+  }
+}
+
+void Safety::start() {
+  if (m_alone) {
+    m_store.vorDemSpeichern = [this] { copyBeforeSave(); };
+    m_store.nachDemSpeichern = [this] { m_copySoon.start(0ms); };
+    m_store.vorDemErsetzen = [this](const RaceImage &image) { beginReplacing(image); };
+    m_store.nachDemErsetzen = [this] { endReplacing(); };
+    m_ticks.start();
+    m_copySoon.start(CopyDelay);
+  }
+  tell();
+}
+
+void Safety::finish() {
+  m_ticks.stop();
+  if (m_copySoon.isActive())
+    copyAll();
+  m_worker.wait();
+  m_worker.rethrow();
+  if (m_active)
+    m_running.clear();
+  m_lock.release();
+}
+
+QString Safety::rescue() noexcept {
+  try {
+    m_ticks.stop();
+    m_copySoon.stop();
+    hint = [](const QString &) {};
+    m_worker.wait();
+    forgetFailures();
+    return rescueWork();
+  } catch (const std::exception &e) {
+    return QStringLiteral("Die offene Veranstaltung konnte nicht gesichert werden: ") + QString::fromUtf8(e.what());
+  }
+}
+
+// What failed beside would only end the report with a report of its own.
+void Safety::forgetFailures() {
+  try {
+    m_worker.rethrow();
+  } catch (const std::exception &) {
+  }
+}
+
+void Safety::tick() {
+  if (!m_active || m_replacing || m_runningInWork)
+    return;
+  try {
+    write(workImage(m_store, screens()));
+  } catch (const std::exception &e) {
+    m_runningTrouble.set(QStringLiteral("Die laufende Sicherung ist nicht gelungen. ") + QString::fromUtf8(e.what()));
+  }
+  tell();
+}
+
+void Safety::copyAll() {
+  m_copySoon.stop();
+  if (m_copyInWork.exchange(true))
+    return m_copySoon.start(CopyDelay);
+  m_worker.run([this] {
+    try {
+      m_copies.make(QDateTime::currentDateTime(), m_store.umgebung.writing);
+      m_copyTrouble.set({});
+    } catch (const std::exception &e) {
+      m_copyTrouble.set(QStringLiteral("Die Sicherungskopie ist nicht gelungen. ") + QString::fromUtf8(e.what()));
+    }
+    m_copyInWork = false;
+    QMetaObject::invokeMethod(
+        &m_copySoon, [this] { tell(); }, Qt::QueuedConnection);
+  });
+}
+
+void Safety::wait() {
+  m_worker.wait();
+  tell();
+}
+
+void Safety::copyBeforeSave() {
+  if (m_runningInWork)
+    waitAtSave();
+  tick();
+  if (m_runningInWork)
+    waitAtSave();
+}
+
+// What the race takes the place of must be in a safety copy, and the race itself in a running copy, before the first
+// byte is written.
+void Safety::beginReplacing(const RaceImage &image) {
+  copyAll();
+  waitAtSave();
+  if (!m_active)
+    return;
+  write(image);
+  m_replacing = true;
+  waitAtSave();
+}
+
+void Safety::endReplacing() {
+  m_replacing = false;
+  m_copySoon.start(0ms);
+}
+
+void Safety::write(const RaceImage &image) {
+  if (m_handed == image)
+    return;
+  m_handed = image;
+  m_runningInWork = true;
+  m_worker.run([this, image] {
+    try {
+      m_running.write(image);
+      m_runningTrouble.set({});
+    } catch (const std::exception &e) {
+      m_runningTrouble.set(QStringLiteral("Die laufende Sicherung ist nicht gelungen. ") + QString::fromUtf8(e.what()));
+    }
+    m_runningInWork = false;
+    QMetaObject::invokeMethod(
+        &m_ticks, [this] { tell(); }, Qt::QueuedConnection);
+  });
+}
+
+std::optional<Safety::Offer> Safety::offerFor(const RunningCopy::Found &found) {
+  if (found.image.before && found.isWhole() && progressOf(found.image, m_store) == Progress::Half)
+    return offerReplaced(found);
+  const auto news = found.image.before ? QList<SavedFile>() : newsOf(found, m_store);
+  if (!news.isEmpty() || !noteIn(found.image).isEmpty() || !found.isWhole())
+    return offerWork(found, news);
+  m_running.settle(found);
+  return {};
+}
+
+Safety::Offer Safety::offerReplaced(const RunningCopy::Found &found) {
+  const auto answer = [this, found](void (*act)(const RaceImage &, const Store &)) {
+    return [this, found, act] {
+      act(found.image, m_store);
+      m_running.settle(found);
+    };
+  };
+  return {whatHappened(found) +
+              QStringLiteral("\n\nDabei wurde gerade %1 neu geschrieben; ihre Dateien sind jetzt halb alt, halb neu: "
+                             "%2.\n\n„Fertigstellen“ schreibt den Rest. „Zurücknehmen“ stellt her, was vorher da war.")
+                  .arg(raceTitle(found.image).replace(QStringLiteral("der "), QStringLiteral("die ")),
+                       namesOf(found.image.files)),
+          QStringLiteral("Fertigstellen"), QStringLiteral("Zurücknehmen"), answer(finishReplacing),
+          answer(takeBackReplacing)};
+}
+
+Safety::Offer Safety::offerWork(const RunningCopy::Found &found, const QList<SavedFile> &news) {
+  const auto settle = [this, found] { m_running.settle(found); };
+  if (news.isEmpty())
+    return {whatHappened(found) + noteText(found.image), GoOn, {}, settle, settle};
+  const QString folder = putIntoRescue(found);
+  return {whatHappened(found) +
+              QStringLiteral("\n\nIn %1 gab es Eingaben, die nicht in ihren Dateien stehen (%2). Sie sind gesichert in "
+                             "dem Ordner\n%3\n\n„Übernehmen“ kopiert sie über die vorhandenen Dateien; was dort stand, "
+                             "bleibt in demselben Ordner mit dem Zusatz „vorher“. Danach ist alles da.\n\n„Alles "
+                             "lassen, wie es ist“ ändert nichts. Die Dateien können auch später von Hand in den "
+                             "Datenordner kopiert werden.")
+                  .arg(raceTitle(found.image), namesOf(news), folder) +
+              noteText(found.image),
+          TakeOver, LeaveAll,
+          [this, found, news, folder, settle] {
+            ::takeOver(found.image, news, folder, m_store);
+            settle();
+          },
+          settle};
+}
+
+void Safety::stopRunning(const QString &reason) {
+  m_active = false;
+  m_refusal = reason + QStringLiteral(" Laufend gesichert wird jetzt nicht.");
+}
+
+// Where the data folder takes nothing, the work lies in the safety folder, at a place that no later copy wipes out.
+QString Safety::putIntoRescue(const RunningCopy::Found &found) {
+  if (!found.rescuedTo.isEmpty() && fileExists(found.rescuedTo))
+    return found.rescuedTo;
+  QString folder = newRescueFolder(m_folder.dataFolder());
+  try {
+    writeImage(found.image, folder);
+  } catch (const Fault &) {
+    removeIfPossible(folder);
+    folder = newRescueFolder(m_folder.path());
+    writeImage(found.image, folder);
+  }
+  RunningCopy::markRescued(found.folder, folder);
+  return folder;
+}
+
+QString Safety::rescueWork() {
+  if (m_replacing)
+    return QStringLiteral("Eine Veranstaltung wurde gerade neu geschrieben; beim nächsten Start bietet VEXT an, das "
+                          "fertigzustellen oder zurückzunehmen.");
+  QList<SavedFile> ofScreens;
+  try {
+    ofScreens = screens();
+  } catch (const std::exception &) { // a broken screen has nothing to say
+  }
+  const RaceImage image = workImage(m_store, ofScreens);
+  return holdsWork(image) ? rescueImage(image)
+                          : QStringLiteral("Alle Eingaben waren schon gespeichert; zu sichern war nichts.");
+}
+
+// The running copy is renewed first, so that one whole copy stands even if the data folder takes nothing.
+QString Safety::rescueImage(const RaceImage &image) {
+  bool copied = false;
+  if (m_active) {
+    write(image);
+    m_worker.wait();
+    copied = m_runningTrouble.get().isEmpty();
+  }
+  const QString folder = newRescueFolder(m_folder.dataFolder());
+  try {
+    writeImage(image, folder);
+  } catch (const Fault &fault) {
+    removeIfPossible(folder);
+    if (!copied)
+      throw;
+    return QStringLiteral("Im Datenordner ist kein Platz für die Rettung %1: %2\nAlle Eingaben liegen in\n%3\nund "
+                          "werden beim nächsten Start angeboten.")
+        .arg(raceTitle(image), fault.report(), m_running.last());
+  }
+  if (copied)
+    RunningCopy::markRescued(m_running.last(), folder);
+  return QStringLiteral("Alle Eingaben %1 sind gesichert in dem Ordner\n%2\nin den Dateien %3. Was davon nicht in den "
+                        "Dateien der Veranstaltung steht, bietet VEXT beim nächsten Start an.")
+      .arg(raceTitle(image), folder, namesOf(image.files));
+}
+
+void Safety::tell() {
+  const QString running = m_runningTrouble.get();
+  if (!running.isEmpty() && !m_runningInWork)
+    m_handed.reset(); // to be tried again
+  const QString line = QStringList{m_refusal, running, m_copyTrouble.get()}.join(QLatin1Char(' ')).trimmed();
+  if (line == m_told)
+    return;
+  m_told = line;
+  hint(line);
+}

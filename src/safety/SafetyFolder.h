@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+/// The place of the safety of one data folder in the user's data location: a folder with the name of the data folder
+/// and a hash of its whole path, closed to other users. It notes which folder it belongs to, so that one that was
+/// renamed or moved finds it again.
+class SafetyFolder {
+public:
+  /// `dataFolder` as the store has it; empty is the working directory. Touches nothing yet.
+  explicit SafetyFolder(const QString &dataFolder);
+
+  /// The whole path of the data folder.
+  const QString &dataFolder() const { return m_dataFolder; }
+  const QString &path() const { return m_path; }
+
+  /// Makes the folder, or takes that of the data folder's earlier name or place. A FileFault if that fails.
+  void open() const;
+
+private:
+  QString formerFolder() const;
+
+  QString m_dataFolder, m_path;
+};
+
+/// A new path "Rettung <date> <time>" in a folder.
+QString newRescueFolder(const QString &parent);
