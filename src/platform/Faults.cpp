@@ -58,6 +58,12 @@ QString takeReason(const QString &path) {
   return reasonOf(QFileInfo(path).isDir() ? EISDIR : error);
 }
 
+// A report window takes half a minute to lay out the megabytes of a broken line.
+QString shortened(const QString &text) {
+  constexpr int Longest = 60;
+  return text.size() > Longest ? text.left(Longest) + QStringLiteral("…") : text;
+}
+
 } // namespace
 
 Fault::Fault(QString report) : m_report(std::move(report)), m_utf8(m_report.toUtf8()) {}
@@ -71,7 +77,10 @@ FileFault::FileFault(const QString &path, const QString &action, const QString &
     : Fault(QStringLiteral("Die Datei „%1“ konnte nicht %2 werden: %3.").arg(path, action, reason)) {}
 
 ConversionFault::ConversionFault(const QString &path, int line, const QString &text, const QString &why)
-    : Fault(QStringLiteral("In der Datei „%1“ steht in Zeile %2 „%3“: %4.").arg(path).arg(line).arg(text, why)) {}
+    : Fault(QStringLiteral("In der Datei „%1“ steht in Zeile %2 „%3“: %4.")
+                .arg(path)
+                .arg(line)
+                .arg(shortened(text), why)) {}
 
 RangeFault::RangeFault(const QString &table, int index, int first, int last, const QString &about)
     : Fault((about.isEmpty() ? QString() : about + QLatin1Char(' ')) +

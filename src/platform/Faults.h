@@ -31,7 +31,8 @@ public:
   FileFault(const QString &path, const QString &action, const QString &reason);
 };
 
-/// A text in a data file that is no number, or too large for its column. `line` is 1-based.
+/// A text in a data file that is no number, or too large for its column. `line` is 1-based; of a long text the report
+/// shows the beginning.
 class ConversionFault : public Fault {
 public:
   ConversionFault(const QString &path, int line, const QString &text, const QString &why);

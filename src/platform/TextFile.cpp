@@ -7,12 +7,6 @@
 
 #include <limits>
 
-namespace {
-
-constexpr qsizetype ShownOfLongLine = 40;
-
-} // namespace
-
 TextReader::TextReader(QByteArray bytes, QString path) : m_bytes(std::move(bytes)), m_path(std::move(path)) {}
 
 std::optional<TextReader> TextReader::ifThere(const QString &path) {
@@ -33,7 +27,7 @@ QString TextReader::itemUpTo(bool comma) {
   if (lineEnds && item.endsWith('\r'))
     item.chop(1);
   if (item.size() > LongestLine)
-    throw ConversionFault(m_path, m_line, fromCodePage(item.first(ShownOfLongLine)) + QStringLiteral("…"),
+    throw ConversionFault(m_path, m_line, fromCodePage(item),
                           QStringLiteral("die Zeile ist zu lang für eine Datei von VEXT"));
   m_at = std::min(end + 1, m_bytes.size());
   return fromCodePage(item);
