@@ -24,7 +24,7 @@ QByteArray singleTimesBytes(const Store &store) {
   for (int row = 1; row <= 1000; ++row) {
     file.number(store.CupLaeufer[row]);
     for (int round = 0; round <= 10; ++round)
-      file.text(QLatin1Char(' ') + plainText(store.CupZeit(row, round)) + QLatin1Char(' '));
+      file.text(QLatin1Char(' ') + fileText(store.CupZeit(row, round)) + QLatin1Char(' '));
   }
   return file.bytes();
 }

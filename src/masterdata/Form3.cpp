@@ -77,10 +77,7 @@ void Form3::connectFields() {
   onLeave(ui->Text3,
           [this] { change([this](LaeuferSatz &athlete) { athlete.OesvNr = trimmedBlanks(ui->Text3->text()); }); });
   onLeave(ui->Text4, [this] { ui->Text4->setText(storeBirthDate(m_store, m_shown, ui->Text4->text())); });
-  // The points are shown with a comma and read only up to it; it is meant.
-  onLeave(ui->Text5, [this] {
-    change([this](LaeuferSatz &athlete) { athlete.LaeuferPunkte = float(leadingNumber(ui->Text5->text())); });
-  });
+  onLeave(ui->Text5, [this] { storePoints(); });
   connect(ui->Option1, &QRadioButton::clicked, this, [this] { setSex(1); });
   connect(ui->Option2, &QRadioButton::clicked, this, [this] { setSex(0); });
   connectClub(ui->Combo1, &LaeuferSatz::Verein1);
@@ -97,6 +94,17 @@ void Form3::connectClub(QComboBox *combo, qint16 LaeuferSatz::*club) {
 
 void Form3::change(const std::function<void(LaeuferSatz &)> &change) {
   changeAthlete(m_store, m_shown, change);
+}
+
+// They are shown with a comma and read only up to it; it is meant. A number that the box could not give back is not
+// taken.
+void Form3::storePoints() {
+  const auto points = typedSingle(ui->Text5->text());
+  change([points](LaeuferSatz &athlete) { athlete.LaeuferPunkte = points.value_or(athlete.LaeuferPunkte); });
+  if (points)
+    return;
+  m_store.umgebung.piep();
+  ui->Text5->setText(plainText(m_store.Laeufer.LaeuferPunkte));
 }
 
 void Form3::setSex(int sex) {

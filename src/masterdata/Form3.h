@@ -40,6 +40,7 @@ private:
   void connectFields();
   void connectClub(QComboBox *combo, qint16 LaeuferSatz::*club);
   void change(const std::function<void(LaeuferSatz &)> &change);
+  void storePoints();
   void setSex(int sex);
   void LaeuferZeigen();
   void showSex();

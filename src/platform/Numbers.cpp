@@ -94,6 +94,12 @@ QString maskedDigits(double value, int significant, std::string_view mask) {
   return QString::fromLatin1(digits.data(), qsizetype(digits.size()));
 }
 
+template <typename Number> std::optional<Number> ifDigits(Number value) {
+  const QString text = plainText(value);
+  const bool letters = std::any_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
+  return letters ? std::nullopt : std::optional(value);
+}
+
 } // namespace
 
 double leadingNumber(QStringView text) {
@@ -138,6 +144,18 @@ std::optional<double> regionalNumber(QStringView text) {
   return fits ? std::optional(value) : std::nullopt;
 }
 
+bool readsBack(double seconds) {
+  return regionalNumber(plainText(seconds)).has_value();
+}
+
+std::optional<double> typedNumber(QStringView text) {
+  return ifDigits(leadingNumber(text));
+}
+
+std::optional<float> typedSingle(QStringView text) {
+  return ifDigits(float(leadingNumber(text)));
+}
+
 QString plainText(double value) {
   if (value == 0)
     return QStringLiteral("0");
@@ -150,6 +168,10 @@ QString plainText(float value) {
 
 QString plainText(int value) {
   return QString::number(value);
+}
+
+QString fileText(double value) {
+  return plainText(readsBack(value) ? value : 0);
 }
 
 QString masked(double value, const char *mask) {

@@ -19,11 +19,22 @@ int rowAtEnd(QStringView line, int length);
 /// Decimal comma, optional exponent ("1E+15"), blanks around; nothing if the text is anything else, or empty.
 std::optional<double> regionalNumber(QStringView text);
 
+/// Whether a file of lines gives a time back: regionalNumber reads its plain text. Not so for what is endless or no
+/// number, nor where the text is rounded up beyond all numbers.
+bool readsBack(double seconds);
+/// The leading number that an operator has typed; nothing if its plain text needs an exponent (from 1E+15 up and below
+/// 0,0001) or is none at all: read again, it would be another number.
+std::optional<double> typedNumber(QStringView text);
+/// The same in single precision.
+std::optional<float> typedSingle(QStringView text);
+
 /// Plain decimal text with a comma and no blank: up to 15 significant digits, exponents from 1E+15 up and below 0,0001.
 QString plainText(double value);
 /// The same with up to 7 significant digits.
 QString plainText(float value);
 QString plainText(int value);
+/// plainText as a file keeps it: 0 in place of what does not read back, or the file would never be read again.
+QString fileText(double value);
 /// plainText with a leading blank for values from 0 on.
 template <typename Number> QString spacedText(Number value) {
   return value < 0 ? plainText(value) : QLatin1Char(' ') + plainText(value);

@@ -88,7 +88,7 @@ void TextWriter::text(const QString &line) {
 }
 
 void TextWriter::decimal(double value) {
-  text(plainText(value));
+  text(fileText(value));
 }
 
 void TextWriter::decimal(float value) {

@@ -47,7 +47,7 @@ public:
   void number(int value);
   /// The text as it stands.
   void text(const QString &line);
-  /// Shortest decimal text with a comma, no blanks.
+  /// Shortest decimal text with a comma, no blanks; 0 for a time that could not be read again.
   void decimal(double value);
   void decimal(float value);
   const QByteArray &bytes() const { return m_bytes; }

@@ -45,11 +45,15 @@ void Form14::setPair(QCheckBox *one, QCheckBox *zero, quint8 &field) {
   });
 }
 
-// Read with a point and shown with a comma: leaving 1,5 once more makes it 1. This is meant.
+// Read with a point and shown with a comma: leaving 1,5 once more makes it 1. This is meant. What the box could not
+// give back is not taken.
 void Form14::setSurcharge(QLineEdit *text, double &field) {
   text->setText(plainText(field));
-  onLeave(text, [text, &field] {
-    field = leadingNumber(text->text());
+  onLeave(text, [this, text, &field] {
+    if (const auto seconds = typedNumber(text->text()))
+      field = *seconds;
+    else
+      m_store.umgebung.piep();
     text->setText(plainText(field));
   });
 }

@@ -12,8 +12,6 @@
 
 #include <QScrollBar>
 
-#include <cmath>
-
 namespace {
 
 constexpr int StatusCount = 6; // the last two have no text and can be chosen all the same
@@ -231,20 +229,36 @@ void Form7::takeTime(const Lauf &lauf) {
   const QString typed = KommaEingabe(lauf.sekunden->text());
   lauf.sekunden->setText(typed);
   if (const auto time = regionalNumber(typed))
-    selected().*lauf.zeit = *time;
+    store(lauf, *time);
 }
 
 void Form7::joinTime(const Lauf &lauf) {
   const auto time = joined(lauf.teile[0]->text(), lauf.teile[1]->text(), lauf.teile[2]->text());
-  if (!time || !std::isfinite(*time)) // an endless time could not be read back from the file
-    return;
-  selected().*lauf.zeit = *time;
-  lauf.sekunden->setText(plainText(*time));
+  if (time && store(lauf, *time))
+    lauf.sekunden->setText(plainText(*time));
+}
+
+// With a time that its file could not give back the race would never open again.
+bool Form7::store(const Lauf &lauf, double time) {
+  const bool kept = readsBack(time);
+  if (kept)
+    selected().*lauf.zeit = time;
+  else
+    refuse(lauf.sekunden, plainText(selected().*lauf.zeit));
+  return kept;
+}
+
+void Form7::refuse(QLineEdit *field, const QString &before) {
+  m_store.umgebung.piep();
+  field->setText(before);
 }
 
 // Reading stops at the decimal comma that the box itself shows, so passing through it cuts the fraction; this is meant.
 void Form7::takePunkte() {
-  selected().Punkte = float(leadingNumber(ui->Text5->text()));
+  if (const auto points = typedSingle(ui->Text5->text()))
+    selected().Punkte = *points;
+  else
+    refuse(ui->Text5, plainText(selected().Punkte));
 }
 
 void Form7::zeitUebernehmen(const QString &zeit) {

@@ -77,6 +77,9 @@ private:
   TeilnehmerZeile &selected();
   void takeTime(const Lauf &lauf);
   void joinTime(const Lauf &lauf);
+  /// Whether the time was taken. If not: a beep, and the box shows the stored one.
+  bool store(const Lauf &lauf, double time);
+  void refuse(QLineEdit *field, const QString &before);
   void takePunkte();
   void showResult(bool open);
 

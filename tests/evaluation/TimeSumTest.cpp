@@ -55,6 +55,15 @@ TEST_F(TimeSumTest, whoIsMissingOrHasNoResultInARaceFallsOut) {
   EXPECT_EQ(blockOf(2), (QList<double>{31, 0, 31, 0}));
 }
 
+TEST_F(TimeSumTest, aSumThatNoFileGivesBackIsNoTime) {
+  for (const char *name : {"A", "B"})
+    addResults(test, QLatin1String(name), {{a, 1e308}, {b, 1}});
+  zeitsummeErzeugen(store, {2, 1}, 3);
+  EXPECT_EQ(generated(), (QList<std::pair<double, int>>{{0, 0}, {2, 0}}));
+  singleTimesLaden(store);
+  EXPECT_EQ(blockOf(1), (QList<double>{0, 1e308, 1e308, 0}));
+}
+
 TEST_F(TimeSumTest, surchargesComeFromTheRaceBefore) {
   const auto race = [&](const char *name, double surcharge) {
     addResults(test, QLatin1String(name), {{a, 30}},

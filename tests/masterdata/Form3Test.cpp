@@ -51,6 +51,9 @@ TEST_F(Form3Test, EachFieldIsStoredOnceWhenItIsLeft) {
   EXPECT_EQ(store.Laeufer.OesvNr.trimmed() + text("Text4"), QStringLiteral("471101.01.1983"));
   EXPECT_EQ(store.Laeufer.LaeuferPunkte, 2.5F);
   EXPECT_EQ(store.Laeufer.Verein2, 2);
+  type("Text5", "1000000000000000"); // would be shown as 1E+15 and read as 1
+  find("Text4")->setFocus();
+  EXPECT_EQ(text("Text5"), QStringLiteral("2,5"));
   type("Text5", "3,5"); // the point alone is a decimal sign
   form->close();
   EXPECT_EQ(record(1).LaeuferPunkte, 3.0F);

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 TEST(Numbers, LeadingNumberStopsAtWhatDoesNotFit) {
   const std::pair<const char *, double> cases[] = {
       {"12,5", 12}, {"12.5", 12.5}, {".5", 0.5},    {"-2.5", -2.5}, {"-----", 0}, {"7abc", 7}, {"", 0},
@@ -37,6 +39,29 @@ TEST(Numbers, PlainTextOfDoublesAndSingles) {
   EXPECT_EQ(plainText(12.3F), QStringLiteral("12,3"));
   EXPECT_EQ(plainText(12345678.F), QStringLiteral("12345680"));
   EXPECT_EQ(spacedText(7) + spacedText(-0.5), QStringLiteral(" 7-0,5"));
+}
+
+// What is typed and taken is the same number when it is read again.
+TEST(Numbers, WhatIsTakenIsReadAgain) {
+  for (const char *text : {"63,45", "-0,5", "1E+15", "1E-05", "1,7976931348623E+308", "4,94065645841247E-324"}) {
+    const double time = *regionalNumber(QString::fromUtf8(text));
+    EXPECT_TRUE(readsBack(time)) << text;
+    EXPECT_DOUBLE_EQ(*regionalNumber(fileText(time)), time) << text;
+  }
+  constexpr double Endless = std::numeric_limits<double>::infinity();
+  for (const double time : {std::numeric_limits<double>::max(), -Endless, Endless - Endless}) {
+    EXPECT_FALSE(readsBack(time)) << time;
+    EXPECT_EQ(fileText(time), QStringLiteral("0"));
+  }
+  for (const QString &text :
+       {QString(400, QLatin1Char('9')), QStringLiteral("1000000000000000"), QStringLiteral("-.00009")})
+    EXPECT_FALSE(typedSingle(text) || typedNumber(text)) << text.toStdString();
+  for (const char *text : {"999999000000000", "-12345678", "0", "abc"}) {
+    const QString typed = QString::fromUtf8(text), single = plainText(*typedSingle(typed));
+    EXPECT_EQ(leadingNumber(plainText(*typedNumber(typed))), leadingNumber(typed)) << text;
+    EXPECT_EQ(plainText(float(leadingNumber(single))), single) << text;
+  }
+  EXPECT_EQ(typedSingle(u".0001"), 0.0001F);
 }
 
 TEST(Numbers, MasksRoundTheDecimalText) {

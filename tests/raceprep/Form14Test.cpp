@@ -35,6 +35,11 @@ TEST_F(Form14Test, SwitchesAndSecondsReachTheRecord) {
   find("Text2")->setFocus(); // 1,5 read with a point
   press("Command1");
   EXPECT_EQ(stored().ZuschlagMann, 1);
+  open();
+  type("Text2", "-.00001"); // would be shown as -1E-05 and read as -1
+  find("Text1")->setFocus();
+  EXPECT_EQ(text("Text2"), QStringLiteral("1"));
+  EXPECT_EQ(test.beeps, 1);
   store.AktRennen = store.RennenIdx = 0; // no record to write
   open();
   press("Command1");

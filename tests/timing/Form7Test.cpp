@@ -1,5 +1,6 @@
 #include "timing/Form7.h"
 
+#include "core/RaceFiles.h"
 #include "support/ScreenTest.h"
 
 #include <QComboBox>
@@ -76,6 +77,27 @@ TEST_F(Form7Test, splitsAndJoinsTimes) {
     find("Text2")->setFocus();
     EXPECT_EQ(text("Text4"), QLatin1String(tidy));
   }
+}
+
+// Every way by which a number comes into the row; a refused one beeps and leaves the value and the box as they were.
+TEST_F(Form7Test, takesOnlyWhatItsFileGivesBack) {
+  store.Rennen.ZweiDurchgaenge = 1;
+  open();
+  clickLine(0);
+  type("Text1", "70");
+  type("Text5", "12");
+  type("Text2", "1E+308"); // hours
+  type("Text6", "1,7976931348623157E+308");
+  type("Text1", "1,7976931348623157E+308");
+  type("Text5", "999999999999999999999999999999999999999");
+  press("Command2");
+  EXPECT_EQ(test.beeps, 4);
+  form->zeitUebernehmen(QStringLiteral("1,79769313486232E+308"));
+  EXPECT_EQ(text("Text1") + QLatin1Char('/') + text("Text5"), QStringLiteral("70/12"));
+  form->close();
+  RennDatenLaden(store);
+  EXPECT_EQ(store.Teilnehmer[1].Zeit1, 70);
+  EXPECT_EQ(store.Teilnehmer[1].Punkte, 12);
 }
 
 TEST_F(Form7Test, secondRun) {
