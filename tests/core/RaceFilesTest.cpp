@@ -36,14 +36,43 @@ TEST_F(RaceFiles, LoadedAndSavedAgainAreTheSameBytes) {
   const QByteArray m = "eins, zwei\r\n" + QByteArray("\r\n").repeated(98) + "hundert\r\n";
   test.writeFile(QStringLiteral("K 1.lst"), k);
   test.writeFile(QStringLiteral("M 1.lst"), m);
+  test.writeFile(QStringLiteral("G 1.lst"), "Gruppe " + m);
   load(r);
-  for (const char *name : {"R 1.dat", "K 1.lst", "M 1.lst"})
+  for (const char *name : {"R 1.dat", "K 1.lst", "M 1.lst", "G 1.lst"})
     QFile::remove(store.DatenOrdner + QLatin1String(name));
   RennDatenSpeichern(store);
   EXPECT_EQ(test.file(QStringLiteral("R 1.dat")), r);
   EXPECT_EQ(test.file(QStringLiteral("K 1.lst")), k);
   EXPECT_EQ(test.file(QStringLiteral("M 1.lst")), m);
-  EXPECT_FALSE(test.hasFile(QStringLiteral("G 1.lst")));
+  EXPECT_EQ(test.file(QStringLiteral("G 1.lst")), "Gruppe " + m);
+}
+
+TEST_F(RaceFiles, ALoadWithoutFilesLeavesTheResultsAndTheExactClassOfARow) {
+  const TeilnehmerZeile full{7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7};
+  store.Teilnehmer[1] = store.Teilnehmer[1000] = full;
+  for (auto *text : {&store.KlasseGenauName[0], &store.KlasseGenauName[159], &store.MannschaftName[1],
+                     &store.GruppeName[100], &store.KlasseName[20]})
+    *text = QStringLiteral("alt");
+  RennDatenLaden(store);
+  for (const int n : {1, 1000}) {
+    const auto &row = store.Teilnehmer[n];
+    EXPECT_EQ(row.LaeuferNr + row.StartNr + row.Zeit1 + row.Status2 + row.Boarder + row.KlasseReihe, 0) << n;
+    EXPECT_EQ(row.KlasseGenau + row.WertZeit1 + row.WertZeit2 + row.WertSumme + row.Rang + row.KlasseKopf, 42) << n;
+  }
+  EXPECT_EQ(store.KlasseGenauName[0] + store.KlasseGenauName[159] + store.MannschaftName[1] + store.GruppeName[100] +
+                store.KlasseName[20],
+            QStringLiteral("AK 6"));
+}
+
+TEST_F(RaceFiles, ASaveIsAnnouncedBeforeItsFirstFileAndAfterItsLast) {
+  QStringList seen;
+  const auto look = [&] {
+    for (const char *name : {"R 1.dat", "K 1.lst"})
+      seen << (test.hasFile(QLatin1String(name)) ? QStringLiteral("da") : QStringLiteral("fehlt"));
+  };
+  store.vorDemSpeichern = store.nachDemSpeichern = look;
+  RennDatenSpeichern(store);
+  EXPECT_EQ(seen.join(QLatin1Char(' ')), QStringLiteral("fehlt fehlt da da"));
 }
 
 TEST_F(RaceFiles, OddParticipantFiles) {

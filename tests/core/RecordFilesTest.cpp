@@ -1,5 +1,6 @@
 #include "platform/Dates.h"
 #include "platform/Faults.h"
+#include "platform/Numbers.h"
 #include "support/TestStore.h"
 
 namespace {
@@ -81,6 +82,19 @@ TEST_F(RecordFiles, ReadingHoldsValuesInRange) {
   RennenSchreiben(store);
   RennenLesen(store);
   EXPECT_EQ(store.Rennen.BestzeitAbKlasse, 0);
+}
+
+TEST_F(RecordFiles, ReadingOutsideTheFileBeepsAndEmptiesTheName) {
+  test.addClub(QStringLiteral("SK"));
+  test.addRace(QStringLiteral("Lauf"));
+  for (const auto &[index, kurz] : {std::pair(2, "SK"), {0, ""}, {1, "SK"}}) {
+    store.VereinIdx = store.RennenIdx = index;
+    VereinLesen(store);
+    RennenLesen(store);
+    EXPECT_EQ(trimmedBlanks(store.Verein.VereinKurz), QLatin1String(kurz)) << index;
+    EXPECT_EQ(store.Verein.VereinName.isEmpty() && store.Rennen.RennenName.isEmpty(), index != 1) << index;
+  }
+  EXPECT_EQ(test.beeps, 4);
 }
 
 TEST_F(RecordFiles, NewRaceInheritsTheCriteriaAndNothingElse) {

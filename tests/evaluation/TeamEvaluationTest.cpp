@@ -95,4 +95,20 @@ TEST_F(TeamEvaluationTest, furtherClubsTakeTheHundredthNumber) {
   EXPECT_EQ(store.WertVerein[99], 99);
   EXPECT_EQ(store.WertVerein[100], 102);
   EXPECT_EQ(store.WertVereinIdx[6 + 98], 0) << "club 100 has lost its number";
+  EXPECT_EQ(vereinsZeilen(store).size(), 100);
+}
+
+TEST_F(TeamEvaluationTest, theLastRowAndTheLastUnitsCount) {
+  auto &last = store.Teilnehmer[1000];
+  std::swap(last, store.Teilnehmer[race.add("ZAHN Eva", 0, test.addClub(QStringLiteral("Union")), 100, 50)]);
+  last.GruppeNr = 100;
+  store.MannschaftName[100] = store.GruppeName[100] = QStringLiteral("Letzte");
+  wertungVorbereiten(store);
+  EXPECT_EQ(vereinsZeilen(store).last(), QStringLiteral("Union"));
+  EXPECT_EQ(store.WertVereinIdx[1000], 3);
+  EXPECT_EQ(mannschaftsZeilen(store).last(), QStringLiteral("  1 Letzte             100"));
+  EXPECT_EQ(gruppenZeilen(store).last(), QStringLiteral("Letzte"));
+  for (const auto art : {WertungsArt::Bestzeit, WertungsArt::Durchschnitt, WertungsArt::ZeitsummeDerBesten})
+    EXPECT_EQ(teamWertung(store, {Einheit::Mannschaft, art, NurWeiblich, 1}).filter(QStringLiteral("Letzte")).size(),
+              1);
 }

@@ -77,6 +77,8 @@ TEST_F(TimeSumTest, surchargesComeFromTheRaceBefore) {
   EXPECT_EQ(store.Rennen.ZuschlagMann, 0);
   zeitsummeErzeugen(store, {3, 2, 1}, 5);
   EXPECT_EQ(blockOf(1), (QList<double>{102, 37, 35, 30}));
+  zeitsummeErzeugen(store, {2, 1}, 6); // nothing of the larger one is left
+  EXPECT_EQ(store.ZeitsummeRennenKurz[2] + store.ZeitsummeRennenKurz[3], QStringLiteral("B"));
 }
 
 TEST_F(TimeSumTest, numberOfTheNewRace) {

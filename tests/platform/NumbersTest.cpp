@@ -81,5 +81,5 @@ TEST(Numbers, MasksRoundTheDecimalText) {
       texts << masked(value, mask);
     EXPECT_EQ(texts.join(QLatin1Char(' ')), QLatin1String(expected)) << mask;
   }
-  EXPECT_EQ(masked(0.285F, "0#.00"), QStringLiteral("00,29"));
+  EXPECT_EQ(masked(1234.565F, "0#.00"), QStringLiteral("1234,57")); // 1234,5649 by eight digits
 }

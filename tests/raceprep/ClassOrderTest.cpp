@@ -29,6 +29,25 @@ TEST_F(ClassOrder, CellsRunOnBehindAnEmptyRowAndNumbersReturnToTheirClass) {
   EXPECT_EQ(store.KlasseReihenfolge(2, 1, 1, 1), 99);
 }
 
+TEST_F(ClassOrder, HeadingsStandOverTheColumnsThatApply) {
+  const struct {
+    int sexes, guests, boarders;
+    const char *headings;
+  } cases[] = {{0, 0, 0, "w+m,,,,,,,"},
+               {1, 0, 0, "w,m,,,,,,"},
+               {0, 1, 0, "w+m,,Gäste,,,,,"},
+               {1, 0, 1, "w,m,,,Bw,Bm,,"},
+               {0, 1, 1, "w+m,,Gäste,,Board,,G,B,"},
+               {1, 1, 1, "w,m,G-w,G-m,Bw,Bm,B,Gw,B,Gm"}};
+  for (const auto &[sexes, guests, boarders, headings] : cases) {
+    RennenSatz race;
+    race.WertGeschlecht = quint8(sexes);
+    race.WertGaeste = quint8(guests);
+    race.WertBoarder = quint8(boarders);
+    EXPECT_EQ(gridHeadings(race).join(QLatin1Char(',')), QString::fromUtf8(headings));
+  }
+}
+
 TEST_F(ClassOrder, NextNumberIsTheHighestPlusOne) {
   raster[3] = -4;
   raster[159] = 8; // a hidden cell counts

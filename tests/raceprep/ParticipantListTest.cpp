@@ -53,6 +53,8 @@ TEST_F(ParticipantListTest, AddingTakesTheFirstFreeRowUntilAllAreInUse) {
   addParticipant(store, 9999, 0, 0);
   EXPECT_EQ(test.beeps, 1);
   EXPECT_FALSE(isParticipant(store, 9999));
+  EXPECT_TRUE(isParticipant(store, 1100)); // in the last row
+  EXPECT_EQ(TeilnehmerlisteFuellen(store, {}, ByName).size(), 1000);
 }
 
 TEST_F(ParticipantListTest, RemovingMovesTheParticipantsButNotWhatBelongsToTheRow) {

@@ -19,6 +19,8 @@ protected:
 // Typed, opened, number before, number behind: the steps count from what was typed.
 TEST_F(RaceRegisterTest, NumbersAreHeldToTheRacesThereAre) {
   addRaces();
+  EXPECT_EQ(naechstesRennen(store, QStringLiteral("2"), QStringLiteral("Slalom")), QStringLiteral("3"));
+  EXPECT_EQ(store.RennenAnzahl, 3);
   const std::tuple<const char *, int, const char *, const char *> cases[] = {
       {"3m", 3, "2", "4"}, {"1", 1, "1", "2"}, {"1.5", 2, "1", "3"}, {"99", 4, "98", "100"}, {"", 1, "1", "1"}};
   for (const auto &[typed, opened, before, behind] : cases) {

@@ -103,3 +103,14 @@ TEST_F(StartNumbers, RunByClassTakesTheNumbersOfOthers) {
   EXPECT_EQ(numbers(4), (QList<int>{11, 40012, 2147483647, 101}));
   EXPECT_EQ(test.beeps, 1);
 }
+
+TEST_F(StartNumbers, DeletionIsOfferedForTheFirstFiftyRowsAndTakesAll) {
+  for (const auto &[row, number, offered] :
+       {std::tuple(50, 1, true), {51, 1, false}, {1, -1, false}, {1000, 1, false}}) {
+    store.Teilnehmer[row].StartNr = number;
+    EXPECT_EQ(startNrVergeben(store, number), true) << row;
+    EXPECT_EQ(startNummernVorhanden(store), offered) << row;
+    startNummernLoeschen(store);
+    EXPECT_EQ(store.Teilnehmer[row].StartNr, 0);
+  }
+}
