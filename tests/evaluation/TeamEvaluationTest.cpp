@@ -95,20 +95,27 @@ TEST_F(TeamEvaluationTest, furtherClubsTakeTheHundredthNumber) {
   EXPECT_EQ(store.WertVerein[99], 99);
   EXPECT_EQ(store.WertVerein[100], 102);
   EXPECT_EQ(store.WertVereinIdx[6 + 98], 0) << "club 100 has lost its number";
+  EXPECT_EQ(store.WertVereinIdx[6 + 100], 100);
   EXPECT_EQ(vereinsZeilen(store).size(), 100);
 }
 
 TEST_F(TeamEvaluationTest, theLastRowAndTheLastUnitsCount) {
+  const int club = test.addClub(QStringLiteral("Union"));
   auto &last = store.Teilnehmer[1000];
-  std::swap(last, store.Teilnehmer[race.add("ZAHN Eva", 0, test.addClub(QStringLiteral("Union")), 100, 50)]);
+  std::swap(last, store.Teilnehmer[race.add("ZAHN Max", 1, club, 100, 50)]);
+  race.add("ZAHN Leo", 1, club, 100, 70);
   last.GruppeNr = 100;
   store.MannschaftName[100] = store.GruppeName[100] = QStringLiteral("Letzte");
+  store.Teilnehmer[6].MannschaftNr = 9; // which has no name
   wertungVorbereiten(store);
-  EXPECT_EQ(vereinsZeilen(store).last(), QStringLiteral("Union"));
   EXPECT_EQ(store.WertVereinIdx[1000], 3);
-  EXPECT_EQ(mannschaftsZeilen(store).last(), QStringLiteral("  1 Letzte             100"));
+  EXPECT_EQ(mannschaftsZeilen(store).size(), 3);
+  EXPECT_EQ(mannschaftsZeilen(store).last(), QStringLiteral("  2 Letzte             100"));
   EXPECT_EQ(gruppenZeilen(store).last(), QStringLiteral("Letzte"));
-  for (const auto art : {WertungsArt::Bestzeit, WertungsArt::Durchschnitt, WertungsArt::ZeitsummeDerBesten})
-    EXPECT_EQ(teamWertung(store, {Einheit::Mannschaft, art, NurWeiblich, 1}).filter(QStringLiteral("Letzte")).size(),
-              1);
+  const std::pair<WertungsArt, double> values[] = {
+      {WertungsArt::Bestzeit, 50}, {WertungsArt::Durchschnitt, 60}, {WertungsArt::ZeitsummeDerBesten, 120}};
+  for (const auto &[art, value] : values) {
+    teamWertung(store, {Einheit::Mannschaft, art, NurMaennlich, 2});
+    EXPECT_EQ(store.WertErgebnis[100], value);
+  }
 }

@@ -58,6 +58,7 @@ TEST_F(TimeSumTest, whoIsMissingOrHasNoResultInARaceFallsOut) {
 TEST_F(TimeSumTest, aSumThatNoFileGivesBackIsNoTime) {
   for (const char *name : {"A", "B"})
     addResults(test, QLatin1String(name), {{a, 1e308}, {b, 1}});
+  store.CupStatus(2, 0) = 3; // of an earlier sum
   zeitsummeErzeugen(store, {2, 1}, 3);
   EXPECT_EQ(generated(), (QList<std::pair<double, int>>{{0, 0}, {2, 0}}));
   singleTimesLaden(store);
