@@ -179,6 +179,7 @@ void Safety::start() {
 
 void Safety::finish() {
   m_ticks.stop();
+  m_worker.wait();
   if (m_copySoon.isActive())
     copyAll();
   m_worker.wait();
@@ -253,6 +254,7 @@ void Safety::copyBeforeSave() {
 // What the race takes the place of must be in a safety copy, and the race itself in a running copy, before the first
 // byte is written.
 void Safety::beginReplacing(const RaceImage &image) {
+  waitAtSave();
   copyAll();
   waitAtSave();
   if (!m_active)

@@ -73,14 +73,14 @@ protected:
 
   void goOn() { test.writeFile(QStringLiteral("weiter"), {}); }
 
-  /// The R file of a running copy that is whole: its manifest stands.
+  /// The R file of the running copy that stands.
   QByteArray runningCopy() const {
-    QDirIterator files(home.path() + QStringLiteral("/VEXT/Sicherung"), {QStringLiteral("Inhalt.txt")}, QDir::Files,
+    QDirIterator files(home.path() + QStringLiteral("/VEXT/Sicherung"), {QStringLiteral("R 1.dat")}, QDir::Files,
                        QDirIterator::Subdirectories);
-    if (!files.hasNext())
-      return {};
-    files.next();
-    return readFile(files.fileInfo().dir().filePath(QStringLiteral("R 1.dat")));
+    while (files.hasNext())
+      if (const QString path = files.next(); path.contains(QStringLiteral("/Laufend/0")))
+        return readIfThere(path).value_or(QByteArray());
+    return {};
   }
 
   QStringList rescues() const { return QDir(test.folder.path()).entryList({QStringLiteral("Rettung *")}, QDir::Dirs); }
