@@ -62,7 +62,7 @@ QStringList clubChoices(Store &store) {
   const int current = store.VereinIdx;
   QStringList choices{QStringLiteral("?")};
   for (int n = 1; n <= store.VereinAnzahl; ++n)
-    choices.append(shortNameOfClub(store, n));
+    choices.append(shownText(shortNameOfClub(store, n)));
   store.VereinIdx = current;
   return choices;
 }

@@ -3,6 +3,7 @@
 #include "core/RecordFiles.h"
 #include "masterdata/ClubRegister.h"
 #include "platform/Numbers.h"
+#include "platform/qt/RecordText.h"
 #include "ui_Form2.h"
 
 Form2::Form2(Desk &desk, Store &store)
@@ -44,7 +45,7 @@ void Form2::connectButtons() {
       showAndFill();
   });
   connect(ui->Command3, &QPushButton::clicked, this, [this] {
-    if (goToClubBehind(m_store, typedIndex(), ui->Text2->text()))
+    if (goToClubBehind(m_store, typedIndex(), RecordText::of(ui->Text2)))
       showAndFill();
   });
   connect(ui->List1, &LineList::chosen, this, [this](int line) {
@@ -58,7 +59,7 @@ void Form2::connectButtons() {
 }
 
 void Form2::storeField(const Field &field) {
-  storeClubField(m_store, m_shown, field.field, field.source->text());
+  storeClubField(m_store, m_shown, field.field, RecordText::of(field.source));
   if (field.box == ui->Text2)
     ui->List1->refill(VereinListeFuellen(m_store), m_shown);
 }
@@ -67,7 +68,7 @@ void Form2::VereinZeigen() {
   m_shown = m_store.VereinIdx;
   ui->Text1->setText(plainText(m_shown));
   for (const auto &field : m_fields)
-    field.box->setText(trimmedBlanks(m_store.Verein.*field.field));
+    RecordText::show(field.box, trimmedBlanks(m_store.Verein.*field.field));
 }
 
 void Form2::showAndFill() {

@@ -5,6 +5,7 @@
 #include "masterdata/ClubRegister.h"
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
+#include "platform/qt/RecordText.h"
 #include "ui_Form3.h"
 
 #include <QKeyEvent>
@@ -58,7 +59,7 @@ void Form3::connectNavigation() {
       LaeuferZeigen();
   });
   connect(ui->Command3, &QPushButton::clicked, this, [this] {
-    if (goToAthleteBehind(m_store, wholeNumber(ui->Text1->text()), ui->Text2->text(), ui->Text4->text()))
+    if (goToAthleteBehind(m_store, wholeNumber(ui->Text1->text()), RecordText::of(ui->Text2), ui->Text4->text()))
       LaeuferZeigen();
   });
   connect(ui->Command4, &QPushButton::clicked, this, [this] {
@@ -71,11 +72,12 @@ void Form3::connectNavigation() {
 
 void Form3::connectFields() {
   onLeave(ui->Text2, [this] {
-    change([this](LaeuferSatz &athlete) { athlete.Name = trimmedBlanks(ui->Text2->text()); });
+    change([this](LaeuferSatz &athlete) { athlete.Name = trimmedBlanks(RecordText::of(ui->Text2)); });
     fillList();
   });
-  onLeave(ui->Text3,
-          [this] { change([this](LaeuferSatz &athlete) { athlete.OesvNr = trimmedBlanks(ui->Text3->text()); }); });
+  onLeave(ui->Text3, [this] {
+    change([this](LaeuferSatz &athlete) { athlete.OesvNr = trimmedBlanks(RecordText::of(ui->Text3)); });
+  });
   onLeave(ui->Text4, [this] { ui->Text4->setText(storeBirthDate(m_store, m_shown, ui->Text4->text())); });
   onLeave(ui->Text5, [this] { storePoints(); });
   connect(ui->Option1, &QRadioButton::clicked, this, [this] { setSex(1); });
@@ -139,8 +141,8 @@ void Form3::LaeuferZeigen() {
   m_shown = m_store.LaeuferIdx;
   ui->Text1->setText(plainText(m_shown));
   const auto &athlete = m_store.Laeufer;
-  ui->Text2->setText(athlete.Name);
-  ui->Text3->setText(trimmedBlanks(athlete.OesvNr));
+  RecordText::show(ui->Text2, athlete.Name);
+  RecordText::show(ui->Text3, trimmedBlanks(athlete.OesvNr));
   showSex();
   ui->Text4->setText(shortDate(fromDays(athlete.Geburtsdatum)));
   ui->Text5->setText(plainText(athlete.LaeuferPunkte));

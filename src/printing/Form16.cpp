@@ -3,6 +3,7 @@
 #include "core/RecordFiles.h"
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
+#include "platform/qt/RecordText.h"
 #include "ui_Form16.h"
 
 Form16::Form16(Desk &desk, Store &store)
@@ -38,14 +39,12 @@ Form16::~Form16() = default;
 
 void Form16::bind(QLineEdit *box, QString RennenSatz::*field) {
   m_bindings.append({box, field});
-  onLeave(box, [this, box, field] { m_store.Rennen.*field = trimmedBlanks(box->text()); });
+  onLeave(box, [this, box, field] { m_store.Rennen.*field = trimmedBlanks(RecordText::of(box)); });
 }
 
 void Form16::becomeActive() {
-  for (const Binding &binding : m_bindings) {
-    binding.box->setText(m_store.Rennen.*binding.field);
-    binding.box->setCursorPosition(0); // a long text shows its beginning
-  }
+  for (const Binding &binding : m_bindings)
+    RecordText::show(binding.box, m_store.Rennen.*binding.field);
   ui->Text3->setText(shortDate(fromDays(m_store.Rennen.RennenDatum)));
 }
 

@@ -32,7 +32,7 @@ QStringList vereinKurznamen(Store &store) {
   const int before = store.VereinIdx;
   for (store.VereinIdx = 1; store.VereinIdx <= store.VereinAnzahl; ++store.VereinIdx) {
     VereinLesen(store);
-    names.append(trimmedBlanks(store.Verein.VereinKurz));
+    names.append(trimmedBlanks(shownText(store.Verein.VereinKurz)));
   }
   store.VereinIdx = before;
   return names;

@@ -3,6 +3,7 @@
 #include "core/RecordFiles.h"
 #include "platform/Numbers.h"
 #include "platform/print/Printers.h"
+#include "platform/qt/RecordText.h"
 #include "raceprep/RaceList.h"
 #include "raceprep/RaceRegister.h"
 #include "ui_Form4.h"
@@ -61,7 +62,7 @@ void Form4::connectFunction(const Function &function) {
 bool Form4::isReady(const Function &function) const {
   if (function.button == ui->Command8 && m_printers.isEmpty())
     return false;
-  return !function.needsName || !trimmedBlanks(ui->Text2->text()).isEmpty();
+  return !function.needsName || !trimmedBlanks(bezeichnung()).isEmpty();
 }
 
 void Form4::becomeActive() {
@@ -73,7 +74,7 @@ void Form4::waehlen(int nummer) {
 }
 
 QString Form4::bezeichnung() const {
-  return ui->Text2->text();
+  return RecordText::of(ui->Text2);
 }
 
 // The emptied list is painted before the records are read; clicks and keys wait.
@@ -91,17 +92,16 @@ void Form4::geloeschtZeigen() {
 // A number out of range stays as it was typed.
 void Form4::openRace() {
   rennenOeffnen(m_store, ui->Text1->text());
-  ui->Text2->setText(m_store.Rennen.RennenName);
-  ui->Text2->setCursorPosition(0); // a long name shows its beginning
+  RecordText::show(ui->Text2, m_store.Rennen.RennenName);
 }
 
 void Form4::nextRace() {
-  if (const auto next = naechstesRennen(m_store, ui->Text1->text(), ui->Text2->text()))
+  if (const auto next = naechstesRennen(m_store, ui->Text1->text(), bezeichnung()))
     ui->Text1->setText(*next);
 }
 
 void Form4::enterName() {
-  rennenEintragen(m_store, ui->Text2->text());
+  rennenEintragen(m_store, bezeichnung());
   listeFuellen();
   lockFunctions(false);
 }

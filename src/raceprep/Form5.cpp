@@ -80,7 +80,7 @@ void Form5::showAthlete(int record) {
   ui->Label4->setText(shownText(m_store.Laeufer.Name));
   ui->Label6->setText(plainText(record));
   ui->Label8->setText(shortDate(fromDays(m_store.Laeufer.Geburtsdatum)));
-  ui->Label10->setText(clubs.text);
+  ui->Label10->setText(shownText(clubs.text));
   ui->Label11->setText(plainText(clubs.count));
   ui->Label12->setText(plainText(clubs.lastSlot));
   ui->Command2->setEnabled(!isParticipant(m_store, record));

@@ -172,7 +172,8 @@ void Form6::showParticipant(int row) {
 
 void Form6::showAthlete() {
   const auto &athlete = m_store.Laeufer;
-  ui->Label2->setText(athlete.Name);
+  m_named = !athlete.Name.isEmpty();
+  ui->Label2->setText(shownText(athlete.Name));
   ui->Label8->setText(plainText(yearOf(athlete.Geburtsdatum)));
   if (athlete.Geschlecht == 1)
     Look::setGround(ui->Label2, FarbTabelle::BlassCyan);
@@ -190,7 +191,7 @@ void Form6::fillClubs(int position) {
 }
 
 QString Form6::clubName(int club) {
-  return isClub(m_store, club) ? shortNameOfClub(m_store, club) : QStringLiteral("nicht belegt");
+  return isClub(m_store, club) ? shownText(shortNameOfClub(m_store, club)) : QStringLiteral("nicht belegt");
 }
 
 void Form6::showFields(bool shown) {
@@ -210,7 +211,7 @@ void Form6::showNobody() {
 }
 
 void Form6::storeNumber() {
-  if (ui->Label2->text().isEmpty())
+  if (!m_named)
     return;
   const auto number = shortNumber(ui->Text1->text());
   if (!number)

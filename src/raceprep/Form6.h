@@ -70,5 +70,6 @@ private:
 
   Store &m_store;
   std::unique_ptr<Ui::Form6> ui;
-  int m_row = 0; // table row of the participant shown, as in Label6; 0 = nobody
+  bool m_named = true; // the participant shown has a name, be it one that shows nothing
+  int m_row = 0;       // table row of the participant shown, as in Label6; 0 = nobody
 };

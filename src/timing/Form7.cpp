@@ -183,12 +183,13 @@ void Form7::showPerson(const TeilnehmerZeile &participant) {
   const auto &athlete = m_store.Laeufer;
   ui->Label5->setText(plainText(participant.StartNr));
   ui->Label18->setText(participant.Gast == 1 ? QStringLiteral("JA") : QStringLiteral("-"));
-  ui->Label2->setText(athlete.Name);
+  ui->Label2->setText(shownText(athlete.Name));
   ui->Label14->setText(plainText(yearOf(athlete.Geburtsdatum)));
   ui->Label16->setText(m_store.KlasseName[participant.KlasseNr]);
   if (athlete.Geschlecht < 2) // of a person without sex the colour stays that of the last one; meant
     Look::setGround(ui->Label2, QColor(athlete.Geschlecht == 1 ? FarbTabelle::BlassCyan : FarbTabelle::BlassRot));
-  ui->Label19->setText(readClub(m_store, participant) ? trimmedBlanks(m_store.Verein.VereinKurz) : QString());
+  ui->Label19->setText(readClub(m_store, participant) ? shownText(trimmedBlanks(m_store.Verein.VereinKurz))
+                                                      : QString());
   showPair(ui->Label21, ui->Label22, participant.MannschaftNr != 0, m_store.MannschaftName[participant.MannschaftNr]);
   showPair(ui->Label24, ui->Label23, participant.GruppeNr != 0, m_store.GruppeName[participant.GruppeNr]);
 }

@@ -26,3 +26,22 @@ TEST_F(Form16Test, EachBoxIsAFieldOfTheRaceRecord) {
   EXPECT_EQ(stored.join(QLatin1Char(' ')),
             QStringLiteral("w1 w2 w4 w5 w6 w7 w8 w9 w10 w11 w12 w13 w14 w15 w16 w17 w18 w19"));
 }
+
+TEST_F(Form16Test, TheNulsOfAGapRecordAreNotShownAndStayUntilATextIsChanged) {
+  test.addRace(QStringLiteral("Riesentorlauf"));
+  test.writeFile(QStringLiteral("Rennen.rec"), QByteArray(RennenLaenge, '\0'));
+  RennenOeffnen(store);
+  RennenLesen(store);
+  open();
+  EXPECT_EQ(text("Text1"), QString());
+  type("Text4", "Union");
+  key(Qt::Key_Tab);
+  EXPECT_EQ(store.Rennen.Veranstalter, QStringLiteral("Union"));
+  type("Text4", "");
+  key(Qt::Key_Backspace);
+  press("Command1");
+  const QByteArray record = test.file(QStringLiteral("Rennen.rec"));
+  EXPECT_EQ(store.Rennen.RennenOrt, QString(80, QChar()));
+  EXPECT_EQ(store.Rennen.Veranstalter, QString()) << "emptied, it does not come back as it was";
+  EXPECT_EQ(record.count('\0'), record.size() - 80);
+}
