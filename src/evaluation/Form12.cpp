@@ -65,6 +65,7 @@ void Form12::connectControls() {
 
 void Form12::becomeActive() {
   ui->Label3->setText(m_printers.DeviceName());
+  ui->ausgabe->tell(m_printers.outcome());
 }
 
 void Form12::lockPrint() {
@@ -94,7 +95,7 @@ void Form12::showMembers(int line) {
 }
 
 void Form12::print() {
-  runPrinting(this, [this] {
+  runPrinting(this, m_printers, [this] {
     Druckschicht druck(m_printers);
     Mannschaftsliste(m_store, druck, {wertung(), ui->List2->lines()}, [this](int line) {
       ui->List2->choose(line);
@@ -103,6 +104,7 @@ void Form12::print() {
       return ui->List5->lines();
     });
   });
+  ui->ausgabe->tell(m_printers.outcome());
 }
 
 Wertung Form12::wertung() const {

@@ -26,6 +26,11 @@ Form20::Form20(Desk &desk, Store &store, Printers &printers)
 
 Form20::~Form20() = default;
 
+void Form20::becomeActive() {
+  ui->drucker->setText(m_printers.DeviceName());
+  ui->ausgabe->tell(m_printers.outcome());
+}
+
 void Form20::load() {
   ui->List1->fill(rennenZeilen(m_store));
   const CupAuswahl cup = cupLaden(m_store);
@@ -114,10 +119,11 @@ void Form20::evaluate() {
 void Form20::print() {
   lockPrint();
   repaint();
-  runPrinting(this, [this] {
+  runPrinting(this, m_printers, [this] {
     Druckschicht druck(m_printers);
     Cupliste(m_store, druck, {ui->Text4->text(), ui->Check1->isChecked(), ui->List4->lines()});
   });
+  ui->ausgabe->tell(m_printers.outcome());
 }
 
 CupAuswahl Form20::auswahl() const {

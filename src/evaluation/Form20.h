@@ -24,6 +24,7 @@ public:
   Form20(Desk &desk, Store &store, Printers &printers);
   ~Form20() override;
 
+  void becomeActive() override;
   QList<SavedFile> unsaved() const override;
 
 Q_SIGNALS:

@@ -95,9 +95,8 @@ void Deckkopf(const Store &store, Druckschicht &druck) {
 
 void Urkunde(Store &store, Druckschicht &druck, int row, const std::optional<UrkundenText> &text) {
   const auto &participant = store.Teilnehmer[row];
-  druck.ScaleMode = Druckschicht::Scale::Millimetres;
-  druck.DocName(QStringLiteral("Urkunde"), store.AktRennen);
   readAthlete(store, participant);
+  Dokumentanfang(store, druck, QStringLiteral("Urkunde"), store.Laeufer.Name);
   Deckkopf(store, druck);
   printHeading(store, druck);
   setFont(druck, 30, true, true);

@@ -3,6 +3,7 @@
 #include "platform/Numbers.h"
 #include "printing/Documents.h"
 #include "printing/ListRows.h"
+#include "printing/PrintHelpers.h"
 #include "printing/Seitenkopf.h"
 #include "printing/SortierListe.h"
 #include "timing/Ranking.h"
@@ -98,7 +99,7 @@ QList<Spaltenkopf> unrankedHeads(const Store &store) {
 
 void StartlisteZweiterDurchgang(Store &store, Druckschicht &druck) {
   const Listenkopf &kopf = Listenkoepfe::startlisteZweiterDurchgang();
-  Listenanfang(store, druck, kopf);
+  Dokumentanfang(store, druck, kopf.name);
   Rangfolge1(store);
   const QStringList lines = SortierListe(store, [&store](int row) {
     const auto &participant = store.Teilnehmer[row];
@@ -123,7 +124,7 @@ void StartlisteZweiterDurchgang(Store &store, Druckschicht &druck) {
 
 void NichtInDerWertung(Store &store, Druckschicht &druck) {
   const Listenkopf &kopf = Listenkoepfe::nichtInDerWertung();
-  Listenanfang(store, druck, kopf);
+  Dokumentanfang(store, druck, kopf.name);
   const QStringList lines = SortierListe(store, [&store](int row) {
     const auto &participant = store.Teilnehmer[row];
     return participant.Status1 + participant.Status2 != 0 ? masked(participant.StartNr, "0###") + store.Laeufer.Name

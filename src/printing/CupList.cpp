@@ -177,7 +177,7 @@ private:
 void Cupliste(Store &store, Druckschicht &druck, const CupListe &liste) {
   druck.Orientation = Druckschicht::Landscape;
   druck.ScaleMode = Druckschicht::Scale::Millimetres;
-  druck.DocName(QStringLiteral("Cupliste"), 0);
+  druck.DocName(QStringLiteral("Cupliste"), 0, QStringLiteral("Cupliste ") + liste.bezeichnung);
   CupPrinter(store, druck, liste).printPersons();
   druck.EndDoc();
   druck.Orientation = Druckschicht::Portrait; // the other lists assume it

@@ -1,6 +1,7 @@
 #include "printing/Druckschicht.h"
 
 #include "platform/Numbers.h"
+#include "platform/print/PictureFile.h"
 #include "platform/print/PrintMetrics.h"
 
 #include <algorithm>
@@ -10,9 +11,10 @@
 PrintItem::PrintItem(const QString &text) : m_text(shownText(text)) {}
 PrintItem::PrintItem(int number) : m_text(spacedText(number) + QLatin1Char(' ')) {}
 
-void Druckschicht::DocName(const QString &name, int race) {
+void Druckschicht::DocName(const QString &name, int race, const QString &title) {
   m_recording.name = name;
   m_recording.race = race;
+  m_recording.title = title;
 }
 
 void Druckschicht::Print(std::initializer_list<PrintItem> items, End end) {
@@ -55,29 +57,21 @@ void Druckschicht::FilledBox(double x1, double y1, double x2, double y2, unsigne
 }
 
 void Druckschicht::PaintPicture(const PrintPicture &picture, double x, double y, double width, double height) {
-  page().append(PictureOperation{x, y, width, height, heldToPrint(picture, width, height)});
+  page().append(PictureOperation{x, y, width, height, picture.path, heldToPrint(picture.path, width, height)});
 }
 
-// A picture far finer than paper shows would only swell the PDF and slow the preview. It is made smaller once for each
-// size, so that all pages share it.
-PrintPicture Druckschicht::heldToPrint(const PrintPicture &picture, double width, double height) {
+// A picture far finer than paper shows would only swell the PDF and slow the preview. It is read once for each size, so
+// that all pages share it.
+QImage Druckschicht::heldToPrint(const QString &path, double width, double height) {
   constexpr double dotsAMillimetre = 400 / 25.4;
   const QSize enough(std::max(1, int(width * dotsAMillimetre)), std::max(1, int(height * dotsAMillimetre)));
-  if (picture.image.width() <= enough.width() || picture.image.height() <= enough.height())
-    return picture;
-  const QString key = QStringLiteral("%1 %2x%3").arg(picture.path).arg(enough.width()).arg(enough.height());
+  const QString key = QStringLiteral("%1 %2x%3").arg(path).arg(enough.width()).arg(enough.height());
   const auto known = m_pictures.constFind(key);
-  if (known != m_pictures.constEnd())
-    return *known;
-  const QImage smaller = picture.image.scaled(enough, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-  return *m_pictures.insert(key, PrintPicture{picture.path, smaller});
+  return known != m_pictures.constEnd() ? *known : *m_pictures.insert(key, readPicture(path, enough));
 }
 
 PrintPicture Druckschicht::LoadPicture(const QString &path) {
-  const auto known = m_pictures.constFind(path);
-  if (known != m_pictures.constEnd())
-    return *known;
-  return *m_pictures.insert(path, PrintPicture{path, QImage(path)});
+  return {path, pictureSize(path).expandedTo(QSize(0, 0))};
 }
 
 // A page comes into being with its first operation, so that a document without any has none.

@@ -46,8 +46,8 @@ public:
   /// Width of lines in 1/300 inch: 1, 2, 3 and 5 are used.
   int DrawWidth = 1;
 
-  /// What the next document is called in queues and file names, and the race it belongs to (0 = none).
-  void DocName(const QString &name, int race);
+  /// What the next document is called in file names, the race it belongs to (0 = none), and its whole title.
+  void DocName(const QString &name, int race, const QString &title);
 
   /// Prints at the current position; then the line ends (X 0, Y one line height down) or X stands behind the text.
   void Print(const PrintItem &item, End end = End::Line) { Print({item}, end); }
@@ -62,7 +62,7 @@ public:
   void Box(double x1, double y1, double x2, double y2, unsigned color = 0);
   void FilledBox(double x1, double y1, double x2, double y2, unsigned color);
   void PaintPicture(const PrintPicture &picture, double x, double y, double width, double height);
-  /// Reads a picture, once for each path; what cannot be read prints nothing.
+  /// Looks at a picture; it is read when it is painted.
   PrintPicture LoadPicture(const QString &path);
 
   void NewPage();
@@ -73,11 +73,11 @@ public:
 private:
   PrintFont font() const { return {FontName, FontSize, FontBold, FontItalic}; }
   PrintPage &page();
-  PrintPicture heldToPrint(const PrintPicture &picture, double width, double height);
+  QImage heldToPrint(const QString &path, double width, double height);
   void toTopLeft();
 
   Sink m_sink;
   Recording m_recording;
   bool m_pageOpen = false;
-  QHash<QString, PrintPicture> m_pictures;
+  QHash<QString, QImage> m_pictures;
 };

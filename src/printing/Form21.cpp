@@ -1,12 +1,12 @@
 #include "printing/Form21.h"
 
 #include "platform/Numbers.h"
+#include "platform/print/PictureFile.h"
 #include "platform/qt/Look.h"
 #include "platform/qt/Picture.h"
 #include "ui_Form21.h"
 
 #include <QFile>
-#include <QImageReader>
 #include <QLabel>
 #include <QMouseEvent>
 
@@ -131,7 +131,7 @@ void Form21::showBanner(const Row &row, bool chosen) {
     Look::setGround(field, chosen ? QColor(Qt::white) : palette().color(QPalette::Window));
   const QString path = m_store.DatenOrdner + row.datei->text();
   const bool used = row.check->isChecked() && !row.datei->text().isEmpty() && QFile::exists(path);
-  const QSize natural = used ? QImageReader(path).size() : QSize();
+  const QSize natural = used ? pictureSize(path) : QSize();
   row.image->setVisible(natural.isValid());
   if (!natural.isValid())
     return;

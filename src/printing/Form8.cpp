@@ -8,8 +8,6 @@
 #include "timing/Ranking.h"
 #include "ui_Form8.h"
 
-#include <QFileInfo>
-
 namespace {
 
 /// A stored choice beyond the list leaves the first entry shown.
@@ -84,9 +82,7 @@ void Form8::becomeActive() {
 
 void Form8::showPrinter() {
   ui->Label3->setText(m_printers.DeviceName());
-  const QString file = QFileInfo(m_printers.lastFile()).fileName();
-  ui->letzteDatei->setText(file);
-  ui->dateiTitel->setVisible(!file.isEmpty());
+  ui->ausgabe->tell(m_printers.outcome());
 }
 
 // With nothing chosen in the list of clubs nobody passes: that is meant.
@@ -98,7 +94,7 @@ std::optional<int> Form8::clubFilter() const {
 
 void Form8::print(const std::function<void(Druckschicht &)> &document) {
   repaint(); // the disabled button shows while the document is made
-  runPrinting(this, [this, &document] {
+  runPrinting(this, m_printers, [this, &document] {
     Druckschicht druck(m_printers);
     document(druck);
   });
@@ -118,8 +114,11 @@ void Form8::printCertificates(Druckschicht &druck) {
   std::optional<UrkundenText> text;
   if (ui->Check2->isChecked())
     text = UrkundenText{ui->Text1->text(), ui->Text2->text(), ui->Text3->text()};
-  for (const int line : ui->List2->marked())
-    Urkunde(m_store, druck, rowAtEnd(ui->List2->lines().at(line), 4), text);
+  const QList<int> marked = ui->List2->marked();
+  printSeries(marked.size(), [&](qsizetype i) {
+    Urkunde(m_store, druck, rowAtEnd(ui->List2->lines().at(marked[i]), 4), text);
+    return shownText(m_store.Laeufer.Name);
+  });
 }
 
 void Form8::printTitlePage(Druckschicht &druck) {

@@ -3,6 +3,7 @@
 #include "platform/Numbers.h"
 #include "printing/Documents.h"
 #include "printing/ListRows.h"
+#include "printing/PrintHelpers.h"
 #include "printing/Seitenkopf.h"
 #include "printing/SortierListe.h"
 #include "timing/Ranking.h"
@@ -107,7 +108,7 @@ void printAlphabeticRow(Store &store, Druckschicht &druck, const TeilnehmerZeile
 } // namespace
 
 void Teilnehmerliste(Store &store, Druckschicht &druck) {
-  Listenanfang(store, druck, Listenkoepfe::teilnehmerliste());
+  Dokumentanfang(store, druck, Listenkoepfe::teilnehmerliste().name);
   ClassedList(store, druck).print(SortierListe(store, [&store](int row) {
     const auto &participant = store.Teilnehmer[row];
     return Reihungsschluessel(store, participant) + masked(participant.StartNr, "0###") + store.Laeufer.Name;
@@ -115,7 +116,7 @@ void Teilnehmerliste(Store &store, Druckschicht &druck) {
 }
 
 void AlphabetischeListe(Store &store, Druckschicht &druck) {
-  Listenanfang(store, druck, Listenkoepfe::alphabetischeListe());
+  Dokumentanfang(store, druck, Listenkoepfe::alphabetischeListe().name);
   int page = 0, zeilenNr = 0;
   const QStringList lines = SortierListe(store, [&store](int) { return store.Laeufer.Name; });
   printAlphabeticHead(store, druck, page);

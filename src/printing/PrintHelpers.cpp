@@ -1,6 +1,7 @@
 #include "printing/PrintHelpers.h"
 
 #include "core/ValueFormats.h"
+#include "platform/Numbers.h"
 
 #include <QFile>
 
@@ -14,6 +15,13 @@ void printCentred(Druckschicht &druck, const QString &text, double middle) {
 }
 
 } // namespace
+
+void Dokumentanfang(const Store &store, Druckschicht &druck, const QString &name, const QString &person) {
+  QStringList title{trimmedBlanks(shownText(store.Rennen.RennenName)), name, trimmedBlanks(shownText(person))};
+  title.removeAll(QString());
+  druck.ScaleMode = Druckschicht::Scale::Millimetres;
+  druck.DocName(name, store.AktRennen, title.join(QStringLiteral(" – ")));
+}
 
 void Rahmen(Druckschicht &druck, double x1, double y1, double x2, double y2) {
   druck.Line(x1, y1, x2, y1);

@@ -1,9 +1,13 @@
 #pragma once
 
+#include "core/Store.h"
 #include "printing/Druckschicht.h"
 
 // What all documents share beyond the operations themselves. The present font, line width and `CurrentY` are the
 // caller's.
+
+/// Begins a document of the open race; `person` is whose it is, if it is somebody's.
+void Dokumentanfang(const Store &store, Druckschicht &druck, const QString &name, const QString &person = {});
 
 /// A rectangle as four black lines.
 void Rahmen(Druckschicht &druck, double x1, double y1, double x2, double y2);

@@ -21,7 +21,7 @@ public:
       : m_store(store), m_druck(druck), m_combined(combined), m_club(std::move(club)) {}
 
   void print() {
-    Listenanfang(m_store, m_druck, listHead());
+    Dokumentanfang(m_store, m_druck, listHead().name);
     printHead();
     for (int k = 1; k <= 1000; ++k) {
       const auto &participant = m_store.Teilnehmer[m_store.RangListe[k]];

@@ -96,8 +96,3 @@ void Seitenkopf(const Store &store, Druckschicht &druck, const Listenkopf &kopf,
   if (kopf.logo)
     LogoDrucken(druck, 120, 11);
 }
-
-void Listenanfang(const Store &store, Druckschicht &druck, const Listenkopf &kopf) {
-  druck.ScaleMode = Druckschicht::Scale::Millimetres;
-  druck.DocName(kopf.name, store.AktRennen);
-}

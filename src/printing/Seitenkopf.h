@@ -36,6 +36,3 @@ const Listenkopf &nichtInDerWertung();
 /// Leaves size `spaltenGroesse`, neither bold nor italic, line width 1.
 void Seitenkopf(const Store &store, Druckschicht &druck, const Listenkopf &kopf, const QList<Spaltenkopf> &spalten,
                 int &seite, const QString &zusatz = {});
-
-/// Begins the document of a list.
-void Listenanfang(const Store &store, Druckschicht &druck, const Listenkopf &kopf);

@@ -162,7 +162,7 @@ private:
 
 void Mannschaftsliste(Store &store, Druckschicht &druck, const TeamListe &liste,
                       const std::function<QStringList(int line)> &mitglieder) {
-  druck.DocName(QStringLiteral("Mannschaftsliste"), store.AktRennen);
+  Dokumentanfang(store, druck, QStringLiteral("Mannschaftsliste"));
   TeamPrinter printer(store, druck, liste);
   for (int line = 0; line < liste.einheiten.size(); ++line) {
     printer.printUnit(line + 1, liste.einheiten[line]);

@@ -123,8 +123,7 @@ void printBanner(const Store &store, Druckschicht &druck, const Werbebanner &ban
 } // namespace
 
 void Titelblatt(Store &store, Druckschicht &druck, const Werbung &werbung) {
-  druck.ScaleMode = Druckschicht::Scale::Millimetres;
-  druck.DocName(QStringLiteral("Titelblatt"), store.AktRennen);
+  Dokumentanfang(store, druck, QStringLiteral("Titelblatt"));
   Deckkopf(store, druck);
   druck.FontSize = 48;
   druck.CurrentY = 70;

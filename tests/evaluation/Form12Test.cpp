@@ -47,6 +47,7 @@ TEST_F(Form12Test, sumLeavesItsWorkListAndThePrintTheLastUnit) {
   clickLine("List2", 0);
   press("Command3");
   EXPECT_EQ(find<LineList>("List2")->chosenLine(), 2);
+  EXPECT_EQ(label("letzteDatei"), QStringLiteral("Mannschaftsliste.pdf"));
   ASSERT_EQ(fake.documents.size(), 1);
   EXPECT_TRUE(asText(fake.documents[0]).join(QLatin1Char('\n')).contains(QStringLiteral("besten2|")));
 }

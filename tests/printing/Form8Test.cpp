@@ -5,6 +5,7 @@
 #include "support/ScreenTest.h"
 
 #include <QComboBox>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QTimer>
 
@@ -86,6 +87,8 @@ TEST_F(Form8Test, CertificatesOfTheMarkedLinesEachADocumentUntilThePrinterRefuse
   clickLine("List2", 2);
   press("Command5");
   EXPECT_TRUE(printed("MOSER Hans") && printed("belegte den"));
+  EXPECT_EQ(fake.documents.last().title, QStringLiteral("Riesentorlauf – Urkunde – MOSER Hans"));
+  EXPECT_EQ(label("dateiTitel"), QStringLiteral("2 Dateien, die letzte"));
   press("Check2");
   type("Text2", "Meisterschaft");
   press("Command5");
@@ -105,6 +108,20 @@ TEST_F(Form8Test, CertificatesOfTheMarkedLinesEachADocumentUntilThePrinterRefuse
   press("Command2");
   EXPECT_EQ(reports, 2) << "one for each run";
   EXPECT_TRUE(find("Command2")->isEnabled());
+}
+
+TEST_F(Form8Test, TellsWhereTheFileIsAndWhichPictureIsMissing) {
+  test.writeFile(QStringLiteral("werbung1.jpg"), "no picture");
+  Werbung werbung = WerbungLesen(store);
+  werbung[0].gewaehlt = true;
+  WerbungSchreiben(store, werbung);
+  open();
+  EXPECT_FALSE(shown("ausgabe"));
+  press("Command8");
+  EXPECT_EQ(label("dateiOrdner"), QFileInfo(QStringLiteral("Ausdrucke")).absoluteFilePath());
+  EXPECT_TRUE(label("bilderFehlen").endsWith(QStringLiteral("fehlt: werbung1.jpg")));
+  press("Command3");
+  EXPECT_FALSE(shown("bilderFehlen"));
 }
 
 TEST_F(Form8Test, ClosingWritesTheBannersOfATitlePageAndNoRaceZero) {

@@ -37,7 +37,7 @@ QByteArray pdfOf(const Recording &recording) {
   QPdfWriter writer(&bytes);
   writer.setResolution(1440);
   writer.setCreator(QStringLiteral("VEXT"));
-  writer.setTitle(recording.name);
+  writer.setTitle(recording.title);
   writer.setPageLayout(pageLayout(recording));
   play(recording, writer);
   return bytes.data();

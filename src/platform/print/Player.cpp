@@ -47,8 +47,8 @@ public:
     m_painter.fillRect(inDots(o.x1, o.y1, o.x2, o.y2), QColor::fromRgb(o.color));
   }
   void operator()(const PictureOperation &o) {
-    if (!o.picture.image.isNull())
-      m_painter.drawImage(inDots(o.x, o.y, o.x + o.width, o.y + o.height), o.picture.image);
+    if (!o.image.isNull())
+      m_painter.drawImage(inDots(o.x, o.y, o.x + o.width, o.y + o.height), o.image);
   }
 
 private:

@@ -11,6 +11,18 @@ public:
   using Fault::Fault;
 };
 
+/// Prints `count` documents one after the other; `print` takes the number of one, from 0, and gives whose it is. A
+/// PrintFault ends the series and tells which had been printed.
+void printSeries(qsizetype count, const std::function<QString(qsizetype)> &print);
+
+/// What a printing left behind.
+struct PrintOutcome {
+  /// Paths of the files written, in order.
+  QStringList files;
+  /// Pictures that could not be read and are missing on paper, each once.
+  QStringList unreadablePictures;
+};
+
 /// A printer. `print` takes a finished document and gives the path of the file that it wrote, empty if it wrote none; a
 /// failure is a Fault.
 struct Printer {
@@ -39,17 +51,20 @@ public:
   /// Name of the current printer; empty without any.
   QString DeviceName();
   void makeCurrent(const Printer &printer) { m_current = printer; }
+  /// Begins a printing of one document or several, with an outcome of its own.
+  void begin() { m_outcome = {}; }
   /// Prints on the current printer, or on `printer`. A failure is a PrintFault.
   void print(const Recording &recording);
   void print(const Recording &recording, const Printer &printer);
-  /// Path of the file written last in this run; empty if there is none.
-  const QString &lastFile() const { return m_lastFile; }
+  /// Of the present or last printing.
+  const PrintOutcome &outcome() const { return m_outcome; }
 
 private:
   const Printer &current();
+  void noteUnreadablePictures(const Recording &recording);
 
   std::function<SystemPrinters()> m_system;
   QList<Printer> m_own, m_all;
   Printer m_current;
-  QString m_lastFile;
+  PrintOutcome m_outcome;
 };

@@ -32,7 +32,7 @@ struct Describe {
   }
   QString operator()(const PictureOperation &o) const {
     return QStringLiteral("picture") + positions({o.x, o.y, o.width, o.height}) + QLatin1Char(' ') +
-           QFileInfo(o.picture.path).fileName();
+           QFileInfo(o.path).fileName();
   }
 
 private:

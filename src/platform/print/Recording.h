@@ -21,13 +21,14 @@ struct PrintFont {
   bool operator==(const PrintFont &) const = default;
 };
 
-/// A picture; a file that cannot be read has a null image and prints nothing.
+/// A picture as its file states it.
 struct PrintPicture {
   QString path;
-  QImage image;
+  /// 0 × 0 if the file is no picture.
+  QSize pixels;
   /// Natural size in millimetres at 96 pixels to the inch, whatever density the file states.
-  double width() const { return image.width() * 25.4 / 96; }
-  double height() const { return image.height() * 25.4 / 96; }
+  double width() const { return pixels.width() * 25.4 / 96; }
+  double height() const { return pixels.height() * 25.4 / 96; }
 };
 
 /// `x` and `y` are the top left corner of the text.
@@ -52,18 +53,21 @@ struct FillOperation {
   double x1, y1, x2, y2;
   unsigned color;
 };
-/// The picture stretched to the rectangle.
+/// The picture stretched to the rectangle; a file that cannot be read has a null image and prints nothing.
 struct PictureOperation {
   double x, y, width, height;
-  PrintPicture picture;
+  QString path;
+  QImage image;
 };
 
 using PrintOperation = std::variant<TextOperation, LineOperation, BoxOperation, FillOperation, PictureOperation>;
 using PrintPage = QList<PrintOperation>;
 
 struct Recording {
-  /// What the document is called in the printer's queue and in file names.
+  /// What the document is called in file names.
   QString name;
+  /// What it is called where there is room: race, document and, on a certificate, person.
+  QString title;
   /// Number of the race that it belongs to, 0 = none.
   int race = 0;
   /// A document has one orientation for all its pages.

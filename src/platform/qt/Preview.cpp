@@ -2,16 +2,17 @@
 
 #include "platform/qt/Look.h"
 #include "platform/qt/PreviewPages.h"
+#include "platform/qt/PrintOutcomeView.h"
 #include "platform/qt/PrintRun.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>
-#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
 #include <QScreen>
+#include <QTimer>
 
 namespace {
 
@@ -29,16 +30,17 @@ QPushButton *addButton(QBoxLayout *row, const QString &name, const QString &capt
 
 } // namespace
 
-Preview::Preview() : m_pages(new PreviewPages), m_position(new QLabel), m_file(new QLabel), m_menu(new QMenu(this)) {
+Preview::Preview()
+    : m_pages(new PreviewPages), m_position(new QLabel), m_outcome(new PrintOutcomeView), m_menu(new QMenu(this)) {
   setObjectName(QStringLiteral("Vorschau"));
   setWindowTitle(deviceName());
   m_position->setObjectName(QStringLiteral("Seite"));
-  m_file->setObjectName(QStringLiteral("letzteDatei"));
-  m_file->setProperty("leise", true);
+  m_outcome->setContentsMargins(14, 0, 14, 10);
   auto *column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
   column->addLayout(buttons());
+  column->addWidget(m_outcome);
   column->addWidget(m_pages, 1);
   Look::applyProperties(this);
   connect(m_menu, &QMenu::aboutToShow, this, &Preview::fillMenu);
@@ -58,10 +60,11 @@ QBoxLayout *Preview::buttons() {
   row->addSpacing(16);
   add("kleiner", QStringLiteral("kleiner"), [this] { m_pages->zoom(1 / 1.25); });
   add("groesser", QStringLiteral("größer"), [this] { m_pages->zoom(1.25); });
-  add("breite", QStringLiteral("ganze Breite"), [this] { m_pages->fitWidth(); });
+  add("seite", QStringLiteral("ganze Seite"), [this] { m_pages->fit(PreviewPages::Fit::Page); });
+  add("breite", QStringLiteral("ganze Breite"), [this] { m_pages->fit(PreviewPages::Fit::Width); });
   row->addSpacing(16);
   addButton(row, QStringLiteral("drucken"), QStringLiteral("drucken auf"))->setMenu(m_menu);
-  row->addWidget(m_file, 1);
+  row->addStretch();
   add("fertig", QStringLiteral("fertig"), [this] { close(); });
   return row;
 }
@@ -75,12 +78,17 @@ Printer Preview::printer() {
 
 void Preview::append(const Recording &recording) {
   takeFirstSize();
+  const int firstPage = m_pages->pageCount();
   m_documents.append(recording);
   m_pages->append(recording);
   show();
   raise();
   activateWindow();
   m_pages->setFocus();
+  if (!std::exchange(m_arriving, true)) {
+    m_pages->showPage(firstPage);
+    QTimer::singleShot(0, this, [this] { m_arriving = false; });
+  }
 }
 
 // Tall enough to read a page, as far as the monitor allows.
@@ -105,23 +113,25 @@ void Preview::fillMenu() {
 }
 
 void Preview::send(const Printer &printer) {
-  runPrinting(this, [this, &printer] {
-    for (const Recording &recording : m_documents)
-      m_printers->print(recording, printer);
+  runPrinting(this, *m_printers, [this, &printer] {
+    printSeries(m_documents.size(), [this, &printer](qsizetype i) {
+      m_printers->print(m_documents[i], printer);
+      return m_documents[i].title;
+    });
   });
-  m_file->setText(QFileInfo(m_printers->lastFile()).fileName());
+  m_outcome->tell(m_printers->outcome());
 }
 
 void Preview::closeEvent(QCloseEvent *event) {
   m_documents.clear();
   m_pages->clear();
-  m_file->clear();
+  m_outcome->hide();
   event->accept();
 }
 
 void Preview::keyPressEvent(QKeyEvent *event) {
   if (event->key() == Qt::Key_Escape)
     close();
-  else
+  else if (!m_pages->obey(event->key())) // a button may have the focus
     QWidget::keyPressEvent(event);
 }

@@ -5,14 +5,17 @@
 #include <QWidget>
 
 class PreviewPages;
+class PrintOutcomeView;
 class QBoxLayout;
 class QLabel;
 class QMenu;
 
 /// The printer "Vorschau am Bildschirm": one window that shows documents as they come out on paper. A document that
-/// ends while it is open is appended. From here they go to any other printer.
+/// ends while it is open is appended, and the first page of what one printing brought is shown. From here they go to
+/// any other printer.
 ///
-/// Page keys, Home and End turn pages; plus, minus and the wheel with Ctrl zoom; 0 fits the width; Esc closes.
+/// Page keys, Home and End turn pages; plus, minus and the wheel with Ctrl zoom; 0 fits the width, 1 a whole page; Esc
+/// closes.
 class Preview : public QWidget {
   Q_OBJECT
 
@@ -37,8 +40,11 @@ private:
   void showPosition();
 
   PreviewPages *m_pages;
-  QLabel *m_position, *m_file;
+  QLabel *m_position;
+  PrintOutcomeView *m_outcome;
   QMenu *m_menu;
   QList<Recording> m_documents;
   Printers *m_printers = nullptr;
+  /// Documents are coming in from one printing.
+  bool m_arriving = false;
 };

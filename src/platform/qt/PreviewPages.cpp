@@ -11,8 +11,9 @@
 
 namespace {
 
-constexpr int Gap = 14; // between pages and around them, pixels
-constexpr double Smallest = 0.5, Largest = 20;
+constexpr int Gap = 14;                        // between pages and around them, pixels
+constexpr double Smallest = 0.5, Largest = 20; // pixels a millimetre
+constexpr double ZoomStep = 1.25;
 
 } // namespace
 
@@ -36,31 +37,38 @@ void PreviewPages::append(const Recording &recording) {
 
 void PreviewPages::clear() {
   m_sheets.clear();
-  m_fit = true;
+  m_fit = Fit::Page;
   verticalScrollBar()->setValue(0);
   arrange();
 }
 
-double PreviewPages::widest() const {
-  double width = 1;
+QSizeF PreviewPages::largest() const {
+  QSizeF size(1, 1);
   for (const Sheet &sheet : m_sheets)
-    width = std::max(width, sheet.size.width());
-  return width;
+    size = size.expandedTo(sheet.size);
+  return size;
+}
+
+// Pixels a millimetre at which the largest page fits.
+double PreviewPages::fitting() const {
+  const double wide = (viewport()->width() - 2.0 * Gap) / largest().width();
+  const double high = (viewport()->height() - 2.0 * Gap) / largest().height();
+  return std::clamp(m_fit == Fit::Width ? wide : std::min(wide, high), Smallest, Largest);
 }
 
 // Where a page lies on the whole strip of pages, in pixels.
 QRectF PreviewPages::place(int page) const {
   const Sheet &sheet = m_sheets[page];
-  const double strip = std::max(double(viewport()->width()), widest() * m_pixels + 2 * Gap);
+  const double strip = std::max(double(viewport()->width()), largest().width() * m_pixels + 2 * Gap);
   const QSizeF size = sheet.size * m_pixels;
   return QRectF(QPointF((strip - size.width()) / 2, sheet.top * m_pixels + Gap * (page + 1)), size);
 }
 
 void PreviewPages::arrange() {
-  if (m_fit)
-    m_pixels = std::clamp((viewport()->width() - 2.0 * Gap) / widest(), Smallest, Largest);
+  if (m_fit != Fit::None)
+    m_pixels = fitting();
   const double height = m_sheets.isEmpty() ? 0 : place(pageCount() - 1).bottom() + Gap;
-  const double width = widest() * m_pixels + 2 * Gap;
+  const double width = largest().width() * m_pixels + 2 * Gap;
   verticalScrollBar()->setRange(0, std::max(0, int(height) - viewport()->height()));
   verticalScrollBar()->setPageStep(viewport()->height());
   verticalScrollBar()->setSingleStep(int(10 * m_pixels));
@@ -84,16 +92,16 @@ void PreviewPages::showPage(int page) {
 }
 
 void PreviewPages::zoom(double factor) {
-  m_fit = false;
+  m_fit = Fit::None;
   const double middle = (verticalScrollBar()->value() + viewport()->height() / 2.0) / m_pixels;
   m_pixels = std::clamp(m_pixels * factor, Smallest, Largest);
   arrange();
   verticalScrollBar()->setValue(int(middle * m_pixels - viewport()->height() / 2.0));
 }
 
-void PreviewPages::fitWidth() {
+void PreviewPages::fit(Fit fit) {
   const int page = currentPage();
-  m_fit = true;
+  m_fit = fit;
   arrange();
   showPage(page);
 }
@@ -122,7 +130,7 @@ void PreviewPages::paintEvent(QPaintEvent *) {
 void PreviewPages::resizeEvent(QResizeEvent *) {
   const int page = currentPage();
   arrange();
-  if (m_fit && page > 0)
+  if (m_fit != Fit::None && page > 0)
     showPage(page);
 }
 
@@ -138,23 +146,38 @@ void PreviewPages::wheelEvent(QWheelEvent *event) {
     QAbstractScrollArea::wheelEvent(event);
 }
 
-void PreviewPages::keyPressEvent(QKeyEvent *event) {
-  switch (event->key()) {
+bool PreviewPages::obey(int key) {
+  switch (key) {
   case Qt::Key_PageDown:
-    return showPage(currentPage() + 1);
+    showPage(currentPage() + 1);
+    return true;
   case Qt::Key_PageUp:
-    return showPage(currentPage() - 1);
+    showPage(currentPage() - 1);
+    return true;
   case Qt::Key_Home:
-    return showPage(0);
+    showPage(0);
+    return true;
   case Qt::Key_End:
-    return showPage(pageCount() - 1);
+    showPage(pageCount() - 1);
+    return true;
   case Qt::Key_Plus:
-    return zoom(1.25);
+    zoom(ZoomStep);
+    return true;
   case Qt::Key_Minus:
-    return zoom(1 / 1.25);
+    zoom(1 / ZoomStep);
+    return true;
   case Qt::Key_0:
-    return fitWidth();
+    fit(Fit::Width);
+    return true;
+  case Qt::Key_1:
+    fit(Fit::Page);
+    return true;
   default:
-    QAbstractScrollArea::keyPressEvent(event);
+    return false;
   }
+}
+
+void PreviewPages::keyPressEvent(QKeyEvent *event) {
+  if (!obey(event->key()))
+    QAbstractScrollArea::keyPressEvent(event);
 }

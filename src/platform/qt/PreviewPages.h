@@ -9,6 +9,9 @@ class PreviewPages : public QAbstractScrollArea {
   Q_OBJECT
 
 public:
+  /// What the size of the pages follows, also after the size of the view changes; zooming ends it.
+  enum class Fit { None, Width, Page };
+
   explicit PreviewPages(QWidget *parent = nullptr);
 
   void append(const Recording &recording);
@@ -20,8 +23,9 @@ public:
   void showPage(int page);
   /// Makes pages larger or smaller around what is seen.
   void zoom(double factor);
-  /// As wide as the view, also after its size changes, until the next zoom.
-  void fitWidth();
+  void fit(Fit fit);
+  /// What a key does to the pages; false if it means nothing here.
+  bool obey(int key);
 
 Q_SIGNALS:
   /// Another page may be the current one, or there are more.
@@ -41,12 +45,13 @@ private:
     double top;  ///< Millimetres of pages above it.
   };
 
-  double widest() const;
+  QSizeF largest() const;
+  double fitting() const;
   QRectF place(int page) const;
   void arrange();
   void drawSheet(QPainter &painter, int page) const;
 
   QList<Sheet> m_sheets;
   double m_pixels = 1; ///< A millimetre.
-  bool m_fit = true;
+  Fit m_fit = Fit::Page;
 };

@@ -19,7 +19,8 @@ QString faultOf(const std::function<void()> &documents) {
 
 } // namespace
 
-void runPrinting(QWidget *screen, const std::function<void()> &documents) {
+void runPrinting(QWidget *screen, Printers &printers, const std::function<void()> &documents) {
+  printers.begin();
   const QString fault = faultOf(documents);
   if (!fault.isEmpty())
     QMessageBox::warning(screen, QStringLiteral("Drucken"), fault);

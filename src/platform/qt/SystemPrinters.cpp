@@ -20,7 +20,7 @@ QString printOnPaper(const QString &deviceName, const Recording &recording) {
   device.setResolution(1440);
   device.setFullPage(true);
   device.setPageLayout(pageLayout(recording));
-  device.setDocName(recording.name);
+  device.setDocName(recording.title);
   device.setCreator(QStringLiteral("VEXT"));
   if (!play(recording, device) || device.printerState() == QPrinter::Error)
     refuse(deviceName);

@@ -20,12 +20,20 @@ Recording document() {
   Recording recording;
   recording.name = QStringLiteral("Ergebnisliste/Übung");
   recording.race = 7;
-  const PrintPicture picture{QStringLiteral(":/kopf1.jpg"), QImage(QStringLiteral(":/kopf1.jpg"))};
+  recording.title = QStringLiteral("Jugendcup – Übung");
+  const QString picture = QStringLiteral(":/kopf1.jpg");
   const PrintPage page{TextOperation{20, 20, {QStringLiteral("Times"), 18}, QStringLiteral("Größe Äöüß")},
                        TextOperation{20, 65, {QStringLiteral("Fraktur BT"), 85}, QStringLiteral("Urkunde")},
-                       PictureOperation{191, 11, 5.5, 18, picture}};
+                       PictureOperation{191, 11, 5.5, 18, picture, QImage(picture)}};
   recording.pages = {page, page, page};
   return recording;
+}
+
+QString outputOf(const char *tool, const QStringList &arguments) {
+  QProcess process;
+  process.start(QLatin1String(tool), arguments);
+  EXPECT_TRUE(process.waitForFinished()) << tool << " is not installed";
+  return QString::fromUtf8(process.readAllStandardOutput());
 }
 
 } // namespace
@@ -37,11 +45,10 @@ TEST(PdfFileTest, IsNamedByRaceDocumentAndTimeAndWritesOverNothing) {
   EXPECT_EQ(writePdf(target, When, document()), first + QStringLiteral(".pdf"));
   EXPECT_EQ(writePdf(target, When, document()), first + QStringLiteral(" (2).pdf"));
   EXPECT_EQ(readFile(first + QStringLiteral(".pdf")).count("/Subtype /Image"), 1) << "one picture for all pages";
-  QProcess reader;
-  reader.start(QStringLiteral("pdftotext"), {first + QStringLiteral(" (2).pdf"), QStringLiteral("-")});
-  ASSERT_TRUE(reader.waitForFinished()) << "pdftotext is not installed";
-  const QString text = QString::fromUtf8(reader.readAllStandardOutput());
+  const QString second = first + QStringLiteral(" (2).pdf");
+  const QString text = outputOf("pdftotext", {second, QStringLiteral("-")});
   EXPECT_TRUE(text.count(QStringLiteral("Größe Äöüß")) == 3 && text.count(QStringLiteral("Urkunde")) == 3);
+  EXPECT_TRUE(outputOf("pdfinfo", {second}).contains(document().title));
 }
 
 TEST(PdfFileTest, AFullDiskIsAFaultOfPrintingAndLeavesNoCutOffFile) {
@@ -54,5 +61,5 @@ TEST(PdfFileTest, AFullDiskIsAFaultOfPrintingAndLeavesNoCutOffFile) {
   setrlimit(RLIMIT_FSIZE, &small);
   EXPECT_THROW(printers.print(document()), PrintFault);
   setrlimit(RLIMIT_FSIZE, &before);
-  EXPECT_TRUE(QDir(folder.path()).isEmpty() && printers.lastFile().isEmpty());
+  EXPECT_TRUE(QDir(folder.path()).isEmpty() && printers.outcome().files.isEmpty());
 }

@@ -7,7 +7,9 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -31,6 +33,8 @@ protected:
   }
   PreviewPages *pages() { return preview.findChild<PreviewPages *>(); }
 
+  QLabel *file() { return preview.findChild<QLabel *>(QStringLiteral("letzteDatei")); }
+
   FakePrinters fake;
   Preview preview;
 };
@@ -45,6 +49,9 @@ TEST_F(PreviewTest, ShowsThePagesAndTurnsThem) {
   EXPECT_EQ(position(), QStringLiteral("Seite 2 von 3"));
   press("vor");
   press("groesser");
+  press("seite");
+  EXPECT_EQ(position(), QStringLiteral("Seite 3 von 3"));
+  EXPECT_EQ(pages()->horizontalScrollBar()->maximum(), 0);
   press("breite");
   EXPECT_EQ(position(), QStringLiteral("Seite 3 von 3"));
   QTest::keyClick(pages(), Qt::Key_Home);
@@ -58,6 +65,12 @@ TEST_F(PreviewTest, AppendsWhileItIsOpenAndStartsAnewAfterClosing) {
   print(document("Urkunde", 1));
   print(document("Urkunde", 1));
   EXPECT_EQ(position(), QStringLiteral("Seite 1 von 2"));
+  QCoreApplication::processEvents(); // the printing is over
+  print(document("Liste", 2));
+  EXPECT_EQ(position(), QStringLiteral("Seite 3 von 4"));
+  preview.findChild<QPushButton *>(QStringLiteral("vor"))->setFocus();
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_End);
+  EXPECT_EQ(position(), QStringLiteral("Seite 4 von 4"));
   QTest::keyClick(pages(), Qt::Key_Escape);
   EXPECT_FALSE(preview.isVisible());
   print(document("Liste", 1));
@@ -73,5 +86,9 @@ TEST_F(PreviewTest, SendsEveryDocumentToAnotherPrinter) {
   menu->actions()[1]->trigger();
   EXPECT_EQ(fake.usedPrinters, (QStringList{QStringLiteral("Alt"), QStringLiteral("Alt")}));
   EXPECT_EQ(fake.documents[1].pages.size(), 2);
-  EXPECT_EQ(preview.findChild<QLabel *>(QStringLiteral("letzteDatei"))->text(), QStringLiteral("Liste.pdf"));
+  EXPECT_EQ(file()->text(), QStringLiteral("Liste.pdf"));
+  fake.refuse = true;
+  QTimer::singleShot(100, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
+  menu->actions()[1]->trigger();
+  EXPECT_FALSE(file()->isVisible());
 }
