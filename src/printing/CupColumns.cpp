@@ -11,17 +11,18 @@ namespace {
 
 constexpr int WideRounds = 5;
 constexpr double WidePitch = 28;
-/// What narrow columns share: from the year of birth to the total.
-constexpr double NarrowLeft = 107, NarrowRight = 251;
-constexpr double HeadSize = 11, CellSize = 9, SmallestSize = 4, SizeStep = 0.5;
+/// What narrow columns share, from the year of birth to the total, and where the total ends.
+constexpr double NarrowLeft = 107, NarrowRight = 253, TotalRight = 270;
+constexpr double HeadSize = 11, CellSize = 9, SmallestSize = 7, SizeStep = 0.5;
 
 QString roundHead(int round) {
   return plainText(round) + QStringLiteral(". Lauf");
 }
 
-const QString &pointsHead() {
-  static const QString head = QStringLiteral("  Pkte");
-  return head;
+// How much lower a text of the smaller size begins to stand on the line of the larger one.
+double toBaseline(double size, double smallerSize) {
+  constexpr double ascentOfAPoint = 0.905 * 25.4 / 72;
+  return (size - smallerSize) * ascentOfAPoint;
 }
 
 } // namespace
@@ -36,57 +37,53 @@ bool CupColumns::narrow() const {
   return m_store.CupRunden > WideRounds;
 }
 
+double CupColumns::pitch() const {
+  return (NarrowRight - NarrowLeft) / m_store.CupRunden;
+}
+
 void CupColumns::fitSize(const QList<int> &persons) {
-  const double pitch = (NarrowRight - NarrowLeft) / m_store.CupRunden;
   m_druck.FontBold = m_druck.FontItalic = false;
   for (m_size = CellSize; m_size > SmallestSize; m_size -= SizeStep) {
     m_druck.FontSize = m_size;
-    if (widthOfCells(persons) <= pitch)
+    if (widestCell(persons) <= pitch())
       break;
   }
-  m_pointsWidth = double(m_druck.TextWidth(pointsHead()));
-  m_gap = double(m_druck.TextWidth(QStringLiteral(" ")));
 }
 
-// Two blanks keep the points from the next time.
-double CupColumns::widthOfCells(const QList<int> &persons) const {
+// Two blanks keep a time from the one before.
+double CupColumns::widestCell(const QList<int> &persons) const {
   double widest = double(m_druck.TextWidth(roundHead(m_store.CupRunden)));
   for (const int person : persons)
     for (int round = 1; round <= m_store.CupRunden; ++round)
       widest = std::max(widest, double(m_druck.TextWidth(timeText(person, round))));
-  return widest + double(m_druck.TextWidth(pointsHead() + QStringLiteral("  ")));
-}
-
-double CupColumns::edge(int round) const {
-  const double pitch = (NarrowRight - NarrowLeft) / m_store.CupRunden;
-  return NarrowLeft + pitch * round - m_pointsWidth;
-}
-
-// Smaller heads stand on one line with the others.
-double CupColumns::sameBaseline(double y) const {
-  constexpr double ascentOfAPoint = 0.905 * 25.4 / 72;
-  return y + (HeadSize - m_size) * ascentOfAPoint;
+  return widest + double(m_druck.TextWidth(QStringLiteral("  ")));
 }
 
 void CupColumns::printHeads(double y) const {
-  m_druck.FontSize = narrow() ? m_size : HeadSize;
+  if (narrow())
+    return printNarrowHeads(y);
   for (int round = 1; round <= m_store.CupRunden; ++round) {
-    if (narrow()) {
-      printRightAligned(round, sameBaseline(y), roundHead(round));
-      Zelle(m_druck, edge(round), sameBaseline(y), pointsHead());
-    } else {
-      Zelle(m_druck, 85 + WidePitch * round, y, roundHead(round));
-      Zelle(m_druck, 100 + WidePitch * round, y, trimmedBlanks(pointsHead()));
-    }
+    Zelle(m_druck, 85 + WidePitch * round, y, roundHead(round));
+    Zelle(m_druck, 100 + WidePitch * round, y, QStringLiteral("Pkte"));
+  }
+}
+
+void CupColumns::printNarrowHeads(double y) const {
+  const double top = y + toBaseline(HeadSize, m_size);
+  m_druck.FontSize = m_size;
+  for (int round = 1; round <= m_store.CupRunden; ++round) {
+    printRightAligned(NarrowLeft + pitch() * round, top, roundHead(round));
+    printRightAligned(NarrowLeft + pitch() * round, top + SecondLine, QStringLiteral("Pkte"));
   }
   m_druck.FontSize = HeadSize;
 }
 
 void CupColumns::printRounds(int person, double y) const {
-  m_druck.FontSize = m_size;
+  if (narrow())
+    return printNarrow(person, y);
   for (int round = 1; round <= m_store.CupRunden; ++round)
-    narrow() ? printNarrow(person, round, y) : printWide(person, round, y);
-  m_druck.FontSize = CellSize;
+    printWide(person, round, y);
+  Zelle(m_druck, 265, y, m_store.CupPunkte(person, 0));
 }
 
 // A status stands further right than a time.
@@ -96,16 +93,25 @@ void CupColumns::printWide(int person, int round, double y) const {
     Zelle(m_druck, 91 + WidePitch * round, y, timeText(person, round));
   else
     Zelle(m_druck, 82 + WidePitch * round, y, time == 0 ? timeText(person, round) : ZeitDruckText(m_druck, time));
-  Zelle(m_druck, 100 + WidePitch * round, y, points(person, round));
+  const int points = m_store.CupPunkte(person, round);
+  Zelle(m_druck, 100 + WidePitch * round, y, isStruck(person, round) ? PrintItem(QStringLiteral("X")) : points);
 }
 
-void CupColumns::printNarrow(int person, int round, double y) const {
-  printRightAligned(round, y, timeText(person, round));
-  Zelle(m_druck, edge(round) + m_gap, y, points(person, round));
+void CupColumns::printNarrow(int person, double y) const {
+  const double top = y + toBaseline(CellSize, m_size);
+  m_druck.FontSize = m_size;
+  for (int round = 1; round <= m_store.CupRunden; ++round) {
+    const double right = NarrowLeft + pitch() * round;
+    const QString points = plainText(m_store.CupPunkte(person, round));
+    printRightAligned(right, top, timeText(person, round));
+    printRightAligned(right, top + SecondLine, isStruck(person, round) ? QStringLiteral("X") : points);
+  }
+  m_druck.FontSize = CellSize;
+  printRightAligned(TotalRight, y + SecondLine, plainText(m_store.CupPunkte(person, 0)));
 }
 
-void CupColumns::printRightAligned(int round, double y, const QString &text) const {
-  m_druck.CurrentX = float(edge(round));
+void CupColumns::printRightAligned(double right, double y, const QString &text) const {
+  m_druck.CurrentX = float(right);
   m_druck.CurrentY = float(y);
   RechtsDrucken(m_druck, text);
 }
@@ -115,10 +121,4 @@ QString CupColumns::timeText(int person, int round) const {
     return m_store.StatusText[status];
   const double time = m_store.CupZeit(person, round);
   return time == 0 ? QStringLiteral("-") : ZeitText(time);
-}
-
-PrintItem CupColumns::points(int person, int round) const {
-  if (m_store.CupStreich(person, round) == 1)
-    return narrow() ? QStringLiteral(" X") : QStringLiteral("X");
-  return m_store.CupPunkte(person, round);
 }

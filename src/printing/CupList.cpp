@@ -14,7 +14,7 @@ namespace {
 
 constexpr unsigned FrameColor = 0x505050;
 constexpr int NameAndClub = 38; // characters
-constexpr double PageEnd = 160;
+constexpr double PageEnd = 160, RowHeight = 4;
 // Rows are counted in tenths: a heading takes 2.7 of them.
 constexpr int Row = 10, BehindHeading = 17, NearlyEmpty = 100, NoRoomForClass = 300, LastRow = 380;
 
@@ -42,13 +42,13 @@ public:
   }
 
 private:
-  double y() const { return 40 + m_row * 0.4; }
+  double y() const { return 40 + m_row * RowHeight / Row; }
 
   void printPerson(int person) {
     if (m_store.CupKlasse[person] != m_klasse)
       startClass(m_store.CupKlasse[person]);
     printRow(person, m_places.naechster(m_store.CupPunkte(person, 0)));
-    m_row += Row;
+    m_row += Row * m_columns.lines();
   }
 
   void startClass(int klasse) {
@@ -94,16 +94,21 @@ private:
     printNameAndClub(person);
     Zelle(m_druck, 96, y(), yearOf(m_store.Laeufer.Geburtsdatum));
     m_columns.printRounds(person, y());
-    Zelle(m_druck, 265, y(), m_store.CupPunkte(person, 0));
     m_druck.DrawWidth = 2;
-    m_druck.Box(23, y() + 2 - 2.4, 272, y() + 2 + 1.6, FrameColor);
+    m_druck.Box(23, y() + 2 - 2.4, 272, y() + 2 + 1.6 + RowHeight * (m_columns.lines() - 1), FrameColor);
   }
 
   void printNameAndClub(int person) {
     m_store.LaeuferIdx = m_store.CupLaeufer[person];
     LaeuferLesen(m_store);
     const QString name = trimmedBlanks(m_store.Laeufer.Name);
-    const QString club = clubText(NameAndClub - int(name.size()));
+    if (m_columns.lines() == 1)
+      return printInOneLine(name, clubText(NameAndClub - int(name.size())));
+    Zelle(m_druck, 36, y(), name);
+    Zelle(m_druck, 36, y() + CupColumns::SecondLine, clubText(NameAndClub));
+  }
+
+  void printInOneLine(const QString &name, const QString &club) {
     m_druck.CurrentX = 36;
     m_druck.CurrentY = float(y());
     m_druck.Print(name, Druckschicht::End::Continued);

@@ -12,6 +12,6 @@ struct CupListe {
 };
 
 /// Prints the cup as the last evaluation left it in the cup tables, in landscape: class by class with time and points
-/// of each round and the total; a struck result shows "X" for its points. More than five rounds stand in narrower
-/// columns.
+/// of each round and the total; a struck result shows "X" for its points. With more than five rounds a person takes two
+/// lines, the club in the second.
 void Cupliste(Store &store, Druckschicht &druck, const CupListe &liste);

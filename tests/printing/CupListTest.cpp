@@ -2,6 +2,7 @@
 
 #include "evaluation/Cup.h"
 #include "evaluation/CupScoring.h"
+#include "platform/print/PrintMetrics.h"
 #include "support/CupRaces.h"
 
 #include <QRegularExpression>
@@ -55,5 +56,30 @@ TEST_F(CupListTest, pagesBreakByRowAndByClass) {
     EXPECT_EQ(printed.pages.size(), pages) << first << '+' << second;
     EXPECT_EQ(lines.count(QStringLiteral("|  - Fortsetzung|")), continued);
     EXPECT_EQ(lines.filter(QStringLiteral("Arial 9 bold | 1 |")).size(), first + second) << "a tie goes on";
+  }
+}
+
+// With hours, of one round more than fit as told up to the most there can be.
+TEST_F(CupListTest, manyRoundsStayReadableAndInsideTheFrame) {
+  const QStringList keys = people(30, 0);
+  for (store.CupRunden = 6; store.CupRunden <= 10; ++store.CupRunden) {
+    for (int round = 1; round <= store.CupRunden; ++round) {
+      store.CupZeit(1, round) = 36000 + round;
+      store.CupPunkte(1, round) = 100;
+    }
+    print(keys);
+    double right = 0;
+    for (const PrintOperation &operation : printed.pages[0])
+      if (const auto *text = std::get_if<TextOperation>(&operation)) {
+        EXPECT_GE(text->font.size, 7) << text->text.toStdString();
+        const double end = text->x + PrintMetrics::textWidth(text->font, text->text);
+        EXPECT_LT(end, 275);
+        if (text->text.contains(QLatin1Char(':'))) {
+          EXPECT_GT(text->x, right) << "a time runs into the one before";
+          right = end;
+        }
+      }
+    EXPECT_GT(right, 240) << store.CupRunden;
+    EXPECT_EQ(printed.pages.size(), 2);
   }
 }
