@@ -27,7 +27,7 @@ Form20::Form20(Desk &desk, Store &store, Printers &printers)
 Form20::~Form20() = default;
 
 void Form20::becomeActive() {
-  ui->drucker->setText(m_printers.DeviceName());
+  ui->drucker->setText(QStringLiteral("Drucker: ") + m_printers.DeviceName());
   ui->ausgabe->tell(m_printers.outcome());
 }
 

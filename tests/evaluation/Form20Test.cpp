@@ -35,7 +35,7 @@ TEST_F(Form20Test, evaluatesTheMarkedRacesAndPrintsOnce) {
   press("Command2");
   EXPECT_EQ(fake.documents.size(), 1);
   EXPECT_FALSE(enabled("Command2"));
-  EXPECT_EQ(label("drucker"), QStringLiteral("Laser"));
+  EXPECT_EQ(label("drucker"), QStringLiteral("Drucker: Laser"));
   EXPECT_EQ(label("letzteDatei"), QStringLiteral("Cupliste.pdf"));
 }
 

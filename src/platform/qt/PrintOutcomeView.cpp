@@ -37,12 +37,13 @@ PrintOutcomeView::PrintOutcomeView(QWidget *parent)
   grid->setHorizontalSpacing(8);
   grid->setVerticalSpacing(2);
   grid->addWidget(m_caption, 0, 0);
-  grid->addWidget(m_name, 0, 1);
-  grid->addWidget(m_open, 0, 2);
-  grid->addWidget(m_showFolder, 0, 3);
-  grid->addWidget(m_folder, 1, 1, 1, 3);
+  grid->addWidget(m_name, 0, 1, 1, 3);
+  grid->addWidget(m_folder, 1, 1);
+  grid->addWidget(m_open, 1, 2);
+  grid->addWidget(m_showFolder, 1, 3);
   grid->addWidget(m_pictures, 2, 0, 1, 4);
   grid->setColumnStretch(1, 1);
+  m_caption->setWordWrap(false);
   connect(m_open, &QPushButton::clicked, this, [this] { open(m_path); });
   connect(m_showFolder, &QPushButton::clicked, this, [this] { open(QFileInfo(m_path).path()); });
   hide();
