@@ -61,8 +61,7 @@ void Programm::start() {
 }
 
 void Programm::sicherungHinweis(const QString &text) {
-  if (m_menu)
-    m_menu->sicherungHinweis(text);
+  m_desk.setHint(text);
 }
 
 QList<SavedFile> Programm::openWork() const {

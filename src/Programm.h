@@ -31,7 +31,7 @@ public:
   void start();
   /// What the open screens would write if they closed now, and the note of a field not yet left.
   QList<SavedFile> openWork() const;
-  /// A quiet line on the menu; an empty text takes it away.
+  /// What the quiet line at the foot of every screen tells; empty = nothing.
   void sicherungHinweis(const QString &text);
 
 private:

@@ -1,7 +1,10 @@
 #include "core/RaceFiles.h"
 #include "support/RoofTest.h"
 
+#include <QHelpEvent>
+#include <QLabel>
 #include <QTimer>
+#include <QToolTip>
 
 namespace {
 
@@ -118,6 +121,27 @@ TEST_F(ProgrammTest, TheReminderFollowsTheSaves) {
   store.Teilnehmer[row].LaeuferNr = 0;
   RennDatenSpeichern(store);
   EXPECT_EQ(visible(), "Form4");
+}
+
+TEST_F(ProgrammTest, TheHintStandsOnEveryScreenAndMovesNothing) {
+  start({"Slalom"});
+  const auto *exit = control<QAbstractButton>("Form4", "Command1");
+  const QRect place = exit->geometry();
+  const QString hint = QString(300, QLatin1Char('x'));
+  programm->sicherungHinweis(hint);
+  press("Form4", "Command16");
+  for (const char *screen : {"Form4", "CupKopie"}) {
+    const auto *line = control<QLabel>(screen, "Hinweis");
+    EXPECT_EQ(line->text(), hint) << screen;
+    EXPECT_EQ(line->accessibleDescription(), hint);
+    QHelpEvent help(QEvent::ToolTip, {5, 5}, line->mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(control<QLabel>(screen, "Hinweis"), &help);
+    EXPECT_TRUE(QToolTip::text().contains(hint));
+  }
+  EXPECT_EQ(exit->geometry(), place);
+  programm->sicherungHinweis({});
+  EXPECT_EQ(control<QLabel>("Form4", "Hinweis")->text(), QString());
+  EXPECT_EQ(exit->geometry(), place);
 }
 
 TEST_F(ProgrammTest, OnlyTheMenuEndsTheProgramAlsoBesideTheReminder) {

@@ -51,11 +51,6 @@ void Form1::becomeActive() {
   m_pictures.at(size_t(m_store.umgebung.zufallszahl() * PictureCount))->show();
 }
 
-void Form1::sicherungHinweis(const QString &text) {
-  ui->SicherungHinweis->setText(text);
-  ui->SicherungHinweis->setVisible(!text.isEmpty());
-}
-
 void Form1::closing() {
   VereinSchliessen(m_store);
   LaeuferSchliessen(m_store);

@@ -16,7 +16,7 @@ class Form1;
 /// The menu. `Label1` the organisation's name, and the makers' web address for a moment when the mouse moves over it
 /// (`Timer1`, 2 seconds); `Image1` to `Image8` pictures, one drawn by lot each time; `Label2`, `Label3`, `Label4` the
 /// counts of athletes, clubs and races over `Command1`, `Command2`, `Command3`, which open the registers; `Command4`
-/// ends the program. `SicherungHinweis` tells of a safety copy that failed.
+/// ends the program.
 class Form1 : public Screen {
   Q_OBJECT
 
@@ -25,8 +25,6 @@ public:
   ~Form1() override;
 
   void becomeActive() override;
-  /// A quiet line at the foot; an empty text takes it away.
-  void sicherungHinweis(const QString &text);
 
 Q_SIGNALS:
   /// A register is to be opened, by its object name.

@@ -32,3 +32,8 @@ void Desk::activate(Screen &screen) {
   m_active = &screen;
   screen.becomeActive();
 }
+
+void Desk::setHint(const QString &text) {
+  m_hint = text;
+  Q_EMIT hintChanged(m_hint);
+}

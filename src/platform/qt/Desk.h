@@ -10,8 +10,10 @@
 class Screen;
 
 /// What all screens of one program share: the guard of the fields, the screen that is active, and the places of the
-/// windows.
-class Desk {
+/// windows, and the hint at their feet.
+class Desk : public QObject {
+  Q_OBJECT
+
 public:
   /// `savePlaces` writes the table of places to the disk.
   Desk(WindowPlaces &places, std::function<void()> savePlaces);
@@ -29,9 +31,17 @@ public:
   /// each change from another screen.
   void activate(Screen &screen);
 
+  /// What the quiet line at the foot of every screen tells, also of those that open later; empty = nothing.
+  void setHint(const QString &text);
+  const QString &hint() const { return m_hint; }
+
+Q_SIGNALS:
+  void hintChanged(const QString &text);
+
 private:
   FieldGuard m_guard;
   WindowPlaces &m_places;
   std::function<void()> m_savePlaces;
   QPointer<Screen> m_active;
+  QString m_hint;
 };

@@ -1,6 +1,7 @@
 #include "platform/qt/Screen.h"
 
 #include "platform/qt/Desk.h"
+#include "platform/qt/HintLine.h"
 #include "platform/qt/LineList.h"
 #include "platform/qt/Look.h"
 
@@ -8,6 +9,7 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QGuiApplication>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
@@ -61,8 +63,20 @@ void Screen::setUp() {
   }
   for (auto *field : findChildren<QLineEdit *>())
     field->setValidator(new SingleLine(field));
+  addHint();
   if (m_row > 0)
     takePlace();
+}
+
+// It takes the place of the lower margin.
+void Screen::addHint() {
+  auto *hint = new HintLine(this);
+  QMargins margins = layout()->contentsMargins();
+  margins.setBottom(2);
+  layout()->setContentsMargins(margins);
+  layout()->addWidget(hint);
+  hint->setHint(m_desk.hint());
+  connect(&m_desk, &Desk::hintChanged, hint, &HintLine::setHint);
 }
 
 void Screen::onLeave(QWidget *field, std::function<void()> action) {

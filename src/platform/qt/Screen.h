@@ -13,7 +13,7 @@ class QLineEdit;
 
 /// Base of all screens, which are top-level windows. It does for each of them: the window's place in the table of
 /// places, storing a field when the focus leaves it (see FieldGuard), Enter and the blank key, the order of closing,
-/// the wheel that changes no combo without the focus, and sizes that follow the font.
+/// the wheel that changes no combo without the focus, the hint line, and sizes that follow the font.
 ///
 /// A screen is made anew each time it opens and destroyed after it has closed; who opens which is known to the roof
 /// alone.
@@ -70,6 +70,7 @@ protected:
   void showEvent(QShowEvent *event) override;
 
 private:
+  void addHint();
   void takePlace();
   void storePlace();
   bool pressReturn(QObject *watched);
