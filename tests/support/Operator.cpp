@@ -7,23 +7,44 @@
 //   Form7.Text1 type 63,45        click into a field, replace its text
 //   Form7.Text1 key               Enter
 //   Form7 close                   the window's own button
-//   Fehlerbericht press Schließen a button by its caption
+//   Fehlerbericht press Schließen a button by its caption, or by one of several: Ja|Gut
 //   Form7 await weiter            go on when there is a file of that name in the data folder
+//   Form7 pause 2000              wait that many milliseconds
+//
+// OPERATOR_ANSWERS holds further lines, each done whenever its window stands. OPERATOR_LOG names a file to which a line
+// for each is added once it is done: "step" or "answer", milliseconds, how many microseconds it took, the line itself.
+// An operator whose next step stays impossible for twenty seconds gives up and ends the program.
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QCheckBox>
 #include <QFile>
 #include <QGenericPlugin>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTest>
 #include <QTimer>
 
+#include <chrono>
+#include <cstdio>
 #include <map>
+#include <unistd.h>
 
 namespace {
 
+using namespace std::chrono;
 using Action = void (*)(QWidget *, const QString &);
+
+constexpr auto Pace = 10ms;
+constexpr int Patience = 2000; // looks
+constexpr int GivenUp = 99;
+
+// The text of a box or an option is narrower than the control.
+void press(QWidget *control, const QString &) {
+  const bool box = qobject_cast<QCheckBox *>(control) || qobject_cast<QRadioButton *>(control);
+  QTest::mouseClick(control, Qt::LeftButton, {}, box ? QPoint(8, control->height() / 2) : QPoint());
+}
 
 void pressLine(QWidget *list, const QString &line) {
   auto *view = qobject_cast<QAbstractItemView *>(list);
@@ -39,19 +60,40 @@ void type(QWidget *field, const QString &text) {
 
 void pressCaption(QWidget *window, const QString &caption) {
   for (auto *button : window->findChildren<QPushButton *>())
-    if (button->text() == caption)
+    if (caption.split(QLatin1Char('|')).contains(button->text()))
       return QTest::mouseClick(button, Qt::LeftButton);
 }
 
 const std::map<QString, Action> Actions = {
-    {QStringLiteral("click"), [](QWidget *w, const QString &) { QTest::mouseClick(w, Qt::LeftButton); }},
+    {QStringLiteral("click"), press},
     {QStringLiteral("key"), [](QWidget *w, const QString &) { QTest::keyClick(w, Qt::Key_Return); }},
     {QStringLiteral("close"), [](QWidget *w, const QString &) { w->close(); }},
     {QStringLiteral("line"), pressLine},
     {QStringLiteral("type"), type},
     {QStringLiteral("press"), pressCaption},
     {QStringLiteral("await"), [](QWidget *, const QString &) {}},
+    {QStringLiteral("pause"), [](QWidget *, const QString &) {}},
 };
+
+/// A line of the steps, taken apart.
+struct Step {
+  explicit Step(const QString &line)
+      : text(line), verb(line.section(QLatin1Char(' '), 1, 1)), argument(line.section(QLatin1Char(' '), 2)) {}
+
+  QString target() const { return text.section(QLatin1Char(' '), 0, 0); }
+  milliseconds pause() const {
+    return verb == QStringLiteral("pause") ? milliseconds(argument.toInt()) : milliseconds(0);
+  }
+
+  QString text, verb, argument;
+};
+
+QList<Step> stepsOf(const char *variable) {
+  QList<Step> steps;
+  for (const auto &line : qEnvironmentVariable(variable).split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+    steps << Step(line);
+  return steps;
+}
 
 QWidget *find(const QString &target) {
   const QString screen = target.section(QLatin1Char('.'), 0, 0), control = target.section(QLatin1Char('.'), 1);
@@ -61,33 +103,64 @@ QWidget *find(const QString &target) {
   return nullptr;
 }
 
-bool isReady(const QWidget *target, const QString &verb, const QString &argument) {
-  return target && target->isEnabled() && (verb != QStringLiteral("await") || QFile::exists(argument));
+bool isReady(const QWidget *target, const Step &step) {
+  return target && target->isEnabled() && (step.verb != QStringLiteral("await") || QFile::exists(step.argument));
+}
+
+void note(const char *what, const Step &step, microseconds took) {
+  if (FILE *log = std::fopen(qgetenv("OPERATOR_LOG").constData(), "ae")) {
+    const auto now = duration_cast<milliseconds>(steady_clock::now().time_since_epoch());
+    std::fprintf(log, "%s %lld %lld %s\n", what, static_cast<long long>(now.count()),
+                 static_cast<long long>(took.count()), step.text.toUtf8().constData());
+    std::fclose(log);
+  }
+}
+
+// By the clock on the wall: the other one may stand still.
+void act(const char *what, const Step &step, QWidget *target) {
+  const auto begin = system_clock::now();
+  Actions.at(step.verb)(target, step.argument);
+  note(what, step, duration_cast<microseconds>(system_clock::now() - begin));
 }
 
 class Operator : public QObject {
 public:
-  explicit Operator(const QString &steps) : m_steps(steps.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) { next(); }
+  Operator() { next(Pace); }
 
 private:
   // The next step is planned before this one is done, since a step may open a window that waits for an answer.
-  void next() {
-    QTimer::singleShot(10, this, [this] {
-      if (m_steps.isEmpty())
-        return;
-      const QString step = m_steps.first(), verb = step.section(QLatin1Char(' '), 1, 1);
-      const QString argument = step.section(QLatin1Char(' '), 2);
-      auto *target = find(step.section(QLatin1Char(' '), 0, 0));
-      const bool ready = isReady(target, verb, argument);
-      if (ready)
-        m_steps.removeFirst();
-      next();
-      if (ready)
-        Actions.at(verb)(target, argument);
-    });
+  void next(milliseconds when) {
+    QTimer::singleShot(when, this, [this] { look(); });
   }
 
-  QStringList m_steps;
+  void look() {
+    for (const auto &answer : m_answers)
+      if (auto *window = find(answer.target()); window && window->isEnabled()) {
+        wait(answer);
+        return act("answer", answer, window);
+      }
+    if (m_steps.isEmpty())
+      return next(Pace);
+    const Step step = m_steps.first();
+    auto *target = find(step.target());
+    if (!isReady(target, step))
+      return wait(step);
+    m_looks = 0;
+    m_steps.removeFirst();
+    next(Pace + step.pause());
+    act("step", step, target);
+  }
+
+  void wait(const Step &step) {
+    next(Pace);
+    if (++m_looks < Patience)
+      return;
+    std::fprintf(stderr, "The operator waits in vain: %s\n", step.text.toUtf8().constData());
+    _exit(GivenUp);
+  }
+
+  QList<Step> m_steps = stepsOf("OPERATOR_STEPS"), m_answers = stepsOf("OPERATOR_ANSWERS");
+  int m_looks = 0;
 };
 
 class OperatorPlugin : public QGenericPlugin {
@@ -95,9 +168,7 @@ class OperatorPlugin : public QGenericPlugin {
   Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "Operator.json")
 
 public:
-  QObject *create(const QString &, const QString &) override {
-    return new Operator(qEnvironmentVariable("OPERATOR_STEPS"));
-  }
+  QObject *create(const QString &, const QString &) override { return new Operator; }
 };
 
 } // namespace

@@ -1,0 +1,332 @@
+#include "safety/Drill.h"
+
+#include "platform/Faults.h"
+#include "platform/Files.h"
+#include "safety/CallKinds.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <csignal>
+
+namespace {
+
+constexpr int Patience = 60'000; // milliseconds
+constexpr double Never = 1e9;
+/// What may be lost of the typing: the time between two running copies, and what the timer may be late.
+constexpr long Promise = 2000, Lateness = 100;
+const QStringList JustEnd{QStringLiteral("Form1.Command4 click")};
+const auto Answers = QStringLiteral("Fehlerbericht press Schließen\nRettung press Übernehmen|Fertigstellen|Weiter");
+
+struct Place {
+  Place() { makeEvent(data()); }
+  QString data() const { return root.filePath(QStringLiteral("Daten")); }
+  QString home() const { return root.filePath(QStringLiteral("Heim")); }
+  QString log() const { return root.filePath(QStringLiteral("Aufrufe")); }
+
+  QTemporaryDir root;
+};
+
+QProcessEnvironment environment(const Place &place, const QStringList &steps, const Mishap &mishap) {
+  auto all = QProcessEnvironment::systemEnvironment();
+  const std::pair<const char *, QString> own[] = {
+      {"LD_PRELOAD", QStringLiteral(VEXT_FILECALLS)},
+      {"ASAN_OPTIONS", QStringLiteral("verify_asan_link_order=0")},
+      {"XDG_DATA_HOME", place.home()},
+      {"XDG_CONFIG_HOME", place.home()},
+      {"QT_NO_GLIB", QStringLiteral("1")},
+      {"QT_QPA_PLATFORM", QStringLiteral("offscreen")},
+      {"QT_QPA_GENERIC_PLUGINS", QStringLiteral("operator")},
+      {"QT_PLUGIN_PATH", QStringLiteral(VEXT_PLUGINS)},
+      {"OPERATOR_STEPS", steps.join(QLatin1Char('\n'))},
+      {"OPERATOR_ANSWERS", Answers},
+      {"OPERATOR_LOG", place.log()},
+      {"FILECALLS_LOG", place.log()},
+      {"FILECALLS_FOLDERS", place.data() + QLatin1Char(':') + place.home() + QStringLiteral("/VEXT")},
+      {"FILECALLS_AT", QString::number(mishap.call)},
+      {"FILECALLS_DO", QString::fromLatin1(mishap.act)}};
+  for (const auto &[name, value] : own)
+    all.insert(QLatin1String(name), value);
+  return all;
+}
+
+void readCall(Run &run, const QStringList &words) {
+  run.calls << words.value(2);
+  run.end = words.value(1).toLong();
+  if (words.last() == QStringLiteral("!") && run.firstFailure < 0)
+    run.firstFailure = run.end;
+}
+
+void readLog(Run &run, const QString &path) {
+  run.log = QString::fromUtf8(readFile(path)).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+  for (const auto &line : std::as_const(run.log)) {
+    const QStringList words = line.split(QLatin1Char(' '));
+    if (words.first() == QStringLiteral("step"))
+      run.steps.push_back({words.value(1).toLong() - 1'000'000, words.value(2).toDouble() / 1000});
+    else if (words.first() != QStringLiteral("answer"))
+      readCall(run, words);
+    else if (words.value(3) == QStringLiteral("Rettung"))
+      ++run.answers;
+  }
+}
+
+// Where a sync takes its time, the clock runs.
+Run runProgram(const Place &place, const QStringList &steps, const Mishap &mishap, int syncDelay = 0) {
+  auto all = environment(place, steps, mishap);
+  if (syncDelay > 0)
+    all.insert(QStringLiteral("FILECALLS_DELAY"), QString::number(syncDelay));
+  else
+    all.insert(QStringLiteral("FILECALLS_CLOCK"), QStringLiteral("1"));
+  QFile::remove(place.log());
+  QProcess program;
+  program.setProcessEnvironment(all);
+  program.setWorkingDirectory(place.data());
+  program.start(QStringLiteral(VEXT_PROGRAM), QStringList());
+  Run run;
+  const bool ended = program.waitForFinished(Patience);
+  run.killed = ended && program.exitStatus() == QProcess::CrashExit && program.exitCode() == SIGKILL;
+  run.code = ended && program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
+  run.errors = QString::fromUtf8(program.readAllStandardError());
+  readLog(run, place.log());
+  return run;
+}
+
+QStringList textsOf(const Session &session) {
+  QStringList texts;
+  for (const auto &step : session.steps)
+    texts << QString::fromUtf8(step.text);
+  return texts;
+}
+
+bool isTyping(const Step &step) {
+  const QString verb = QString::fromUtf8(step.text).section(QLatin1Char(' '), 1, 1);
+  return verb == QStringLiteral("type") || verb == QStringLiteral("key") || verb == QStringLiteral("line");
+}
+
+std::map<QString, qint64> sizesIn(const QString &folder) {
+  std::map<QString, qint64> sizes;
+  for (const auto &file : QDir(folder).entryInfoList(QDir::Files))
+    sizes[file.fileName()] = file.size();
+  return sizes;
+}
+
+/// Counts of Vext.dat; empty if there is none.
+QList<int> countsIn(const QString &folder) {
+  QList<int> counts;
+  for (const auto &line : readFile(folder + QStringLiteral("/Vext.dat")).split('\n'))
+    counts << line.trimmed().toInt();
+  return counts;
+}
+
+bool isLower(const QList<int> &counts, const QList<int> &before) {
+  for (qsizetype i = 0; i < 3; ++i)
+    if (counts.value(i) < before.value(i))
+      return true;
+  return false;
+}
+
+bool isForGood(const Mishap &mishap) {
+  return mishap.act.endsWith('+');
+}
+
+bool isDeath(const Mishap &mishap) {
+  return mishap.act == "kill" || mishap.act == "half" || mishap.act == "cut";
+}
+
+/// Until when all that was typed must come back: a fault loses nothing, a death and a disk that is broken for good what
+/// was typed last; what was saved is safe, but for a power cut.
+bool mustComeBack(const Session &session, const Run &run, size_t step, const Mishap &mishap) {
+  if (step >= run.steps.size())
+    return false;
+  if (!run.killed && !isForGood(mishap))
+    return true;
+  const long end = isForGood(mishap) && run.firstFailure >= 0 ? run.firstFailure : run.end;
+  if (run.code == 0 && !run.killed)
+    return true;
+  if (end - run.steps[step].when > Promise + Lateness)
+    return true;
+  bool saved = false;
+  for (size_t later = step; later < run.steps.size() && run.steps[later].when < end; ++later)
+    saved = saved || session.steps[later].saves;
+  return saved && mishap.act != "cut";
+}
+
+QStringList requiredFacts(const Session &session, const Run &run, const Mishap &mishap) {
+  QStringList facts;
+  for (size_t step = 0; step < session.steps.size(); ++step)
+    if (session.steps[step].fact && mustComeBack(session, run, step, mishap))
+      facts << QString::fromUtf8(session.steps[step].fact);
+  return facts;
+}
+
+QStringList ofRace(const QStringList &facts, int race) {
+  const QString number = QString::number(race);
+  QStringList own;
+  for (const auto &fact : facts)
+    if (fact.startsWith(number + QLatin1Char('/')) || fact.startsWith(number + QLatin1Char(' ')) ||
+        fact.startsWith(QStringLiteral("Rennen ") + number + QLatin1Char(' ')))
+      own << fact;
+  return own;
+}
+
+/// The last lines before the mishap, or of all.
+QString accountOf(const char *which, const Mishap &mishap, const Run &run) {
+  qsizetype end = run.log.size();
+  for (qsizetype line = 0; line < run.log.size(); ++line)
+    if (run.log[line].endsWith(QStringLiteral(" !")) || run.log[line].endsWith(QStringLiteral(" *"))) {
+      end = line + 1;
+      break;
+    }
+  return QStringLiteral("%1: %2 at %3, code %4%5\n  %6\n%7")
+      .arg(QLatin1String(which), QString::fromLatin1(mishap.act))
+      .arg(mishap.call)
+      .arg(run.code)
+      .arg(run.killed ? QStringLiteral(", killed") : QString(),
+           run.log.mid(qMax<qsizetype>(0, end - 5), 8).join(QStringLiteral("\n  ")),
+           QStringList(run.errors.split(QLatin1Char('\n')).filter(QStringLiteral("VEXT:"))).join(QLatin1Char('\n')));
+}
+
+void addErrors(std::vector<Case> &cases, const Case &base, Mishap Case::*mishap, int call, const CallKind &kind) {
+  for (const int error : kind.errors) {
+    if (error == 0)
+      continue;
+    cases.push_back(base);
+    (cases.back().*mishap) = {call, QByteArray::number(error)};
+    if (error == EINTR)
+      continue;
+    cases.push_back(base);
+    (cases.back().*mishap) = {call, QByteArray::number(error) + '+'};
+  }
+}
+
+void addCases(std::vector<Case> &cases, const Case &base, Mishap Case::*mishap, int call, const CallKind &kind) {
+  QList<QByteArray> acts;
+  if (kind.changes)
+    acts << "kill";
+  if (kind.changes || kind.name == "sync")
+    acts << "cut";
+  if (kind.name == "write")
+    acts << "half"
+         << "short";
+  for (const auto &act : acts) {
+    cases.push_back(base);
+    (cases.back().*mishap) = {call, act};
+  }
+  addErrors(cases, base, mishap, call, kind);
+}
+
+std::vector<Case> casesOf(const Case &base, Mishap Case::*mishap, const QStringList &calls) {
+  std::vector<Case> cases;
+  for (int call = 1; call <= calls.size(); ++call)
+    addCases(cases, base, mishap, call, callKind(calls[call - 1].toStdString()));
+  return cases;
+}
+
+} // namespace
+
+bool Run::isAccounted(const Mishap &mishap, size_t wanted) const {
+  if (killed)
+    return isDeath(mishap);
+  if (code >= 70 && code <= 72)
+    return errors.contains(QStringLiteral("VEXT: "));
+  return code == 0 && steps.size() == wanted;
+}
+
+Drill::Drill(const Session &session) : m_session(session) {
+  const Place place;
+  m_before = factsOf(place.data());
+  const auto before = sizesIn(place.data());
+  m_run = runProgram(place, textsOf(session), {});
+  m_after = factsOf(place.data());
+  for (const auto &[name, size] : sizesIn(place.data()))
+    if (const auto old = before.find(name); old != before.end())
+      m_sizes[name] = std::min(size, old->second);
+}
+
+QString Drill::trouble() const {
+  QStringList missing;
+  for (const auto &step : m_session.steps)
+    if (step.fact && !m_after.contains(QString::fromUtf8(step.fact)))
+      missing << QString::fromUtf8(step.fact);
+  if (m_run.code == 0 && missing.isEmpty())
+    return {};
+  return accountOf(m_session.name, {}, m_run) + QStringLiteral("\nmissing: ") + missing.join(QStringLiteral("; "));
+}
+
+std::vector<Case> Drill::cases() const {
+  return casesOf({&m_session, {}, {}}, &Case::first, m_run.calls);
+}
+
+std::vector<Case> Drill::casesOfNextStart(const Mishap &death) const {
+  const Place place;
+  runProgram(place, textsOf(m_session), death);
+  return casesOf({&m_session, death, {}}, &Case::second, runProgram(place, JustEnd, {}).calls);
+}
+
+Findings Drill::run(const Case &what) const {
+  const Place place;
+  Findings findings;
+  const auto counts = countsIn(place.data());
+  const Run session = runProgram(place, textsOf(m_session), what.first);
+  findings.account = accountOf("session", what.first, session);
+  if (!session.isAccounted(what.first, m_session.steps.size()))
+    findings.unreported << QStringLiteral("session");
+  const auto sizes = sizesIn(place.data());
+  const bool lower = isLower(countsIn(place.data()), counts);
+  Run next;
+  if (what.second.call > 0) {
+    next = runProgram(place, JustEnd, what.second);
+    findings.account += QLatin1Char('\n') + accountOf("next start", what.second, next);
+    if (!next.isAccounted(what.second, 1))
+      findings.unreported << QStringLiteral("next start");
+  }
+  const Run last = runProgram(place, JustEnd, {});
+  findings.account += QLatin1Char('\n') + accountOf("last start", {}, last);
+  if (last.code != 0 || last.steps.size() != 1)
+    findings.unreported << QStringLiteral("last start");
+  findings.offered = next.answers + last.answers > 0;
+  for (const auto &[name, size] : m_sizes) {
+    const auto now = sizes.find(name);
+    if ((now == sizes.end() || now->second < size) && !findings.offered)
+      findings.wiped << name;
+  }
+  if ((lower && !findings.offered) || isLower(countsIn(place.data()), counts))
+    findings.wiped << QStringLiteral("counts");
+  for (const auto &[name, size] : sizesIn(place.data()))
+    if (const auto old = m_sizes.find(name); old != m_sizes.end() && size < old->second)
+      findings.wiped << name + QStringLiteral(" at the end");
+  judgeFacts(findings, requiredFacts(m_session, session, what.first), place.data());
+  return findings;
+}
+
+void Drill::judgeFacts(Findings &findings, const QStringList &required, const QString &folder) const {
+  QStringList facts;
+  try {
+    facts = factsOf(folder);
+  } catch (const Fault &fault) {
+    findings.wiped << fault.report();
+    return;
+  }
+  for (const auto &fact : required)
+    if (!facts.contains(fact))
+      findings.lost << fact;
+  for (const auto &fact : m_before)
+    if (m_after.contains(fact) && !facts.contains(fact))
+      findings.wiped << fact;
+  if (m_session.replacedRace > 0) {
+    const auto race = ofRace(facts, m_session.replacedRace);
+    if (race != ofRace(m_before, m_session.replacedRace) && race != ofRace(m_after, m_session.replacedRace))
+      findings.mixed << QStringLiteral("race %1").arg(m_session.replacedRace);
+  }
+}
+
+double Drill::slowestTyping(int syncDelay) const {
+  const Place place;
+  const Run run = runProgram(place, textsOf(m_session), {}, syncDelay);
+  double slowest = 0;
+  for (size_t step = 0; step < std::min(run.steps.size(), m_session.steps.size()); ++step)
+    if (isTyping(m_session.steps[step]))
+      slowest = std::max(slowest, run.steps[step].took);
+  return run.code == 0 ? slowest : Never;
+}

@@ -1,0 +1,192 @@
+#include "safety/Sessions.h"
+
+#include "core/Classes.h"
+#include "core/RaceFiles.h"
+#include "evaluation/Cup.h"
+#include "platform/Numbers.h"
+#include "support/TestStore.h"
+
+#include <QDir>
+
+namespace {
+
+const std::vector<Step> Times = {
+    {"Form1.Command3 click"},
+    {"Form4.List1 line 1"},
+    {"Form4.Command6 click"},
+    {"Form7.List2 line 0"},
+    {"Form7.Text1 type 63,45"},
+    {"Form7.Text1 key", "1/1 Zeit 63.45"},
+    {"Form7 pause 2300"},
+    {"Form7.List2 line 1"},
+    {"Form7.Text1 type 64,5"},
+    {"Form7.Text1 key", "1/2 Zeit 64.5"},
+    {"Form7 pause 1000"},
+    {"Form7.List2 line 2"},
+    {"Form7.Text1 type 65,25"},
+    {"Form7.Text1 key", "1/3 Zeit 65.25"},
+    {"Form7.Command3 click", nullptr, true},
+    {"Form4 pause 2300"},
+    {"Form4.Command1 click"},
+    {"Form1.Command4 click"},
+};
+
+const std::vector<Step> Registers = {
+    {"Form1.Command2 click"},
+    {"Form2.Command3 click"},
+    {"Form2.Text2 type SC Neu"},
+    {"Form2.Text3 type Neu", "Verein 3 SC Neu", true},
+    {"Form2.Command1 click", "Verein 3 kurz Neu", true},
+    {"Form1.Command1 click"},
+    {"Form3.Command3 click"},
+    {"Form3.Text2 type NEU Eva"},
+    {"Form3.Text4 type 1.2.2012", "Läufer 4 NEU Eva", true},
+    {"Form3.Option2 click", "Läufer 4 geboren 40940", true},
+    {"Form3.Command1 click", "Läufer 4 Geschlecht 0", true},
+    {"Form1.Command3 click"},
+    {"Form4.Command3 click"},
+    {"Form4.Text2 type Nachtrennen"},
+    {"Form4.Command7 click", "Rennen 3 Nachtrennen", true},
+    {"Form4.Command4 click"},
+    {"Form5.List1 line 0"},
+    {"Form5.Command2 click", "3/1 Läufer 1"},
+    {"Form5 pause 2300"},
+    {"Form5.List1 line 3"},
+    {"Form5.Command2 click", "3/2 Läufer 4"},
+    {"Form5.Command1 click", nullptr, true},
+    {"Form4.Command5 click"},
+    {"Form6.List1 line 0"},
+    {"Form6.Text1 type 7"},
+    {"Form6.Check2 click", "3/1 Nummer 7"},
+    {"Form6 pause 2300"},
+    {"Form6.Command1 click", "3/1 bezahlt 1", true},
+    {"Form4 pause 2300"},
+    {"Form4.Command1 click"},
+    {"Form1.Command4 click"},
+};
+
+const std::vector<Step> Classes = {
+    {"Form1.Command3 click"},
+    {"Form4.List1 line 1"},
+    {"Form4.Command15 click"},
+    {"Form15.Label3_0 click"},
+    {"Form15.Label3_8 click"},
+    {"Form15.Text1 type Zwerge"},
+    {"Form15.Label3_16 click", "1 genau 2 Zwerge"},
+    {"Form15 pause 2300"},
+    {"Form15.Command1 click", "1 Reihe 3 3", true},
+    {"Form4 pause 2300"},
+    {"Form4.Command16 click"},
+    {"CupKopie.Text2 type 2"},
+    {"CupKopie.Command16 click", "Rennen 2 Kopie v. Kinderrennen", true},
+    {"Form4 pause 2300"},
+    {"Form4.Command17 click"},
+    {"Form20.Text1 type 1"},
+    {"Form20.Text2 type 25", "Cup 1 25"},
+    {"Form20 pause 2300"},
+    {"Form20.Command3 click", nullptr, true},
+    {"Form4 pause 2300"},
+    {"Form4.Command1 click"},
+    {"Form1.Command4 click"},
+};
+
+class Facts {
+public:
+  void add(const QString &what, const QString &value) { lines << what + QLatin1Char(' ') + value; }
+  void add(const QString &what, double value) { add(what, QString::number(value)); }
+
+  QStringList lines;
+};
+
+void addRegisters(Facts &facts, Store &store) {
+  for (store.VereinIdx = 1; store.VereinIdx <= store.VereinAnzahl; ++store.VereinIdx) {
+    VereinLesen(store);
+    const QString who = QStringLiteral("Verein %1").arg(store.VereinIdx);
+    facts.add(who, trimmedBlanks(store.Verein.VereinName));
+    facts.add(who + QStringLiteral(" kurz"), trimmedBlanks(store.Verein.VereinKurz));
+  }
+  for (store.LaeuferIdx = 1; store.LaeuferIdx <= store.LaeuferAnzahl; ++store.LaeuferIdx) {
+    LaeuferLesen(store);
+    const QString who = QStringLiteral("Läufer %1").arg(store.LaeuferIdx);
+    facts.add(who, store.Laeufer.Name);
+    facts.add(who + QStringLiteral(" geboren"), store.Laeufer.Geburtsdatum);
+    facts.add(who + QStringLiteral(" Geschlecht"), store.Laeufer.Geschlecht);
+  }
+}
+
+void addParticipants(Facts &facts, const Store &store) {
+  for (int row = 1; store.Teilnehmer[row].LaeuferNr != 0; ++row) {
+    const auto &line = store.Teilnehmer[row];
+    const QString who = QStringLiteral("%1/%2 ").arg(store.AktRennen).arg(row);
+    facts.add(who + QStringLiteral("Läufer"), line.LaeuferNr);
+    facts.add(who + QStringLiteral("Nummer"), line.StartNr);
+    facts.add(who + QStringLiteral("bezahlt"), line.Bezahlt);
+    facts.add(who + QStringLiteral("Zeit"), line.Zeit1);
+  }
+}
+
+void addRace(Facts &facts, Store &store, int race) {
+  store.RennenIdx = store.AktRennen = race;
+  RennenLesen(store);
+  facts.add(QStringLiteral("Rennen %1").arg(race), store.Rennen.RennenName);
+  RennDatenLaden(store);
+  addParticipants(facts, store);
+  for (const auto &[letter, names] : {std::pair('M', store.MannschaftName[1]), {'G', store.GruppeName[1]}})
+    facts.add(QStringLiteral("%1 %2").arg(race).arg(QLatin1Char(letter)), names);
+  for (int klasse = 1; klasse <= 20; ++klasse) {
+    facts.add(QStringLiteral("%1 Klasse %2").arg(race).arg(klasse), store.KlasseName[klasse]);
+    facts.add(QStringLiteral("%1 Reihe %2").arg(race).arg(klasse), store.KlasseReihenfolge(klasse, 0, 0, 0));
+    facts.add(QStringLiteral("%1 genau %2").arg(race).arg(klasse), store.KlasseGenauName[exactClass(klasse, 0, 0, 0)]);
+  }
+}
+
+} // namespace
+
+const std::vector<Session> &sessions() {
+  static const std::vector<Session> all = {
+      {"Zeiten", Times}, {"Karteien", Registers}, {"Klassen, Kopie, Cup", Classes, 2}};
+  return all;
+}
+
+void makeEvent(const QString &folder) {
+  TestStore test;
+  auto &store = test.store;
+  for (const char *club : {"SC Alm", "TV Berg"})
+    test.addClub(QString::fromUtf8(club));
+  for (const char *name : {"ADAM Lena", "BERG Max", "CERNY Ida"})
+    test.addAthlete(QString::fromUtf8(name), 2012, 0, 1);
+  for (const char *race : {"Kinderrennen", "Vereinslauf"}) {
+    test.addRace(QString::fromUtf8(race));
+    store.MannschaftName[1] = QStringLiteral("Mannschaft ") + store.Rennen.RennenName;
+    store.GruppeName[1] = QStringLiteral("Gruppe ") + store.Rennen.RennenName;
+    for (int athlete = 1; athlete <= 3; ++athlete)
+      test.enter(athlete, athlete);
+    if (store.AktRennen == 2)
+      store.Teilnehmer[1].Zeit1 = 71.5;
+    RennDatenSpeichern(store);
+  }
+  auto cup = cupLaden(store);
+  cup.bezeichnung = QStringLiteral("Talcup");
+  cupSpeichern(store, cup);
+  FensterSpeichern(store);
+  QDir().mkpath(folder);
+  for (const auto &name : QDir(test.folder.path()).entryList(QDir::Files))
+    QFile::copy(test.folder.filePath(name), folder + QLatin1Char('/') + name);
+}
+
+QStringList factsOf(const QString &folder) {
+  Umgebung umgebung;
+  Store store(umgebung);
+  store.DatenOrdner = folder + QLatin1Char('/');
+  storeStarten(store);
+  alleDateienOeffnen(store);
+  Facts facts;
+  addRegisters(facts, store);
+  for (int race = 1; race <= store.RennenAnzahl; ++race)
+    addRace(facts, store, race);
+  const auto cup = cupLaden(store);
+  facts.add(QStringLiteral("Cup"), cup.bezeichnung);
+  for (int place = 1; place <= 9; ++place)
+    facts.add(QStringLiteral("Cup %1").arg(place), store.CupPunkteTabelle[place]);
+  return facts.lines;
+}
