@@ -58,8 +58,8 @@ QBoxLayout *Preview::buttons() {
   row->addWidget(m_position);
   add("vor", QStringLiteral("Seite vor"), [this] { m_pages->showPage(m_pages->currentPage() + 1); });
   row->addSpacing(16);
-  add("kleiner", QStringLiteral("kleiner"), [this] { m_pages->zoom(1 / 1.25); });
-  add("groesser", QStringLiteral("größer"), [this] { m_pages->zoom(1.25); });
+  add("kleiner", QStringLiteral("kleiner"), [this] { m_pages->zoom(1 / PreviewPages::ZoomStep); });
+  add("groesser", QStringLiteral("größer"), [this] { m_pages->zoom(PreviewPages::ZoomStep); });
   add("seite", QStringLiteral("ganze Seite"), [this] { m_pages->fit(PreviewPages::Fit::Page); });
   add("breite", QStringLiteral("ganze Breite"), [this] { m_pages->fit(PreviewPages::Fit::Width); });
   row->addSpacing(16);

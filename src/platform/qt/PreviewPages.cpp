@@ -13,7 +13,6 @@ namespace {
 
 constexpr int Gap = 14;                        // between pages and around them, pixels
 constexpr double Smallest = 0.5, Largest = 20; // pixels a millimetre
-constexpr double ZoomStep = 1.25;
 
 } // namespace
 

@@ -12,6 +12,9 @@ public:
   /// What the size of the pages follows, also after the size of the view changes; zooming ends it.
   enum class Fit { None, Width, Page };
 
+  /// What a key or a button makes pages larger by.
+  static constexpr double ZoomStep = 1.25;
+
   explicit PreviewPages(QWidget *parent = nullptr);
 
   void append(const Recording &recording);

@@ -17,6 +17,12 @@ QString captionFor(qsizetype files) {
   return files > 1 ? QStringLiteral("%1 Dateien, die letzte").arg(files) : QStringLiteral("letzte Datei");
 }
 
+// A long path wraps behind any of its folders instead of widening the screen.
+QString breakable(const QString &path) {
+  const QChar mayBreak(0x200B);
+  return QDir::toNativeSeparators(path).replace(QDir::separator(), QString(QDir::separator()) + mayBreak);
+}
+
 QString picturesText(const QStringList &paths) {
   QStringList names;
   for (const QString &path : paths)
@@ -69,7 +75,7 @@ void PrintOutcomeView::tell(const PrintOutcome &outcome) {
   m_path = anyFile ? QFileInfo(outcome.files.last()).absoluteFilePath() : QString();
   m_caption->setText(captionFor(outcome.files.size()));
   m_name->setText(QFileInfo(m_path).fileName());
-  m_folder->setText(QDir::toNativeSeparators(QFileInfo(m_path).path()));
+  m_folder->setText(breakable(QFileInfo(m_path).path()));
   m_pictures->setText(picturesText(outcome.unreadablePictures));
   for (QWidget *part : std::initializer_list<QWidget *>{m_caption, m_name, m_folder, m_open, m_showFolder})
     part->setVisible(anyFile);
