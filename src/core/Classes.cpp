@@ -1,8 +1,12 @@
 #include "core/Classes.h"
 
+#include "core/Participants.h"
 #include "core/RecordFiles.h"
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
+
+#include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -11,8 +15,11 @@ struct Split {
   int criterion, value;
   const char *criterionName, *whatToDo;
 
-  /// The switch of the exact class.
-  int result() const { return criterion * value; }
+  /// The switch of the exact class. Files may hold any number in both.
+  int result() const {
+    constexpr qint64 Most = std::numeric_limits<int>::max();
+    return int(std::clamp(qint64(criterion) * value, -Most, Most));
+  }
 };
 
 QString criterionTrouble(const Split &split) {
@@ -47,7 +54,7 @@ void assign(Store &store, int row, int klasse) {
                 "„Boarder“ ist weder 0 noch 1. Bitte in der Teilnehmerliste doppelt anklicken und neu setzen."};
   line.KlasseNr = klasse;
   ++store.KlasseAnzahl[klasse];
-  if (line.Status1 + line.Status2 == 0)
+  if (statusSum(line) == 0)
     ++store.KlasseAnzahlOk[klasse];
   for (const Split &split : {a, b, f})
     requireSwitch(store, row, split);

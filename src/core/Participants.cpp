@@ -10,6 +10,10 @@ bool readAthlete(Store &store, const TeilnehmerZeile &participant) {
   return !store.Laeufer.Name.isEmpty();
 }
 
+qint64 statusSum(const TeilnehmerZeile &participant) {
+  return qint64(participant.Status1) + participant.Status2;
+}
+
 int startClub(const Store &store, const TeilnehmerZeile &participant) {
   switch (participant.VereinNr) {
   case 1:

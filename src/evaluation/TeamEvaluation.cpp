@@ -65,8 +65,7 @@ void assignUnits(Store &store) {
 }
 
 bool isRanked(const TeilnehmerZeile &participant) {
-  return participant.WertSumme != 0 && participant.LaeuferNr != 0 &&
-         qint64(participant.Status1) + participant.Status2 <= 0;
+  return participant.WertSumme != 0 && participant.LaeuferNr != 0 && statusSum(participant) <= 0;
 }
 
 bool passes(const Store &store, int row, WertungsFilter filter) {

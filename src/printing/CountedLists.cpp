@@ -127,8 +127,7 @@ void NichtInDerWertung(Store &store, Druckschicht &druck) {
   Dokumentanfang(store, druck, kopf.name);
   const QStringList lines = SortierListe(store, [&store](int row) {
     const auto &participant = store.Teilnehmer[row];
-    return participant.Status1 + participant.Status2 != 0 ? masked(participant.StartNr, "0###") + store.Laeufer.Name
-                                                          : QString();
+    return statusSum(participant) != 0 ? masked(participant.StartNr, "0###") + store.Laeufer.Name : QString();
   });
   if (!lines.isEmpty()) {
     CountedPages pages(store, druck, kopf, unrankedHeads(store));

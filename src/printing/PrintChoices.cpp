@@ -1,5 +1,6 @@
 #include "printing/PrintChoices.h"
 
+#include "core/Participants.h"
 #include "core/RecordFiles.h"
 #include "platform/Numbers.h"
 
@@ -21,7 +22,7 @@ QStringList ranglisteZeilen(Store &store) {
   for (int place = 1; place <= 1000; ++place) {
     const int row = store.RangListe[place];
     const TeilnehmerZeile &participant = store.Teilnehmer[row];
-    if (participant.StartNr != 0 && participant.Status1 + participant.Status2 <= 0)
+    if (participant.StartNr != 0 && statusSum(participant) <= 0)
       lines.append(ranglisteZeile(store, row));
   }
   return lines;

@@ -27,7 +27,7 @@ public:
       const auto &participant = m_store.Teilnehmer[m_store.RangListe[k]];
       if (participant.StartNr == 0)
         break;
-      if (participant.Status1 + participant.Status2 > 0)
+      if (statusSum(participant) > 0)
         continue;
       readAthlete(m_store, participant);
       if (participant.KlasseKopf != 0)

@@ -4,10 +4,12 @@
 #include "platform/Numbers.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
 constexpr int FirstYear = 1900;
+constexpr int LowestYear = std::numeric_limits<int>::min(); // a file may hold any
 constexpr int LastRow = 20;
 constexpr int NameWidth = 20;
 
@@ -37,7 +39,7 @@ void closeRanks(Store &store, int last) {
   for (int row = 1; row <= last; ++row)
     store.KlasseVon[row] = std::min(store.KlasseVon[row], store.KlasseBis[row]);
   for (int row = 1; row < last; ++row)
-    store.KlasseBis[row + 1] = store.KlasseVon[row] - 1;
+    store.KlasseBis[row + 1] = std::max(store.KlasseVon[row], LowestYear + 1) - 1;
 }
 
 QString classLine(const Store &store, int row) {

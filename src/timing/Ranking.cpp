@@ -1,5 +1,6 @@
 #include "timing/Ranking.h"
 
+#include "core/Participants.h"
 #include "core/ValueFormats.h"
 #include "platform/Numbers.h"
 #include "platform/SortedLines.h"
@@ -32,8 +33,7 @@ void clearValues(TeilnehmerZeile &participant) {
 
 // As soon as one person has a second time, everybody without one is out; whether the race has two runs does not matter.
 bool hasResult(const TeilnehmerZeile &participant, bool secondTimesExist) {
-  return qint64(participant.Status1) + participant.Status2 <= 0 && participant.Zeit1 != 0 &&
-         !(secondTimesExist && participant.Zeit2 == 0);
+  return statusSum(participant) <= 0 && participant.Zeit1 != 0 && !(secondTimesExist && participant.Zeit2 == 0);
 }
 
 bool isRanked(Store &store, const TeilnehmerZeile &participant, bool secondTimesExist, std::optional<int> clubFilter) {

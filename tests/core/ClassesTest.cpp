@@ -1,5 +1,6 @@
 #include "core/Classes.h"
 
+#include "platform/Faults.h"
 #include "support/TestStore.h"
 
 namespace {
@@ -69,4 +70,14 @@ TEST_F(Classes, TheLastRowAndTheLastClassCount) {
   KlassenZuordnen(store);
   EXPECT_EQ(store.Teilnehmer[1000].KlasseNr, 20);
   EXPECT_EQ(store.KlasseAnzahlOk[20], 1);
+}
+
+TEST_F(Classes, FlagsAndStatusFromAFileMayBeAnyNumber) {
+  constexpr int Lowest = std::numeric_limits<int>::min();
+  auto &row = enter(2013);
+  row.Status1 = row.Status2 = row.Gast = Lowest;
+  KlassenZuordnen(store);
+  EXPECT_EQ(store.KlasseAnzahlOk[8], 0);
+  store.Rennen.WertGaeste = 2;
+  EXPECT_THROW(KlassenZuordnen(store), RangeFault);
 }
