@@ -84,7 +84,7 @@ void TextWriter::number(int value) {
 }
 
 void TextWriter::text(const QString &line) {
-  m_bytes += toCodePage(line) + "\r\n";
+  m_bytes += toCodePage(line).replace('\n', ' ') + "\r\n";
 }
 
 void TextWriter::decimal(double value) {

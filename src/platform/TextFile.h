@@ -45,7 +45,7 @@ class TextWriter {
 public:
   /// Blank (or minus sign), plain decimal text, blank.
   void number(int value);
-  /// The text as it stands.
+  /// The text as it stands, but for line feeds, as a pasted one may have: each becomes a blank.
   void text(const QString &line);
   /// Shortest decimal text with a comma, no blanks; 0 for a time that could not be read again.
   void decimal(double value);

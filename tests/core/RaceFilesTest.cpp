@@ -106,6 +106,15 @@ TEST_F(RaceFiles, SavingDropsFreeRowsAndNamesInRowThreeAlone) {
   EXPECT_EQ(store.Teilnehmer[5].LaeuferNr, 0);
 }
 
+TEST_F(RaceFiles, APastedLineBreakMovesNoLine) {
+  store.KlasseGenauName[1] = store.GruppeName[1] = QStringLiteral("oben\nunten");
+  store.GruppeName[2] = store.KlasseGenauName[2] = QStringLiteral("zwei");
+  RennDatenSpeichern(store);
+  RennDatenLaden(store);
+  EXPECT_EQ(store.GruppeName[1] + store.GruppeName[2], QStringLiteral("oben untenzwei"));
+  EXPECT_EQ(store.KlasseGenauName[1] + store.KlasseGenauName[2], QStringLiteral("oben untenzwei"));
+}
+
 TEST_F(RaceFiles, RemindsOfAthletesWithoutSexOrBirthDate) {
   QStringList reminder;
   test.umgebung.erinnern = [&](const QStringList &lines) { reminder = lines; };
