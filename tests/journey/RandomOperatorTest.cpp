@@ -1,0 +1,229 @@
+#include "core/RaceFiles.h"
+#include "platform/Files.h"
+#include "platform/qt/CellLabel.h"
+#include "raceprep/RaceCopy.h"
+#include "support/RoofTest.h"
+
+#include <QClipboard>
+#include <QComboBox>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QMap>
+#include <QRegularExpression>
+#include <QSet>
+
+#include <random>
+
+// Somebody presses and types whatever there is. VEXT_OPERATOR_SEED and VEXT_OPERATOR_SECONDS choose another or a longer
+// run; with VEXT_OPERATOR_TRACE each step is told before it is taken.
+
+namespace {
+
+using Files = QMap<QString, QByteArray>;
+
+/// What is pasted, beside long ones: each is meant to hurt some field.
+const auto Pasted =
+    QStringLiteral("|0|-1|1|7|21|83,45|1.5|-0.00001|1E-05|1,7976931348623157E+308|-1E+308|32768|2147483648|"
+                   "29.2.2023|1.1.1|31.12.9999|83|BÄR Änne-Łucja ß€|eins, zwei; \"drei\" %1 %2 <b>&x|"
+                   "oben\nunten\tdaneben\r|   |Logo.jpg");
+const QStringList Texts = Pasted.split(QLatin1Char('|'))
+                          << QString(400, QLatin1Char('9')) << QString(300, QLatin1Char('W'));
+
+constexpr Qt::Key Keys[] = {Qt::Key_Tab,  Qt::Key_Backtab, Qt::Key_Return, Qt::Key_Space, Qt::Key_Escape,
+                            Qt::Key_Down, Qt::Key_Up,      Qt::Key_Home,   Qt::Key_End,   Qt::Key_PageDown,
+                            Qt::Key_5,    Qt::Key_Comma,   Qt::Key_Minus,  Qt::Key_A,     Qt::Key_Delete};
+
+/// Faults that are told: they end the program, and the operator's work is rescued.
+const QStringList ToldFaults = {};
+
+int setting(const char *name, int otherwise) {
+  return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : otherwise;
+}
+
+class RandomOperator : public RoofTest {
+protected:
+  ~RandomOperator() override { programm.reset(); }
+
+  int below(qsizetype limit) { return int(random() % unsigned(limit)); }
+  template <typename List> const auto &oneOf(const List &list) { return std::begin(list)[below(std::size(list))]; }
+  bool sometimes(int percent) { return below(100) < percent; }
+
+  void startAnew() {
+    programm.reset();
+    own = std::make_unique<TestStore>();
+    own->takeOver(QStringLiteral(VEXT_BEISPIEL));
+    for (const char *name : {"Notizen.txt", "R 77.dat alt", "K 1.lst~"})
+      own->writeFile(QLatin1String(name), "bleibt");
+    own->store.nachDemSpeichern = [this] { readAgain(); };
+    RoofTest::start(own->store);
+  }
+
+  // What was saved is read again as it stood. In the R file the told comma of the points makes lines slip.
+  void readAgain() {
+    Store again(own->umgebung);
+    again.DatenOrdner = own->store.DatenOrdner;
+    again.AktRennen = own->store.AktRennen;
+    ASSERT_NO_THROW(RennDatenLaden(again));
+    const auto read = raceFiles(again);
+    for (const auto &file : raceFiles(own->store))
+      EXPECT_TRUE(file.letter == 'R' || read.contains(file)) << file.letter << again.AktRennen;
+  }
+
+  Files files() const {
+    Files all;
+    const QDir folder(own->folder.path());
+    for (const QString &name : folder.entryList(QDir::Files))
+      all[name] = readFile(folder.filePath(name));
+    return all;
+  }
+
+  QList<QWidget *> windows() {
+    QList<QWidget *> all;
+    for (auto *widget : QApplication::topLevelWidgets())
+      if (widget->isVisible() && qobject_cast<Screen *>(widget))
+        all << widget;
+    std::sort(all.begin(), all.end(), [](auto *a, auto *b) { return a->objectName() < b->objectName(); });
+    return all;
+  }
+
+  QList<QWidget *> controls(const QWidget *window) {
+    QList<QWidget *> all;
+    for (auto *child : window->findChildren<QWidget *>())
+      if (child->isVisible() && child->isEnabled() && !child->objectName().startsWith(QLatin1String("qt_")) &&
+          (qobject_cast<QAbstractButton *>(child) || qobject_cast<QLineEdit *>(child) ||
+           qobject_cast<QComboBox *>(child) || qobject_cast<LineList *>(child) || qobject_cast<CellLabel *>(child)))
+        all << child;
+    return all;
+  }
+
+  void tell(const QWidget *widget, const QString &what) {
+    last = widget->window()->objectName() + QLatin1Char('.') + widget->objectName() + QLatin1Char(' ') + what;
+    if (qEnvironmentVariableIsSet("VEXT_OPERATOR_TRACE"))
+      std::fprintf(stderr, "%s\n", qPrintable(last));
+  }
+
+  void clickLine(LineList *list) {
+    const int line = below(std::max<qsizetype>(list->lines().size(), 1));
+    list->scrollTo(list->model()->index(line, 0));
+    const QPoint place = list->visualRect(list->model()->index(line, 0)).center();
+    tell(list, QStringLiteral("line %1").arg(line));
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
+    if (sometimes(20))
+      QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
+  }
+
+  // Pasted, as a person may do it from a table; Ctrl+V takes everything that the clipboard has.
+  void paste(QLineEdit *field) {
+    const QString text = oneOf(Texts);
+    tell(field, text.left(40));
+    QTest::mouseClick(field, Qt::LeftButton);
+    field->selectAll();
+    QApplication::clipboard()->setText(text);
+    QTest::keyClick(field, Qt::Key_V, Qt::ControlModifier);
+    if (sometimes(30))
+      QTest::keyClick(field, Qt::Key_Return);
+  }
+
+  void press(QWidget *control) {
+    tell(control, QStringLiteral("press"));
+    QTest::mouseClick(control, Qt::LeftButton, {}, {8, control->height() / 2});
+  }
+
+  void pressKeys(QWidget *control) {
+    for (int count = 1 + below(4); count > 0 && control; --count, control = QApplication::focusWidget()) {
+      const Qt::Key key = oneOf(Keys);
+      tell(control, QStringLiteral("key %1").arg(key, 0, 16));
+      QTest::keyClick(control, key);
+    }
+  }
+
+  void work(QWidget *control) {
+    if (auto *list = qobject_cast<LineList *>(control))
+      clickLine(list);
+    else if (auto *field = qobject_cast<QLineEdit *>(control))
+      paste(field);
+    else if (qobject_cast<QComboBox *>(control))
+      control->setFocus(Qt::TabFocusReason);
+    else
+      press(control);
+    if (sometimes(30) && QApplication::focusWidget())
+      pressKeys(QApplication::focusWidget());
+  }
+
+  void act() {
+    auto *window = oneOf(windows());
+    window->activateWindow();
+    QCoreApplication::processEvents();
+    const auto all = controls(window);
+    if (all.isEmpty() || sometimes(3)) {
+      tell(window, QStringLiteral("close"));
+      window->close();
+    } else {
+      work(oneOf(all));
+    }
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+
+  /// The numbers of the races whose files may be written now.
+  QSet<int> open() {
+    QSet<int> numbers{own->store.AktRennen};
+    if (window("CupKopie"))
+      numbers << copyNumber(text("CupKopie", "Text2")).value_or(0);
+    return numbers;
+  }
+
+  static bool mayChange(const QString &name, const QSet<int> &races) {
+    static const QRegularExpression common(
+        QStringLiteral("\\A(Verein|Laeufer|Rennen)\\.rec\\z|\\A(Vext|TopLeft|Cup|werbung)\\.dat\\z"));
+    static const QRegularExpression ofRace(QStringLiteral("\\A[RZKMG] ([0-9]+)\\.(dat|lst)\\z"));
+    const auto match = ofRace.match(name);
+    return common.match(name).hasMatch() || (match.hasMatch() && races.contains(match.captured(1).toInt()));
+  }
+
+  void expectOthersUntouched(const Files &before, const QSet<int> &races) {
+    const Files after = files();
+    QStringList names = before.keys() + after.keys();
+    names.removeDuplicates();
+    for (const QString &name : names) {
+      const bool same = before.value(name) == after.value(name) && before.contains(name) == after.contains(name);
+      EXPECT_TRUE(same || mayChange(name, races)) << name.toStdString();
+    }
+  }
+
+  void step() {
+    const Files before = files();
+    const auto races = open();
+    try {
+      act();
+      expectOthersUntouched(before, races | open());
+      if (windows().isEmpty())
+        startAnew();
+    } catch (const Fault &fault) {
+      EXPECT_TRUE(std::any_of(ToldFaults.begin(), ToldFaults.end(), [&](const QString &told) {
+        return fault.report().contains(told);
+      })) << fault.what();
+      ++faults;
+      startAnew();
+    }
+  }
+
+  std::mt19937 random;
+  std::unique_ptr<TestStore> own;
+  QString last;
+  int faults = 0;
+};
+
+} // namespace
+
+TEST_F(RandomOperator, HurtsNothing) {
+  const int seed = setting("VEXT_OPERATOR_SEED", 1);
+  random.seed(unsigned(seed));
+  const QDeadlineTimer end(1000 * setting("VEXT_OPERATOR_SECONDS", 10));
+  startAnew();
+  int steps = 0;
+  for (; !end.hasExpired() && !HasFailure(); ++steps)
+    step();
+  EXPECT_FALSE(HasFailure()) << last.toStdString();
+  std::printf("seed %d: %d steps, %d told faults\n", seed, steps, faults);
+}
