@@ -11,6 +11,7 @@
 #include "safety/Safety.h"
 
 #include <QIcon>
+#include <QPointer>
 #include <QSettings>
 
 #include <chrono>
@@ -82,7 +83,8 @@ int run(Store &store, Safety &safety, DiskWorker &worker) {
                     {pdfPrinter(QStringLiteral("Ausdrucke"), QDateTime::currentDateTime), preview.printer()});
   preview.offer(printers);
   Programm programm(store, printers);
-  safety.screens = [&programm] { return programm.openWork(); };
+  // The screens are gone when a fault of the very end is reported.
+  safety.screens = [screens = QPointer(&programm)] { return screens ? screens->openWork() : QList<SavedFile>(); };
   safety.waitAtSave = [&worker] {
     const BusyPointer busy;
     worker.wait();

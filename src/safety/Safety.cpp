@@ -185,7 +185,7 @@ void Safety::finish() {
   m_worker.wait();
   m_worker.rethrow();
   if (m_active)
-    m_running.clear();
+    clearRunning();
   m_lock.release();
 }
 
@@ -199,6 +199,14 @@ QString Safety::rescue() noexcept {
     return rescueWork();
   } catch (const std::exception &e) {
     return QStringLiteral("Die offene Veranstaltung konnte nicht gesichert werden: ") + QString::fromUtf8(e.what());
+  }
+}
+
+// One that stays is found to hold no news.
+void Safety::clearRunning() {
+  try {
+    m_running.clear();
+  } catch (const Fault &) {
   }
 }
 

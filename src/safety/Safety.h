@@ -81,6 +81,7 @@ private:
   QString putIntoRescue(const RunningCopy::Found &found);
   QString rescueWork();
   QString rescueImage(const RaceImage &image);
+  void clearRunning();
   void forgetFailures();
   void tell();
 
