@@ -1,5 +1,6 @@
 #include "Programm.h"
 #include "core/Start.h"
+#include "platform/Settings.h"
 #include "platform/print/PdfFile.h"
 #include "platform/qt/Application.h"
 #include "platform/qt/BusyPointer.h"
@@ -12,16 +13,10 @@
 
 #include <QIcon>
 #include <QPointer>
-#include <QSettings>
 
 #include <chrono>
 
 namespace {
-
-QString organisation() {
-  const QSettings settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("VEXT"), QStringLiteral("VEXT"));
-  return settings.value(QStringLiteral("OrganisationName"), QStringLiteral("Rennbüro")).toString();
-}
 
 void setUp(Application &application) {
   QApplication::setOrganizationName(QStringLiteral("VEXT"));
@@ -34,7 +29,7 @@ void setUp(Application &application) {
 void setUp(Store &store) {
   store.umgebung.piep = [] { QApplication::beep(); };
   store.umgebung.zufall.seed(unsigned(std::chrono::system_clock::now().time_since_epoch().count()));
-  store.OrganisationName = organisation();
+  store.OrganisationName = Settings::organisationName();
   storeStarten(store);
 }
 
