@@ -56,7 +56,11 @@ void Programm::start() {
   m_menu = new Form1(m_desk, m_store);
   adopt(*m_menu);
   connect(m_menu, &Form1::oeffnet, this, &Programm::open);
-  connect(m_menu, &Screen::closed, this, [] { QCoreApplication::exit(); });
+  connect(m_menu, &Screen::closed, this, [this] {
+    if (m_reminder)
+      m_reminder->close();
+    QCoreApplication::exit();
+  });
   m_desk.show(*m_menu);
 }
 

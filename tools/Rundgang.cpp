@@ -14,6 +14,7 @@
 #include <QIcon>
 #include <QLineEdit>
 #include <QProcess>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -346,6 +347,7 @@ void makeTour(const QDir &example, const QDir &pictures) {
   const QTemporaryDir data;
   copyFiles(example, QDir(data.path()));
   QDir::setCurrent(data.path());
+  QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, data.path());
   Umgebung umgebung;
   umgebung.heute = [] { return QDate(2026, 1, 15); };
   Store store(umgebung);
@@ -360,7 +362,8 @@ void makeTour(const QDir &example, const QDir &pictures) {
 } // namespace
 
 int main(int argc, char **argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" VEXT_MONITOR);
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   Look::apply(application);

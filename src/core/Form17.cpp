@@ -27,7 +27,7 @@ void Form17::erinnern(const QStringList &lines) {
 }
 
 void Form17::comeForward() {
-  showNormal();
+  comeBack();
   raise();
 }
 

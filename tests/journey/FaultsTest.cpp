@@ -39,6 +39,7 @@ protected:
   void start(const QString &steps) {
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("XDG_DATA_HOME"), home.path());
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home.path());
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     environment.insert(QStringLiteral("QT_QPA_GENERIC_PLUGINS"), QStringLiteral("operator"));
     environment.insert(QStringLiteral("QT_PLUGIN_PATH"), QStringLiteral(VEXT_PLUGINS));

@@ -14,6 +14,8 @@
 // OPERATOR_ANSWERS holds further lines, each done whenever its window stands. OPERATOR_LOG names a file to which a line
 // for each is added once it is done: "step" or "answer", milliseconds, how many microseconds it took, the line itself.
 // An operator whose next step stays impossible for twenty seconds gives up and ends the program.
+//
+// OPERATOR_PACE is the time before each step in ms, 10 by default; a window manager needs a person's.
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -26,6 +28,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <map>
@@ -36,7 +39,6 @@ namespace {
 using namespace std::chrono;
 using Action = void (*)(QWidget *, const QString &);
 
-constexpr auto Pace = 10ms;
 constexpr int Patience = 2000; // looks
 constexpr int GivenUp = 99;
 
@@ -125,7 +127,7 @@ void act(const char *what, const Step &step, QWidget *target) {
 
 class Operator : public QObject {
 public:
-  Operator() { next(Pace); }
+  Operator() { next(m_pace); }
 
 private:
   // The next step is planned before this one is done, since a step may open a window that waits for an answer.
@@ -140,19 +142,19 @@ private:
         return act("answer", answer, window);
       }
     if (m_steps.isEmpty())
-      return next(Pace);
+      return next(m_pace);
     const Step step = m_steps.first();
     auto *target = find(step.target());
     if (!isReady(target, step))
       return wait(step);
     m_looks = 0;
     m_steps.removeFirst();
-    next(Pace + step.pause());
+    next(m_pace + step.pause());
     act("step", step, target);
   }
 
   void wait(const Step &step) {
-    next(Pace);
+    next(m_pace);
     if (++m_looks < Patience)
       return;
     std::fprintf(stderr, "The operator waits in vain: %s\n", step.text.toUtf8().constData());
@@ -161,6 +163,7 @@ private:
 
   QList<Step> m_steps = stepsOf("OPERATOR_STEPS"), m_answers = stepsOf("OPERATOR_ANSWERS");
   int m_looks = 0;
+  const milliseconds m_pace{std::max(10, qEnvironmentVariableIntValue("OPERATOR_PACE"))};
 };
 
 class OperatorPlugin : public QGenericPlugin {

@@ -55,6 +55,7 @@ protected:
   }
   void chooseLine(const char *screen, const char *name, int line) {
     auto *list = control<LineList>(screen, name);
+    list->scrollTo(list->model()->index(line, 0));
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(line, 0)).center());
   }
 

@@ -4,6 +4,7 @@
 #include "platform/qt/FieldGuard.h"
 
 #include <QPointer>
+#include <QSize>
 
 #include <functional>
 
@@ -24,6 +25,9 @@ public:
 
   /// What was typed into a field that has not been left, with the field and whom it is about; empty if nothing was.
   QString openInput() const;
+  /// How much larger the frame of a window is than the window, as far as it is known yet.
+  QSize frame() const { return m_frame; }
+  void setFrame(QSize frame) { m_frame = frame; }
 
   /// Shows a screen on top and makes it active.
   void show(Screen &screen);
@@ -44,4 +48,5 @@ private:
   std::function<void()> m_savePlaces;
   QPointer<Screen> m_active;
   QString m_hint;
+  QSize m_frame{4, 28};
 };

@@ -1,18 +1,20 @@
 #include "platform/qt/Screen.h"
 
+#include "platform/Settings.h"
 #include "platform/qt/Desk.h"
 #include "platform/qt/HintLine.h"
 #include "platform/qt/LineList.h"
 #include "platform/qt/Look.h"
+#include "platform/qt/ScrollBody.h"
 
 #include <QAbstractButton>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QGuiApplication>
-#include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QVBoxLayout>
 #include <QValidator>
 #include <QWindow>
 
@@ -22,14 +24,12 @@ namespace {
 
 constexpr int UnitsAPixel = 15; // places are told in 1/1440 inch, a pixel is 1/96 inch
 
-// A place off all monitors, from one that is no longer there, is moved in.
+// The monitor may have become smaller or be gone since the place was stored. `size` is that of the frame.
 QPoint heldOnScreen(QPoint place, QSize size) {
   const QScreen *screen = QGuiApplication::screenAt(place);
-  if (screen)
-    return place;
-  const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
-  return {std::clamp(place.x(), area.left(), std::max(area.left(), area.right() - size.width())),
-          std::clamp(place.y(), area.top(), std::max(area.top(), area.bottom() - size.height()))};
+  const QRect area = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+  return {std::max(area.left(), std::min(place.x(), area.right() + 1 - size.width())),
+          std::max(area.top(), std::min(place.y(), area.bottom() + 1 - size.height()))};
 }
 
 /// A pasted text may hold line breaks, which would tear the lines of a file apart.
@@ -61,20 +61,23 @@ void Screen::setUp() {
     combo->setFocusPolicy(Qt::StrongFocus);
     combo->installEventFilter(this);
   }
-  for (auto *field : findChildren<QLineEdit *>())
+  for (auto *field : findChildren<QLineEdit *>()) {
     field->setValidator(new SingleLine(field));
-  addHint();
-  if (m_row > 0)
-    takePlace();
+    field->installEventFilter(this);
+  }
+  makeFoot();
 }
 
-// It takes the place of the lower margin.
-void Screen::addHint() {
+// The hint takes the place of the lower margin.
+void Screen::makeFoot() {
+  auto *form = static_cast<QVBoxLayout *>(layout());
+  if (form->count() > 1)
+    new ScrollBody(*form);
   auto *hint = new HintLine(this);
-  QMargins margins = layout()->contentsMargins();
+  QMargins margins = form->contentsMargins();
   margins.setBottom(2);
-  layout()->setContentsMargins(margins);
-  layout()->addWidget(hint);
+  form->setContentsMargins(margins);
+  form->addWidget(hint);
   hint->setHint(m_desk.hint());
   connect(&m_desk, &Desk::hintChanged, hint, &HintLine::setHint);
 }
@@ -109,11 +112,27 @@ void Screen::setControlVisible(QWidget *control, bool visible, QWidget *instead)
   control->setVisible(visible);
 }
 
+// A stored size may be larger than the monitor of today.
+void Screen::takeSize() {
+  const QSize stored = Settings::windowSize(objectName());
+  const QSize frame = m_desk.frame();
+  const QSize wanted = stored.isValid() ? stored : testAttribute(Qt::WA_Resized) ? size() : sizeHint();
+  resize(wanted.boundedTo(screen()->availableGeometry().size() - frame).expandedTo(minimumSizeHint()));
+  m_ownSize = size();
+}
+
+// The place is that of the frame. It is told to the native window too, as move() alone would put the contents there
+// before the first showing, and tell the window system nothing after hiding to where it is.
 void Screen::takePlace() {
-  const int left = m_desk.places().FensterLeft[m_row];
-  const int top = m_desk.places().FensterTop[m_row];
-  if (left != 0 || top != 0)
-    move(heldOnScreen({left / UnitsAPixel, top / UnitsAPixel}, size().expandedTo(sizeHint())));
+  QPoint place = m_leftAt;
+  if (place.isNull() && m_row > 0)
+    place = QPoint(m_desk.places().FensterLeft[m_row], m_desk.places().FensterTop[m_row]) / double(UnitsAPixel);
+  if (place.isNull())
+    return;
+  place = heldOnScreen(place, size() + m_desk.frame());
+  move(place);
+  create();
+  windowHandle()->setFramePosition(place);
 }
 
 // A screen that was never visible leaves its row alone.
@@ -123,21 +142,35 @@ void Screen::storePlace() {
     m_desk.places().FensterTop[m_row] = y() * UnitsAPixel;
   }
   m_desk.savePlaces();
+  if (m_placed && !isMaximized() && size() != m_ownSize)
+    Settings::setWindowSize(objectName(), size());
 }
 
-void Screen::showEvent(QShowEvent *event) {
-  m_placed = true;
-  QWidget::showEvent(event);
+void Screen::setVisible(bool visible) {
+  if (visible && !isVisible()) {
+    if (!m_placed)
+      takeSize();
+    takePlace();
+    m_placed = true;
+  }
+  QWidget::setVisible(visible);
 }
 
 void Screen::comeBack() {
-  if (m_hiddenAt && !isVisible() && windowHandle() != nullptr)
-    windowHandle()->setFramePosition(*m_hiddenAt); // move() to where it is would tell the window system nothing
+  if (isMinimized())
+    setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
+}
+
+// A screen is left by hiding or closing; how large its frame is holds for the others.
+void Screen::noteWhereItIs() {
+  m_leftAt = pos();
+  m_desk.setFrame(frameSize() - size());
 }
 
 void Screen::closeEvent(QCloseEvent *event) {
   m_desk.guard().flush(this);
+  noteWhereItIs();
   storePlace();
   closing();
   Q_EMIT closed();
@@ -147,7 +180,7 @@ void Screen::closeEvent(QCloseEvent *event) {
 void Screen::hideEvent(QHideEvent *event) {
   if (!event->spontaneous()) {
     m_desk.guard().flush(this);
-    m_hiddenAt = pos();
+    noteWhereItIs();
   }
   QWidget::hideEvent(event);
 }
@@ -167,12 +200,25 @@ bool Screen::eventFilter(QObject *watched, QEvent *event) {
     event->ignore();
     return true;
   }
+  if (auto *field = qobject_cast<QLineEdit *>(watched))
+    selectOnEntry(*field, *event);
   if (event->type() == QEvent::KeyPress) {
     const int key = static_cast<QKeyEvent *>(event)->key();
     if ((key == Qt::Key_Return || key == Qt::Key_Enter) && pressReturn(watched))
       return true;
   }
   return QWidget::eventFilter(watched, event);
+}
+
+// The press that brings the focus selects the whole text, unless it was drawn over a part of it.
+void Screen::selectOnEntry(QLineEdit &field, const QEvent &event) {
+  if (event.type() == QEvent::FocusIn)
+    m_pressed = static_cast<const QFocusEvent &>(event).reason() == Qt::MouseFocusReason ? &field : nullptr;
+  if (event.type() != QEvent::MouseButtonRelease)
+    return;
+  if (m_pressed == &field && !field.hasSelectedText())
+    field.selectAll();
+  m_pressed = nullptr;
 }
 
 bool Screen::pressReturn(QObject *watched) {

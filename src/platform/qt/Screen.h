@@ -6,14 +6,14 @@
 #include <QWidget>
 
 #include <functional>
-#include <optional>
 
 class Desk;
 class QLineEdit;
 
 /// Base of all screens, which are top-level windows. It does for each of them: the window's place in the table of
-/// places, storing a field when the focus leaves it (see FieldGuard), Enter and the blank key, the order of closing,
-/// the wheel that changes no combo without the focus, the hint line, and sizes that follow the font.
+/// places and its size, scrolling on small monitors, storing a field when the focus leaves it (see FieldGuard), Enter
+/// and the blank key, the order of closing, the wheel that changes no combo without the focus, the hint line, and sizes
+/// that follow the font.
 ///
 /// A screen is made anew each time it opens and destroyed after it has closed; who opens which is known to the roof
 /// alone.
@@ -33,8 +33,11 @@ public:
   /// Whom its fields are about, as "Nr. 28"; empty where the title says it.
   virtual QString subject() const { return {}; }
 
-  /// Shows the screen; one that was hidden stands where it stood, whatever the window system would like.
+  /// Shows the screen, also one that the operator has made an icon.
   void comeBack();
+  /// A screen opens at the size and place where it was left, as far as the monitor holds it, whatever the window system
+  /// would like.
+  void setVisible(bool visible) override;
 
 Q_SIGNALS:
   /// The closing steps have run; the roof shows the opener again.
@@ -67,17 +70,21 @@ protected:
   void hideEvent(QHideEvent *event) override;
   bool event(QEvent *event) override;
   bool eventFilter(QObject *watched, QEvent *event) override;
-  void showEvent(QShowEvent *event) override;
 
 private:
-  void addHint();
+  void makeFoot();
+  void takeSize();
   void takePlace();
+  void noteWhereItIs();
   void storePlace();
+  void selectOnEntry(QLineEdit &field, const QEvent &event);
   bool pressReturn(QObject *watched);
 
   Desk &m_desk;
   int m_row;
   QHash<QObject *, std::function<void()>> m_return;
   bool m_placed = false;
-  std::optional<QPoint> m_hiddenAt;
+  QPoint m_leftAt;              // of the frame; null before the first hiding
+  QSize m_ownSize;              // that it opened with
+  QObject *m_pressed = nullptr; // the field that a press has just brought the focus to
 };
