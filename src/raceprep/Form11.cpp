@@ -32,6 +32,7 @@ void Form11::connectSide(const Side &side) {
     side.number->setText(plainText(number() + 1));
     enterField(side.number);
   });
+  side.list->showWholeLines(); // a name may end in a number of its own
   const auto fill = [side] { side.list->fill(nameLines(side.names)); };
   onLeave(side.name, fill);
   fill();

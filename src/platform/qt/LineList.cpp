@@ -1,6 +1,7 @@
 #include "platform/qt/LineList.h"
 
 #include "platform/Numbers.h"
+#include "platform/qt/Look.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -15,7 +16,8 @@ namespace {
 
 constexpr int NumberLength = 6;
 constexpr int GapBeforeNumber = 5;
-constexpr int GoodHeight = 22; // lines
+constexpr int GoodHeight = 22;      // lines
+constexpr int SmallestPercent = 80; // of the good width
 
 /// Where the trailing number of a line begins; nothing if the line has none.
 std::optional<qsizetype> numberStart(const QString &line) {
@@ -26,6 +28,13 @@ std::optional<qsizetype> numberStart(const QString &line) {
   if (start == line.size() || gap < 0 || !trimmedBlanks(QStringView(line).sliced(gap, GapBeforeNumber)).isEmpty())
     return {};
   return start;
+}
+
+/// What stands before the number, without the blanks between.
+QString withoutGap(const QString &line, qsizetype numberStart) {
+  while (numberStart > 0 && line[numberStart - 1] == QLatin1Char(' '))
+    --numberStart;
+  return line.left(numberStart);
 }
 
 /// Draws the number at the end of a line pale at the right edge, if there is room.
@@ -40,15 +49,12 @@ public:
     if (!start || numbers != Numbers::Pale)
       return;
     const QRect area = option.rect.adjusted(0, 0, -6, 0);
-    if (option.fontMetrics.horizontalAdvance(trimmedBlanks(line.left(*start)) + line.mid(*start - 1)) > area.width())
+    if (option.fontMetrics.horizontalAdvance(withoutGap(line, *start) + line.mid(*start - 1)) > area.width())
       return;
     const bool chosen = option.state.testFlag(QStyle::State_Selected);
     painter->setFont(option.font);
     painter->setPen(option.palette.color(chosen ? QPalette::HighlightedText : QPalette::PlaceholderText));
-    if (!chosen)
-      painter->setOpacity(0.6);
     painter->drawText(area, int(Qt::AlignRight | Qt::AlignVCenter), line.mid(*start));
-    painter->setOpacity(1);
   }
 
   enum class Numbers { Pale, Hidden, PartOfTheLine } numbers = Numbers::Pale;
@@ -128,8 +134,13 @@ int LineList::lineOfNumber(int number) const {
   return found == lines().end() ? -1 : int(found - lines().begin());
 }
 
+void LineList::setGoodWidth(int lines) {
+  m_goodWidth = lines + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+  setMinimumWidth(m_goodWidth * SmallestPercent / 100);
+}
+
 QSize LineList::sizeHint() const {
-  return {QListView::sizeHint().width(), GoodHeight * fontMetrics().height()};
+  return {m_goodWidth > 0 ? m_goodWidth : QListView::sizeHint().width(), GoodHeight * fontMetrics().height()};
 }
 
 void LineList::currentChanged(const QModelIndex &current, const QModelIndex &previous) {
@@ -170,8 +181,7 @@ bool LineList::event(QEvent *event) {
   const bool handled = QListView::event(event);
   if (event->type() == QEvent::Paint && hasFocus()) {
     QPainter painter(this);
-    painter.setPen(palette().color(QPalette::Highlight));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    Look::drawFrame(painter, rect(), palette().color(QPalette::Highlight));
   }
   return handled;
 }

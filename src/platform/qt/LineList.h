@@ -43,6 +43,8 @@ public:
   const QStringList &lines() const { return m_model.lines(); }
   /// The highlighted line, from 0; −1 = none.
   int chosenLine() const { return currentIndex().row(); }
+  /// The width of its lines in pixels; on a small monitor it gives way a little.
+  void setGoodWidth(int lines);
   QSize sizeHint() const override;
   /// The press that follows before the next painting aims at the lines as they are now, whatever fills the list until
   /// then: it finds its line again by the number at the end.
@@ -70,6 +72,7 @@ private:
   QModelIndex aimedAt(QPoint at);
 
   LineModel m_model;
+  int m_goodWidth = 0;
   bool m_byCode = false;
   QStringList m_aimedLines;
 };

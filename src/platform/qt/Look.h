@@ -3,6 +3,8 @@
 #include <QColor>
 
 class QApplication;
+class QPainter;
+class QRect;
 class QWidget;
 
 /// How VEXT looks, in one place: its own light palette on every desktop, fonts, and sizes that follow the font.
@@ -12,6 +14,8 @@ namespace Look {
 void apply(QApplication &application);
 /// Sizes and captions by the dynamic properties of the controls; once for each screen.
 void applyProperties(QWidget *screen);
+/// A line of one pixel along the inner edge of an area.
+void drawFrame(QPainter &painter, const QRect &area, QColor color);
 /// Colours the ground of a field, with dark letters whatever the desktop's theme.
 void setGround(QWidget *field, QColor ground);
 /// The ground of a field as the palette has it.
