@@ -26,7 +26,7 @@ void setPosition(QComboBox *combo, int position) {
 // Controls that come and go leave the others where they are.
 void keepPlaces(std::initializer_list<QFrame *> cards) {
   for (const QFrame *card : cards)
-    for (auto *control : card->findChildren<QWidget *>()) {
+    for (auto *control : card->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
       QSizePolicy policy = control->sizePolicy();
       policy.setRetainSizeWhenHidden(true);
       control->setSizePolicy(policy);
@@ -201,7 +201,7 @@ void Form6::showFields(bool shown) {
 
 void Form6::showNobody() {
   m_row = 0;
-  for (QLabel *label : {ui->Label6, ui->Label8, ui->Label16, ui->Label13})
+  for (QLabel *label : std::initializer_list<QLabel *>{ui->Label6, ui->Label8, ui->Label16, ui->Label13})
     label->clear();
   ui->Label2->setText(NobodySelected);
   Look::resetGround(ui->Label2);
@@ -252,7 +252,7 @@ void Form6::deleteNumbers() {
 }
 
 void Form6::teilnehmerWaehlen(int row) {
-  for (QLabel *label : {ui->Label5, ui->Label16, ui->Label14, ui->Label13})
+  for (QLabel *label : std::initializer_list<QLabel *>{ui->Label5, ui->Label16, ui->Label14, ui->Label13})
     label->hide();
   const int line = ui->List1->lineOfNumber(row);
   if (line < 0)

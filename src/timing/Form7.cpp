@@ -66,7 +66,7 @@ Form7::~Form7() = default;
 void Form7::hideUnused() {
   for (QWidget *control : secondRunControls())
     control->hide();
-  for (QWidget *control : {ui->Label21, ui->Label22, ui->Label23, ui->Label24}) {
+  for (QWidget *control : std::initializer_list<QWidget *>{ui->Label21, ui->Label22, ui->Label23, ui->Label24}) {
     QSizePolicy policy = control->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     control->setSizePolicy(policy);
