@@ -55,7 +55,7 @@ QList<QByteArray> readManifest(const QString &copy) {
 std::optional<QByteArray> bytesMatching(const QByteArray &line, const QString &path) {
   try {
     auto bytes = readIfThere(path);
-    return bytes && line.first(HashLength) == hashOf(*bytes) ? bytes : std::nullopt;
+    return bytes && line.startsWith(hashOf(*bytes)) ? bytes : std::nullopt;
   } catch (const Fault &) {
     return {};
   }
@@ -64,9 +64,10 @@ std::optional<QByteArray> bytesMatching(const QByteArray &line, const QString &p
 void take(RunningCopy::Found &found, const QByteArray &line) {
   const auto name = QString::fromUtf8(line.mid(HashLength + 1));
   const auto bytes = bytesMatching(line, found.folder + QLatin1Char('/') + name);
-  if (!bytes)
+  const bool replaced = name.startsWith(Before);
+  if (!bytes || (replaced && !found.image.before))
     found.unreadable << name;
-  else if (name.startsWith(Before))
+  else if (replaced)
     found.image.before->append({name.mid(Before.size()), *bytes});
   else
     found.image.files.append({name, *bytes});

@@ -4,7 +4,6 @@
 #include "core/Classes.h"
 #include "core/RaceFiles.h"
 #include "core/RecordFiles.h"
-#include "core/RunningCopy.h"
 #include "core/SingleTimes.h"
 #include "core/Start.h"
 #include "core/ValueFormats.h"
@@ -20,7 +19,10 @@
 #include "raceprep/ClassRules.h"
 #include "raceprep/ParticipantList.h"
 #include "raceprep/StartNumbers.h"
+#include "safety/RunningCopy.h"
 #include "timing/Ranking.h"
+
+#include <QCryptographicHash>
 
 #include <cmath>
 #include <cstdio>
@@ -109,12 +111,14 @@ void rank(Store &store) {
 void readSingleTimes(Store &store) {
   store.AktRennen = 1;
   singleTimesLaden(store);
-  singleTimesSpeichern(store);
-  singleTimesLaden(store);
 }
 
+// With a hash of its own at its end, or hardly any manifest would be looked into. One put aside stays where it is.
 void readRunningCopy(Store &) {
-  RunningCopy(QStringLiteral("Laufend")).newest();
+  const auto path = QStringLiteral("Beschaedigt/00000001/Inhalt.txt");
+  const QByteArray lines = readIfThere(path).value_or(QByteArray());
+  writeFile(path, lines + QCryptographicHash::hash(lines, QCryptographicHash::Sha1).toHex() + '\n');
+  RunningCopy(QStringLiteral(".")).leftBehind();
 }
 
 void convertValue(double value) {
@@ -162,7 +166,7 @@ const Reader Readers[] = {
     {"TopLeft.dat", storeStarten},
     {"Cup.dat", [](Store &store) { cupSpeichern(store, cupLaden(store)); }},
     {"werbung.dat", [](Store &store) { WerbungSchreiben(store, WerbungLesen(store)); }},
-    {"Laufend/00000001/Inhalt.txt", readRunningCopy},
+    {"Beschaedigt/00000001/Inhalt.txt", readRunningCopy},
     {"Zahlen", nullptr},
 };
 
