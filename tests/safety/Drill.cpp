@@ -14,6 +14,8 @@ namespace {
 
 constexpr int Patience = 60'000; // milliseconds
 constexpr double Never = 1e9;
+/// In place of an exit code: the program did not end. The code of a death is the negative signal.
+constexpr int Hung = 1000;
 /// What may be lost of the typing: the time between two running copies, and what the timer may be late.
 constexpr long Promise = 2000, Lateness = 100;
 const QStringList JustEnd{QStringLiteral("Form1.Command4 click")};
@@ -85,8 +87,8 @@ Run runProgram(const Place &place, const QStringList &steps, const Mishap &misha
   program.start(QStringLiteral(VEXT_PROGRAM), QStringList());
   Run run;
   const bool ended = program.waitForFinished(Patience);
-  run.killed = ended && program.exitStatus() == QProcess::CrashExit && program.exitCode() == SIGKILL;
-  run.code = ended && program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
+  run.code = !ended ? Hung : program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -program.exitCode();
+  run.killed = run.code == -SIGKILL;
   run.errors = QString::fromUtf8(program.readAllStandardError());
   readLog(run, place.log());
   return run;

@@ -102,28 +102,47 @@ void runAll(const Drill &drill, const std::vector<Case> &cases, size_t each, Tab
     });
 }
 
-} // namespace
+double runSession(const Session &session, size_t each, Table &table) {
+  const Drill drill(session);
+  if (const QString trouble = drill.trouble(); !trouble.isEmpty())
+    qFatal("In peace: %s", qPrintable(trouble));
+  runAll(drill, drill.cases(), each, table);
+  for (const auto &death : table.deathsOf(session))
+    runAll(drill, drill.casesOfNextStart(death), each, table);
+  return drill.slowestTyping(SyncDelay);
+}
 
-// The argument, if there is one, is n for "only each n-th".
-int main(int argc, char **argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QGuiApplication application(argc, argv);
-  const size_t each = argc > 1 ? size_t(std::max(1, atoi(argv[1]))) : 1;
+int runAllSessions(size_t each) {
   Table table;
   double slowest = 0;
-  for (const auto &session : sessions()) {
-    const Drill drill(session);
-    if (const QString trouble = drill.trouble(); !trouble.isEmpty()) {
-      QTextStream(stderr) << "In peace: " << trouble << "\n";
-      return 2;
-    }
-    runAll(drill, drill.cases(), each, table);
-    for (const auto &death : table.deathsOf(session))
-      runAll(drill, drill.casesOfNextStart(death), each, table);
-    slowest = std::max(slowest, drill.slowestTyping(SyncDelay));
-  }
+  for (const auto &session : sessions())
+    slowest = std::max(slowest, runSession(session, each, table));
   table.print();
   QTextStream(stdout) << "\nTyping waited at most, while each sync takes " << SyncDelay << " ms: " << slowest
                       << " ms\n";
   return table.isClean() && slowest < SyncDelay ? 0 : 1;
+}
+
+int runOne(const QStringList &words) {
+  Table table;
+  const auto session = std::find_if(sessions().begin(), sessions().end(),
+                                    [&](const Session &each) { return QString::fromUtf8(each.name) == words.first(); });
+  if (session == sessions().end())
+    return 2;
+  const auto mishap = [&](qsizetype at) { return Mishap{words.value(at).toInt(), words.value(at + 1).toLatin1()}; };
+  const Drill drill(*session);
+  const Findings findings = drill.run({&*session, mishap(1), mishap(3)});
+  QTextStream(stdout) << findings.all().join(QLatin1Char('\n')) << "\n" << findings.account << "\n";
+  return findings.all().isEmpty() ? 0 : 1;
+}
+
+} // namespace
+
+// Without arguments all mishaps, with a number n each n-th; or one: the name of the session, call and act, and call and
+// act for the start after it.
+int main(int argc, char **argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QGuiApplication application(argc, argv);
+  const QStringList words = QGuiApplication::arguments().mid(1);
+  return words.size() > 1 ? runOne(words) : runAllSessions(size_t(std::max(1, words.value(0).toInt())));
 }
