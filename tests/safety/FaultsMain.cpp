@@ -102,21 +102,20 @@ void runAll(const Drill &drill, const std::vector<Case> &cases, size_t each, Tab
     });
 }
 
-double runSession(const Session &session, size_t each, Table &table) {
+void runSession(const Session &session, size_t each, Table &table) {
   const Drill drill(session);
   if (const QString trouble = drill.trouble(); !trouble.isEmpty())
     qFatal("In peace: %s", qPrintable(trouble));
   runAll(drill, drill.cases(), each, table);
   for (const auto &death : table.deathsOf(session))
     runAll(drill, drill.casesOfNextStart(death), each, table);
-  return drill.slowestTyping(SyncDelay);
 }
 
 int runAllSessions(size_t each) {
   Table table;
-  double slowest = 0;
   for (const auto &session : sessions())
-    slowest = std::max(slowest, runSession(session, each, table));
+    runSession(session, each, table);
+  const double slowest = Drill(sessions().front()).slowestTyping(SyncDelay);
   table.print();
   QTextStream(stdout) << "\nTyping waited at most, while each sync takes " << SyncDelay << " ms: " << slowest
                       << " ms\n";
