@@ -54,6 +54,7 @@ protected:
       press(screen, button);
   }
   void chooseLine(const char *screen, const char *name, int line) {
+    window(screen)->activateWindow(); // as a press does
     auto *list = control<LineList>(screen, name);
     list->scrollTo(list->model()->index(line, 0));
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(line, 0)).center());
