@@ -132,10 +132,6 @@ bool isForGood(const Mishap &mishap) {
   return mishap.act.endsWith('+');
 }
 
-bool isDeath(const Mishap &mishap) {
-  return mishap.act == "kill" || mishap.act == "half" || mishap.act == "cut";
-}
-
 /// Until when all that was typed must come back: a fault loses nothing, a death and a disk that is broken for good what
 /// was typed last; what was saved is safe, but for a power cut.
 bool mustComeBack(const Session &session, const Run &run, size_t step, const Mishap &mishap) {
@@ -229,7 +225,7 @@ std::vector<Case> casesOf(const Case &base, Mishap Case::*mishap, const QStringL
 
 bool Run::isAccounted(const Mishap &mishap, size_t wanted) const {
   if (killed)
-    return isDeath(mishap);
+    return mishap.isDeath();
   if (code >= 70 && code <= 72)
     return errors.contains(QStringLiteral("VEXT: "));
   return code == 0 && steps.size() == wanted;

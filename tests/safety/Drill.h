@@ -11,6 +11,7 @@
 struct Mishap {
   int call = 0;
   QByteArray act;
+  bool isDeath() const { return act == "kill" || act == "half" || act == "cut"; }
 };
 
 /// A session with a mishap, then, if it has one too, a start with another; then a start in peace that takes over what
