@@ -106,6 +106,7 @@ QString Safety::Trouble::get() {
 Safety::Safety(Store &store, DiskWorker &worker)
     : waitAtSave([&worker] { worker.wait(); }), m_store(store), m_worker(worker), m_folder(store.DatenOrdner),
       m_running(m_folder.path()), m_copies(m_folder.dataFolder(), m_folder.path() + QStringLiteral("/Kopien")) {
+  m_ticks.setTimerType(Qt::PreciseTimer);
   m_ticks.setInterval(RunningInterval);
   m_ticks.callOnTimeout([this] { tick(); });
   m_copySoon.setSingleShot(true);
