@@ -5,9 +5,19 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 constexpr QSize FrameOfWindow(10, 36); // what a window manager may add
+constexpr int GoodLines = 36;          // a screen with several lists opens no higher than it must
+
+/// Rows that give way: a scroll area would hold them to the height that they like best.
+class Rows : public QVBoxLayout {
+public:
+  using QVBoxLayout::QVBoxLayout;
+  bool hasHeightForWidth() const override { return false; }
+};
 
 void moveRow(QVBoxLayout &from, QVBoxLayout &to) {
   const int stretch = from.stretch(0);
@@ -30,7 +40,7 @@ ScrollBody::ScrollBody(QVBoxLayout &form) : QScrollArea(form.parentWidget()), m_
   setFocusPolicy(Qt::NoFocus);
   setWidgetResizable(true);
   setWidget(new QWidget);
-  auto *rows = new QVBoxLayout(widget());
+  auto *rows = new Rows(widget());
   rows->setContentsMargins({});
   rows->setSpacing(form.spacing());
   while (form.count() > 1)
@@ -39,7 +49,9 @@ ScrollBody::ScrollBody(QVBoxLayout &form) : QScrollArea(form.parentWidget()), m_
 }
 
 QSize ScrollBody::sizeHint() const {
-  return widget()->sizeHint().expandedTo(minimumSizeHint());
+  const QSize wanted = widget()->sizeHint();
+  return QSize(wanted.width(), std::min(wanted.height(), GoodLines * fontMetrics().height()))
+      .expandedTo(minimumSizeHint());
 }
 
 QSize ScrollBody::minimumSizeHint() const {
