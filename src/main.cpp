@@ -50,7 +50,7 @@ bool mayRun(Safety &safety) {
              QStringLiteral("VEXT läuft in diesem Ordner schon einmal.\n\nWer zweimal zugleich in einem Ordner "
                             "arbeitet, überschreibt sich seine Eingaben; das zweite VEXT sichert auch nicht. "
                             "Trotzdem öffnen?"),
-             QStringLiteral("Trotzdem öffnen"), QStringLiteral("nein"));
+             QStringLiteral("Trotzdem öffnen"), QStringLiteral("nein"), true);
 }
 
 void answer(const Safety::Offer &offer) {

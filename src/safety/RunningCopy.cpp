@@ -3,7 +3,7 @@
 #include "platform/Faults.h"
 
 #include <QCryptographicHash>
-#include <QDateTime>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <utility>
@@ -82,7 +82,7 @@ QString markIn(const QString &copy, const QString &mark) {
 }
 
 RunningCopy::Found readCopy(const QString &copy) {
-  RunningCopy::Found found{{}, copy, {}, markIn(copy, RescueMark)};
+  RunningCopy::Found found{{}, copy, {}, markIn(copy, RescueMark), QFileInfo(copy + Manifest).lastModified()};
   QList<QByteArray> lines;
   try {
     lines = readManifest(copy);

@@ -2,6 +2,8 @@
 
 #include "safety/RaceImage.h"
 
+#include <QDateTime>
+
 /// The copy of the work that is renewed while the operator types, in the folder "Laufend". Each is made whole beside
 /// the one before, takes its place by a rename, and only then the one before goes; so at any moment a whole one is
 /// there. A manifest tells what belongs to it, with hashes. What cannot be read whole is put aside, never deleted, and
@@ -17,6 +19,8 @@ public:
     QStringList unreadable;
     /// Folder into which it has been put already; empty if there was none.
     QString rescuedTo;
+    /// When it was made.
+    QDateTime time;
 
     bool isWhole() const { return unreadable.isEmpty(); }
   };

@@ -4,8 +4,6 @@
 #include "core/StateFile.h"
 #include "platform/Faults.h"
 
-#include <QFileInfo>
-
 #include <chrono>
 #include <utility>
 
@@ -56,7 +54,7 @@ QList<SavedFile> newsOf(const RunningCopy::Found &found, const Store &store) {
 }
 
 QString whatHappened(const RunningCopy::Found &found) {
-  const QString when = QFileInfo(found.folder).lastModified().toString(QStringLiteral("dd.MM.yyyy, HH:mm:ss"));
+  const QString when = found.time.toString(QStringLiteral("dd.MM.yyyy, HH:mm:ss"));
   QString text =
       found.rescuedTo.isEmpty()
           ? QStringLiteral("VEXT ist beim letzten Mal nicht ordentlich beendet worden (%1 Uhr).").arg(when)
