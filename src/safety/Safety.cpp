@@ -232,17 +232,8 @@ void Safety::copyAll() {
   m_copySoon.stop();
   if (m_copyInWork.exchange(true))
     return m_copySoon.start(CopyDelay);
-  m_worker.run([this] {
-    try {
-      m_copies.make(QDateTime::currentDateTime(), m_store.umgebung.writing);
-      m_copyTrouble.set({});
-    } catch (const std::exception &e) {
-      m_copyTrouble.set(QStringLiteral("Die Sicherungskopie ist nicht gelungen. ") + QString::fromUtf8(e.what()));
-    }
-    m_copyInWork = false;
-    QMetaObject::invokeMethod(
-        &m_copySoon, [this] { tell(); }, Qt::QueuedConnection);
-  });
+  keepCopying(m_copyInWork, m_copyTrouble, QStringLiteral("Die Sicherungskopie"),
+              [this] { m_copies.make(QDateTime::currentDateTime(), m_store.umgebung.writing); });
 }
 
 void Safety::wait() {
@@ -281,14 +272,20 @@ void Safety::write(const RaceImage &image) {
     return;
   m_handed = image;
   m_runningInWork = true;
-  m_worker.run([this, image] {
+  keepCopying(m_runningInWork, m_runningTrouble, QStringLiteral("Die laufende Sicherung"),
+              [this, image] { m_running.write(image); });
+}
+
+// In the thread of the worker; what came of it is told in the thread of the screens.
+void Safety::keepCopying(std::atomic<bool> &inWork, Trouble &trouble, const QString &what, std::function<void()> copy) {
+  m_worker.run([this, &inWork, &trouble, what, copy = std::move(copy)] {
     try {
-      m_running.write(image);
-      m_runningTrouble.set({});
+      copy();
+      trouble.set({});
     } catch (const std::exception &e) {
-      m_runningTrouble.set(QStringLiteral("Die laufende Sicherung ist nicht gelungen. ") + QString::fromUtf8(e.what()));
+      trouble.set(what + QStringLiteral(" ist nicht gelungen. ") + QString::fromUtf8(e.what()));
     }
-    m_runningInWork = false;
+    inWork = false;
     QMetaObject::invokeMethod(
         &m_ticks, [this] { tell(); }, Qt::QueuedConnection);
   });

@@ -74,6 +74,7 @@ private:
   void beginReplacing(const RaceImage &image);
   void endReplacing();
   void write(const RaceImage &image);
+  void keepCopying(std::atomic<bool> &inWork, Trouble &trouble, const QString &what, std::function<void()> copy);
   std::optional<Offer> offerFor(const RunningCopy::Found &found);
   Offer offerReplaced(const RunningCopy::Found &found);
   Offer offerWork(const RunningCopy::Found &found, const QList<SavedFile> &news);
