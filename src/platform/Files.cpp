@@ -142,7 +142,9 @@ void syncFile(const QString &path) {
   QFile file(path);
   if (type == fs::file_type::not_found)
     return;
-  if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
+  if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly) && !fileExists(path))
+    return;
+  if (!file.isOpen())
     throw FileFault(path, QStringLiteral("geöffnet"));
   System::sync(file);
 }

@@ -59,6 +59,13 @@ void rennenEintragen(Store &store, const QString &name) {
 void rennenLoeschen(Store &store) {
   RennenLeeren(store);
   RennenSchreiben(store);
-  for (const char letter : {'R', 'K', 'G', 'M', 'Z'})
-    removeFile(raceFileName(store, letter, store.AktRennen));
+  QStringList paths;
+  {
+    const std::scoped_lock lock(store.umgebung.writing);
+    for (const char letter : {'R', 'K', 'G', 'M', 'Z'}) {
+      paths << raceFileName(store, letter, store.AktRennen);
+      removeFile(paths.last());
+    }
+  }
+  store.umgebung.syncSoon(paths);
 }

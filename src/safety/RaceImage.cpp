@@ -71,10 +71,17 @@ QByteArray trimmedRecord(const QByteArray &record) {
   return toBytes(trimmedRace(record));
 }
 
+// A race without a name in the copy is a new one, not one that was deleted since.
+bool hadName(const RaceImage &image) {
+  return std::any_of(image.files.begin(), image.files.end(), [&](const SavedFile &file) {
+    return isRecord(image, file) && !trimmedRace(file.bytes).RennenName.isEmpty();
+  });
+}
+
 bool isDeleted(const RaceImage &image, const Store &store) {
   const auto record = recordOnDisk(store, image.race);
-  return record && trimmedRace(*record).RennenName.isEmpty() && !fileExists(raceFileName(store, 'R', image.race)) &&
-         !fileExists(raceFileName(store, 'K', image.race));
+  return hadName(image) && record && trimmedRace(*record).RennenName.isEmpty() &&
+         !fileExists(raceFileName(store, 'R', image.race)) && !fileExists(raceFileName(store, 'K', image.race));
 }
 
 // A record that differs only in what reading takes off is no news; where none was ever written there is no place for
@@ -235,7 +242,7 @@ void takeOver(const RaceImage &image, const QList<SavedFile> &files, const QStri
 }
 
 Progress progressOf(const RaceImage &replacing, const Store &store) {
-  bool asBefore = true, asAfter = true;
+  bool asBefore = true, asAfter = countsOnDisk(store).RennenAnzahl >= replacing.race;
   for (const auto &file : replacing.files) {
     const auto now = onDisk(replacing, file, store);
     asBefore = asBefore && now == bytesBefore(replacing, file);

@@ -149,10 +149,15 @@ void RunningCopy::write(const RaceImage &image) {
   before.removeAll(Unfinished);
   const int next = before.isEmpty() ? 1 : before.last().toInt() + 1;
   removeFolder(unfinished);
-  writeImage({image.race, allFiles(image), {}}, unfinished);
-  writeFile(unfinished + Manifest, manifestOf(image), Access::Private);
-  syncFile(unfinished + Manifest);
-  syncFile(unfinished);
+  try {
+    writeImage({image.race, allFiles(image), {}}, unfinished);
+    writeFile(unfinished + Manifest, manifestOf(image), Access::Private);
+    syncFile(unfinished + Manifest);
+    syncFile(unfinished);
+  } catch (const Fault &) { // half a copy must not keep the room that a save needs
+    removeFolder(unfinished);
+    throw;
+  }
   const QString copy = QStringLiteral("%1/%2").arg(m_folder).arg(next, 8, 10, QLatin1Char('0'));
   moveFolder(unfinished, copy);
   m_last = copy;

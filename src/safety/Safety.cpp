@@ -4,6 +4,8 @@
 #include "core/StateFile.h"
 #include "platform/Faults.h"
 
+#include <QThread>
+
 #include <chrono>
 #include <utility>
 
@@ -112,6 +114,7 @@ Safety::Safety(Store &store, DiskWorker &worker)
 }
 
 Safety::~Safety() {
+  m_copier.wait();
   m_worker.wait();
 }
 
@@ -179,9 +182,10 @@ void Safety::start() {
 void Safety::finish() {
   m_ticks.stop();
   m_worker.wait();
-  if (m_copySoon.isActive())
+  m_copier.wait();
+  if (m_alone)
     copyAll();
-  m_worker.wait();
+  m_copier.wait();
   m_worker.rethrow();
   if (m_active)
     clearRunning();
@@ -189,6 +193,8 @@ void Safety::finish() {
 }
 
 QString Safety::rescue() noexcept {
+  if (QThread::currentThread() != m_ticks.thread()) // the worker itself is dying and cannot be waited for
+    return QStringLiteral("Was zu retten war, bietet VEXT beim nächsten Start an.");
   try {
     m_ticks.stop();
     m_copySoon.stop();
@@ -232,11 +238,12 @@ void Safety::copyAll() {
   m_copySoon.stop();
   if (m_copyInWork.exchange(true))
     return m_copySoon.start(CopyDelay);
-  keepCopying(m_copyInWork, m_copyTrouble, QStringLiteral("Die Sicherungskopie"),
+  keepCopying(m_copier, m_copyInWork, m_copyTrouble, QStringLiteral("Die Sicherungskopie"),
               [this] { m_copies.make(QDateTime::currentDateTime(), m_store.umgebung.writing); });
 }
 
 void Safety::wait() {
+  m_copier.wait();
   m_worker.wait();
   tell();
 }
@@ -244,6 +251,7 @@ void Safety::wait() {
 void Safety::copyBeforeSave() {
   if (m_runningInWork)
     waitAtSave();
+  tell(); // one that has failed is tried again
   tick();
   if (m_runningInWork)
     waitAtSave();
@@ -253,13 +261,14 @@ void Safety::copyBeforeSave() {
 // byte is written.
 void Safety::beginReplacing(const RaceImage &image) {
   waitAtSave();
+  m_copier.wait();
   copyAll();
-  waitAtSave();
+  m_copier.wait();
   if (!m_active)
     return;
   write(image);
-  m_replacing = true;
   waitAtSave();
+  m_replacing = m_runningTrouble.get().isEmpty();
 }
 
 void Safety::endReplacing() {
@@ -272,13 +281,14 @@ void Safety::write(const RaceImage &image) {
     return;
   m_handed = image;
   m_runningInWork = true;
-  keepCopying(m_runningInWork, m_runningTrouble, QStringLiteral("Die laufende Sicherung"),
+  keepCopying(m_worker, m_runningInWork, m_runningTrouble, QStringLiteral("Die laufende Sicherung"),
               [this, image] { m_running.write(image); });
 }
 
 // In the thread of the worker; what came of it is told in the thread of the screens.
-void Safety::keepCopying(std::atomic<bool> &inWork, Trouble &trouble, const QString &what, std::function<void()> copy) {
-  m_worker.run([this, &inWork, &trouble, what, copy = std::move(copy)] {
+void Safety::keepCopying(DiskWorker &worker, std::atomic<bool> &inWork, Trouble &trouble, const QString &what,
+                         std::function<void()> copy) {
+  worker.run([this, &inWork, &trouble, what, copy = std::move(copy)] {
     try {
       copy();
       trouble.set({});
@@ -294,10 +304,10 @@ void Safety::keepCopying(std::atomic<bool> &inWork, Trouble &trouble, const QStr
 std::optional<Safety::Offer> Safety::offerFor(const RunningCopy::Found &found) {
   if (found.image.before && found.isWhole() && progressOf(found.image, m_store) == Progress::Half)
     return offerReplaced(found);
-  const auto news = found.image.before ? QList<SavedFile>() : newsOf(found, m_store);
+  const auto news = found.image.before && found.isWhole() ? QList<SavedFile>() : newsOf(found, m_store);
   if (!news.isEmpty() || !noteIn(found.image).isEmpty() || !found.isWhole())
     return offerWork(found, news);
-  m_running.settle(found);
+  settle(found);
   return {};
 }
 
@@ -305,7 +315,7 @@ Safety::Offer Safety::offerReplaced(const RunningCopy::Found &found) {
   const auto answer = [this, found](void (*act)(const RaceImage &, const Store &)) {
     return [this, found, act] {
       act(found.image, m_store);
-      m_running.settle(found);
+      settle(found);
     };
   };
   return {whatHappened(found) +
@@ -318,9 +328,9 @@ Safety::Offer Safety::offerReplaced(const RunningCopy::Found &found) {
 }
 
 Safety::Offer Safety::offerWork(const RunningCopy::Found &found, const QList<SavedFile> &news) {
-  const auto settle = [this, found] { m_running.settle(found); };
+  const auto settled = [this, found] { settle(found); };
   if (news.isEmpty())
-    return {whatHappened(found) + noteText(found.image), GoOn, {}, settle, settle};
+    return {whatHappened(found) + noteText(found.image), GoOn, {}, settled, settled};
   const QString folder = putIntoRescue(found);
   return {whatHappened(found) +
               QStringLiteral("\n\nIn %1 gab es Eingaben, die nicht in ihren Dateien stehen (%2). Sie sind gesichert in "
@@ -331,11 +341,20 @@ Safety::Offer Safety::offerWork(const RunningCopy::Found &found, const QList<Sav
                   .arg(raceTitle(found.image), namesOf(news), folder) +
               noteText(found.image),
           TakeOver, LeaveAll,
-          [this, found, news, folder, settle] {
+          [this, found, news, folder] {
             ::takeOver(found.image, news, folder, m_store);
-            settle();
+            settle(found);
           },
-          settle};
+          settled};
+}
+
+// An answer that cannot be noted is asked for again at the next start; until then no copy may take this one's place.
+void Safety::settle(const RunningCopy::Found &found) {
+  try {
+    m_running.settle(found);
+  } catch (const Fault &fault) {
+    stopRunning(fault.report());
+  }
 }
 
 void Safety::stopRunning(const QString &reason) {

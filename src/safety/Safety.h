@@ -74,10 +74,12 @@ private:
   void beginReplacing(const RaceImage &image);
   void endReplacing();
   void write(const RaceImage &image);
-  void keepCopying(std::atomic<bool> &inWork, Trouble &trouble, const QString &what, std::function<void()> copy);
+  void keepCopying(DiskWorker &worker, std::atomic<bool> &inWork, Trouble &trouble, const QString &what,
+                   std::function<void()> copy);
   std::optional<Offer> offerFor(const RunningCopy::Found &found);
   Offer offerReplaced(const RunningCopy::Found &found);
   Offer offerWork(const RunningCopy::Found &found, const QList<SavedFile> &news);
+  void settle(const RunningCopy::Found &found);
   void stopRunning(const QString &reason);
   QString putIntoRescue(const RunningCopy::Found &found);
   QString rescueWork();
@@ -88,6 +90,8 @@ private:
 
   Store &m_store;
   DiskWorker &m_worker;
+  /// Makes the safety copies, which may take long, and keeps no running copy waiting.
+  DiskWorker m_copier;
   SafetyFolder m_folder;
   RunningCopy m_running;
   SafetyCopies m_copies;

@@ -53,6 +53,13 @@ QStringList ourFiles(const QString &folder) {
   return names;
 }
 
+/// Those whose change makes a new copy worth while: not the places of the windows, which each closing writes.
+QStringList filesThatCount(const QString &folder) {
+  QStringList names = ourFiles(folder);
+  names.removeAll(QStringLiteral("TopLeft.dat"));
+  return names;
+}
+
 std::optional<SafetyCopies::Name> nameFrom(const QString &folder) {
   static const QRegularExpression form(
       QStringLiteral("^(?:(\\d{6}) )?(\\d{4}-\\d\\d-\\d\\d \\d\\d-\\d\\d-\\d\\d-\\d{3})$"));
@@ -99,7 +106,12 @@ void SafetyCopies::make(const QDateTime &now, std::mutex &writing) {
   if (files.isEmpty())
     return;
   const QString unfinished = m_folder + Unfinished;
-  copyInto(unfinished, files, last);
+  try {
+    copyInto(unfinished, files, last);
+  } catch (const Fault &) { // half a copy must not keep the room that a save needs
+    removeFolder(unfinished);
+    throw;
+  }
   moveFolder(unfinished, m_folder + Name{before.isEmpty() ? 1 : before.last().number + 1, now}.folder());
   removeOutgrown(now);
   for (const auto &file : std::as_const(files))
@@ -116,8 +128,8 @@ bool SafetyCopies::isOf(const QString &dataFolder) const {
   const QString last = lastCopy();
   if (last.isEmpty())
     return false;
-  const QStringList files = ourFiles(dataFolder);
-  return files == ourFiles(last) && std::all_of(files.begin(), files.end(), [&](const QString &name) {
+  const QStringList files = filesThatCount(dataFolder);
+  return files == filesThatCount(last) && std::all_of(files.begin(), files.end(), [&](const QString &name) {
            return isSame(native(dataFolder + QLatin1Char('/') + name), native(last + name));
          });
 }

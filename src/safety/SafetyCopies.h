@@ -29,7 +29,7 @@ public:
 
   /// A file of the newest copy; nothing if there is no copy or it does not hold the file.
   std::optional<QByteArray> newest(const QString &file) const;
-  /// Whether the newest copy holds exactly the files of the data folder as they are now.
+  /// Whether the newest copy holds exactly the files of the data folder as they are now, but for the window places.
   bool isOf(const QString &dataFolder) const;
 
 private:

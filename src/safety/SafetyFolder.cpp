@@ -53,11 +53,16 @@ bool belongsTo(const QString &safetyFolder, const QString &dataFolder) {
 SafetyFolder::SafetyFolder(const QString &dataFolder)
     : m_dataFolder(absoluteFolder(dataFolder)), m_path(placeFor(m_dataFolder)) {}
 
-void SafetyFolder::open() const {
+void SafetyFolder::open() {
   makeFolder(allFolders(), Access::Private);
   if (!fileExists(m_path))
-    if (const QString former = formerFolder(); !former.isEmpty())
+    if (const QString former = formerFolder(); !former.isEmpty()) {
+      if (System::Lock().take(former + QStringLiteral("/VEXT.lock")) == System::Lock::State::Taken) {
+        m_path = former;
+        return;
+      }
       moveFolder(former, m_path);
+    }
   makeFolder(m_path, Access::Private);
   const QByteArray note = (m_dataFolder + QLatin1Char('\n') + System::identityOf(m_dataFolder)).toUtf8();
   if (readIfThere(m_path + OwnerNote) != note)

@@ -14,8 +14,9 @@ public:
   const QString &dataFolder() const { return m_dataFolder; }
   const QString &path() const { return m_path; }
 
-  /// Makes the folder, or takes that of the data folder's earlier name or place. A FileFault if that fails.
-  void open() const;
+  /// Makes the folder, or takes that of the data folder's earlier name or place; if VEXT runs there still, that one is
+  /// left at its place and is the path from now on. A FileFault if that fails.
+  void open();
 
 private:
   QString formerFolder() const;

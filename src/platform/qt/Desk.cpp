@@ -2,19 +2,20 @@
 
 #include "platform/qt/Screen.h"
 
-#include <QLineEdit>
+#include <QWidget>
 
 Desk::Desk(WindowPlaces &places, std::function<void()> savePlaces)
     : m_places(places), m_savePlaces(std::move(savePlaces)) {}
 
 QString Desk::openInput() const {
-  auto *field = qobject_cast<QLineEdit *>(m_guard.field());
-  if (!field || !field->isModified() || !(m_guard.storesOnLeaving(field) || field->property("einzutragen").toBool()))
+  auto *field = m_guard.field();
+  if (!field || !m_guard.isFieldChanged() ||
+      !(m_guard.storesOnLeaving(field) || field->property("einzutragen").toBool()))
     return {};
   const auto *screen = qobject_cast<Screen *>(field->window());
   const QString who = screen ? screen->subject() : QString();
   return QStringLiteral("%1: %2 „%3“%4\n")
-      .arg(field->window()->windowTitle(), field->accessibleName(), field->text(),
+      .arg(field->window()->windowTitle(), field->accessibleName(), shownIn(field),
            who.isEmpty() ? who : QStringLiteral(" bei ") + who);
 }
 

@@ -1,8 +1,19 @@
 #include "platform/qt/FieldGuard.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QWidget>
+
+QString shownIn(const QWidget *field) {
+  if (const auto *edit = qobject_cast<const QLineEdit *>(field))
+    return edit->text();
+  if (const auto *combo = qobject_cast<const QComboBox *>(field))
+    return combo->currentText();
+  const auto *box = qobject_cast<const QCheckBox *>(field);
+  return box ? box->isChecked() ? QStringLiteral("ja") : QStringLiteral("nein") : QString();
+}
 
 FieldGuard::FieldGuard() {
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { focusMoved(now); });
@@ -16,6 +27,13 @@ void FieldGuard::onLeave(QWidget *field, std::function<void()> action) {
 void FieldGuard::onEnter(QWidget *field, std::function<void()> action) {
   m_enter[field] = std::move(action);
   forgetWhenGone(field);
+}
+
+// A text box may be filled by code while it has the focus; it knows by itself whether it was typed into.
+bool FieldGuard::isFieldChanged() const {
+  if (const auto *edit = qobject_cast<QLineEdit *>(field()))
+    return edit->isModified();
+  return shownIn(field()) != m_shownAtEntry;
 }
 
 void FieldGuard::flush(const QWidget *window) {
@@ -51,10 +69,13 @@ void FieldGuard::moveTo(QWidget *field) {
     return;
   QWidget *const left = m_field;
   m_field = field;
-  if (auto *edit = qobject_cast<QLineEdit *>(left))
-    edit->setModified(false);
+  m_leaving = left;
   if (const auto leave = m_leave.value(left))
     leave();
+  if (auto *edit = qobject_cast<QLineEdit *>(m_leaving))
+    edit->setModified(false);
+  m_leaving = nullptr;
+  m_shownAtEntry = shownIn(m_field);
   if (field && m_field == field)
     if (const auto enter = m_enter.value(field))
       enter();
