@@ -97,6 +97,23 @@ TEST_F(ProgrammTest, TheParticipantListTakesItsScreensAlong) {
   EXPECT_EQ(visible(), "Form4");
 }
 
+TEST_F(ProgrammTest, AParticipantChosenAgainBringsTheIconBack) {
+  start({"Slalom"});
+  test.enter(test.addAthlete(QStringLiteral("BERGER Eva"), 2000, 0));
+  press("Form4", "Command4");
+  const auto chooseTwice = [this] {
+    chooseLine("Form5", "List2", 0);
+    auto *list = control<LineList>("Form5", "List2");
+    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(0, 0)).center());
+  };
+  chooseTwice();
+  ASSERT_EQ(visible(), "Form5 Form6");
+  window("Form6")->showMinimized();
+  chooseTwice();
+  EXPECT_FALSE(window("Form6")->isMinimized());
+  EXPECT_TRUE(QTest::qWaitForWindowActive(window("Form6")));
+}
+
 TEST_F(ProgrammTest, AGeneratedRaceIsOpenedFromTheMenu) {
   start({"Slalom", "Abfahrt"}, "Command18");
   chooseLine("Form19", "List1", 0);
@@ -151,12 +168,14 @@ TEST_F(ProgrammTest, OnlyTheMenuEndsTheProgramAlsoBesideTheReminder) {
   QTimer::singleShot(0, [&] {
     window("Form4")->close();
     EXPECT_EQ(visible(), "Form1 Form17");
+    window("Form17")->move(120, 90);
     stillRuns = true;
     press("Form1", "Command4");
   });
   QTimer::singleShot(10000, programm.get(), [] { QCoreApplication::exit(1); });
   EXPECT_EQ(QApplication::exec(), 0);
   EXPECT_TRUE(stillRuns);
+  EXPECT_EQ(QPoint(store.Fenster.FensterLeft[17], store.Fenster.FensterTop[17]), QPoint(1800, 1350)); // 15 a pixel
   EXPECT_FALSE(store.VereinDatei.isOpen() || store.LaeuferDatei.isOpen() || store.RennenDatei.isOpen());
 }
 

@@ -2,6 +2,10 @@
 
 #include "support/ScreenTest.h"
 
+#include <QComboBox>
+#include <QHelpEvent>
+#include <QToolTip>
+
 namespace {
 
 class Form3Test : public ScreenTest<Form3> {
@@ -57,6 +61,23 @@ TEST_F(Form3Test, EachFieldIsStoredOnceWhenItIsLeft) {
   type("Text5", "3,5"); // the point alone is a decimal sign
   form->close();
   EXPECT_EQ(record(1).LaeuferPunkte, 3.0F);
+}
+
+TEST_F(Form3Test, FieldsStayTogetherAndAClubIsToldWhole) {
+  const auto club = QStringLiteral("WSV <Tannberg> am Arlberg");
+  test.addClub(club);
+  openWith({"A"});
+  const auto lowest = [this] { return find("Text5")->mapTo(form.get(), QPoint()).y(); };
+  auto *combo = find<QComboBox>("Combo2");
+  const int before = lowest(), width = combo->width();
+  form->resize(1400, 900);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(lowest(), before);
+  EXPECT_GT(combo->width(), width);
+  combo->setCurrentIndex(1);
+  QHelpEvent help(QEvent::ToolTip, {5, 5}, combo->mapToGlobal(QPoint(5, 5)));
+  QApplication::sendEvent(combo, &help);
+  EXPECT_TRUE(QToolTip::text().contains(club.toHtmlEscaped()));
 }
 
 TEST_F(Form3Test, WritesOnlyIntoTheAthleteShown) {

@@ -8,6 +8,7 @@
 #include <QFontInfo>
 #include <QFontMetrics>
 #include <QFrame>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLibraryInfo>
 #include <QLineEdit>
@@ -15,6 +16,7 @@
 #include <QProxyStyle>
 #include <QPushButton>
 #include <QStyleOption>
+#include <QToolTip>
 #include <QTranslator>
 
 #include <algorithm>
@@ -40,7 +42,8 @@ void setColors(QPalette &palette) {
     palette.setColor(QPalette::Disabled, role, QColor(0x8A919C));
 }
 
-/// Fusion, but for the frames of cards and lists: at 125 % it loses some of their lines.
+/// Fusion, but for the frames of cards and lists: at 125 % it loses some of their lines; and the chosen line of a combo
+/// ends with "…" where it does not fit.
 class Style : public QProxyStyle {
 public:
   Style() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -51,6 +54,16 @@ public:
       Look::drawFrame(*painter, option->rect, QColor(0xBCC2CA));
     else
       QProxyStyle::drawPrimitive(element, option, painter, widget);
+  }
+  void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                   const QWidget *widget) const override {
+    const auto *combo = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+    if (element != CE_ComboBoxLabel || !combo)
+      return QProxyStyle::drawControl(element, option, painter, widget);
+    QStyleOptionComboBox elided = *combo;
+    const int room = subControlRect(CC_ComboBox, combo, SC_ComboBoxEditField, widget).width() - 2;
+    elided.currentText = combo->fontMetrics.elidedText(combo->currentText, Qt::ElideRight, room);
+    QProxyStyle::drawControl(element, &elided, painter, widget);
   }
 };
 
@@ -149,6 +162,11 @@ void Look::drawFrame(QPainter &painter, const QRect &area, QColor color) {
   painter.fillRect(QRectF(r.left(), r.bottom() - 1, r.width(), 1), color);
   painter.fillRect(QRectF(r.left(), r.top(), 1, r.height()), color);
   painter.fillRect(QRectF(r.right() - 1, r.top(), 1, r.height()), color);
+}
+
+// Escaped, as a name may hold what looks like markup; a tool tip with markup breaks its lines.
+void Look::showWhole(const QHelpEvent &event, const QString &text, QWidget *widget) {
+  QToolTip::showText(event.globalPos(), QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped()), widget);
 }
 
 void Look::setGround(QWidget *field, QColor ground) {

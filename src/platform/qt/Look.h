@@ -3,8 +3,10 @@
 #include <QColor>
 
 class QApplication;
+class QHelpEvent;
 class QPainter;
 class QRect;
+class QString;
 class QWidget;
 
 /// How VEXT looks, in one place: its own light palette on every desktop, fonts, and sizes that follow the font.
@@ -16,6 +18,8 @@ void apply(QApplication &application);
 void applyProperties(QWidget *screen);
 /// A line of one pixel along the inner edge of an area.
 void drawFrame(QPainter &painter, const QRect &area, QColor color);
+/// The tool tip of a text that is drawn with "…", which holds the whole.
+void showWhole(const QHelpEvent &event, const QString &text, QWidget *widget);
 /// Colours the ground of a field, with dark letters whatever the desktop's theme.
 void setGround(QWidget *field, QColor ground);
 /// The ground of a field as the palette has it.

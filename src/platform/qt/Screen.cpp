@@ -11,6 +11,7 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QGuiApplication>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
@@ -44,6 +45,17 @@ public:
     return Acceptable;
   }
 };
+
+// The wheel changes no combo without the focus; its tool tip is the whole of what it shows.
+bool replaced(QComboBox &combo, QEvent &event) {
+  const bool wheel = event.type() == QEvent::Wheel && !combo.hasFocus();
+  const bool tip = event.type() == QEvent::ToolTip && combo.toolTip().isEmpty();
+  if (wheel)
+    event.ignore();
+  if (tip)
+    Look::showWhole(static_cast<QHelpEvent &>(event), combo.currentText(), &combo);
+  return wheel || tip;
+}
 
 } // namespace
 
@@ -195,11 +207,8 @@ bool Screen::event(QEvent *event) {
 }
 
 bool Screen::eventFilter(QObject *watched, QEvent *event) {
-  if (event->type() == QEvent::Wheel && qobject_cast<QComboBox *>(watched) &&
-      !static_cast<QWidget *>(watched)->hasFocus()) {
-    event->ignore();
+  if (auto *combo = qobject_cast<QComboBox *>(watched); combo && replaced(*combo, *event))
     return true;
-  }
   if (auto *field = qobject_cast<QLineEdit *>(watched))
     selectOnEntry(*field, *event);
   if (event->type() == QEvent::KeyPress) {

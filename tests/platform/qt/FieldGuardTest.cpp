@@ -165,3 +165,21 @@ TEST_F(FieldGuardTest, PlaceOfTheWindowIsKeptInTwentiethsOfAPoint) {
   EXPECT_EQ(places.FensterLeft[7], 450);
   EXPECT_EQ(places.FensterTop[7], 750);
 }
+
+TEST_F(FieldGuardTest, SizeOfTheWindowIsKept) {
+  const QSize given = form->size() + QSize(60, 40);
+  form->resize(given);
+  form->close();
+  open();
+  EXPECT_EQ(form->size(), given);
+}
+
+// A number is typed over the one that stands there; a press into what has the focus is meant for a place in it.
+TEST_F(FieldGuardTest, FirstPressSelectsAllTheSecondPlacesTheCursor) {
+  form->other->setText(QStringLiteral("0"));
+  for (const auto &[typed, content] : {std::pair("25", "25"), {"7", "257"}}) {
+    QTest::mouseClick(form->other, Qt::LeftButton, {}, {form->other->width() - 5, form->other->height() / 2});
+    keys(typed);
+    EXPECT_EQ(form->other->text(), QLatin1String(content));
+  }
+}
