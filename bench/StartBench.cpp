@@ -3,10 +3,10 @@
 #include "Programm.h"
 #include "core/RaceFiles.h"
 #include "core/RecordFiles.h"
-#include "safety/Safety.h"
 #include "core/Start.h"
 #include "platform/Files.h"
 #include "platform/Numbers.h"
+#include "safety/Safety.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
