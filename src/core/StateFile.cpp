@@ -1,5 +1,6 @@
 #include "core/StateFile.h"
 
+#include "platform/Files.h"
 #include "platform/TextFile.h"
 
 QString zustandDatei(const Store &store) {
@@ -9,8 +10,10 @@ QString zustandDatei(const Store &store) {
 Zustand zustandAus(const QByteArray &bytes, const QString &path) {
   TextReader file(bytes, path);
   Zustand read;
-  for (int *value : {&read.LaeuferAnzahl, &read.VereinAnzahl, &read.RennenAnzahl, &read.VextReserve})
-    file.numberInto(*value);
+  file.numberInto(read.LaeuferAnzahl, LargestRecordFile / LaeuferLaenge);
+  file.numberInto(read.VereinAnzahl, LargestRecordFile / VereinLaenge);
+  file.numberInto(read.RennenAnzahl, LargestRecordFile / RennenLaenge);
+  file.numberInto(read.VextReserve);
   return read;
 }
 

@@ -49,9 +49,9 @@ qint64 TextReader::boundedNumber(qint64 lowest, qint64 highest) {
   return value;
 }
 
-void TextReader::numberInto(int &column) {
+void TextReader::numberInto(int &column, qint64 highest) {
   if (!atEnd())
-    column = int(boundedNumber(std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+    column = int(boundedNumber(std::numeric_limits<int>::min(), highest));
 }
 
 void TextReader::numberInto(qint16 &column) {

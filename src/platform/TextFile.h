@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <limits>
 #include <optional>
 
 /// Reads the items of a text file: lines end in CR LF or LF; a field goes up to the next comma or the end of the line,
@@ -24,7 +25,7 @@ public:
 
   // The same as numbers; at the end of the file `column` keeps its value. A field that is no number is 0; a number too
   // large for its column, or a line that is no number, is a ConversionFault.
-  void numberInto(int &column);
+  void numberInto(int &column, qint64 highest = std::numeric_limits<int>::max());
   void numberInto(qint16 &column);
   void leadingInto(float &column);
   void regionalLineInto(double &column);

@@ -27,3 +27,10 @@ TEST_F(Start, PlacesAreMirroredBackAndCountsReadAsFarAsTheyGo) {
   EXPECT_TRUE(file.startsWith(" 150 \r\n 300 \r\n 7 \r\n 8 \r\n 0 \r\n 0 \r\n 0 \r\n"));
   EXPECT_EQ(file.count('\n'), 120);
 }
+
+TEST_F(Start, CountsOfMoreRecordsThanAFileMayHoldAreRefused) {
+  for (const char *bytes : {" 2147483647 \r\n", " 0 \r\n 900000 \r\n", " 0 \r\n 0 \r\n 900000 \r\n"}) {
+    test.writeFile(QStringLiteral("Vext.dat"), bytes);
+    EXPECT_THROW(storeStarten(store), ConversionFault) << bytes;
+  }
+}
