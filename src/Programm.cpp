@@ -5,7 +5,7 @@
 #include "core/Form17.h"
 #include "core/RaceFiles.h"
 #include "core/RecordFiles.h"
-#include "core/Start.h"
+#include "core/StateFiles.h"
 #include "evaluation/Form12.h"
 #include "evaluation/Form19.h"
 #include "evaluation/Form20.h"

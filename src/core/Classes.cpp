@@ -87,3 +87,7 @@ void takeStandardClasses(Store &store) {
     store.KlasseBis[k] = store.StdKlasse[k].Bis;
   }
 }
+
+QString Reihungsschluessel(const Store &store, const TeilnehmerZeile &participant) {
+  return masked(store.Rennen.WertKlassen == 1 ? participant.KlasseReihe : participant.GruppeNr, "0##");
+}

@@ -8,6 +8,9 @@
 /// used row.
 void KlassenZuordnen(Store &store);
 
+/// The three characters of a sort line that keep a class or group together.
+QString Reihungsschluessel(const Store &store, const TeilnehmerZeile &participant);
+
 /// Row of `KlasseGenauName` for a class (1 to 20) and its switches, each 0 or 1.
 constexpr int exactClass(int klasse, int a, int b, int f) {
   return (klasse - 1) * 8 + a + 2 * b + 4 * f;

@@ -1,7 +1,7 @@
 #include "core/Form1.h"
 
 #include "core/RecordFiles.h"
-#include "core/Start.h"
+#include "core/WebAdresse.h"
 #include "platform/Numbers.h"
 #include "platform/qt/Picture.h"
 #include "ui_Form1.h"

@@ -1,6 +1,6 @@
 #include "core/RecordFiles.h"
 
-#include "core/StateFile.h"
+#include "core/StateFiles.h"
 #include "platform/Numbers.h"
 #include "platform/SortedLines.h"
 
@@ -113,6 +113,11 @@ void RennenLesen(Store &store) {
   }
   if (store.RennenDatei.holds(store.RennenIdx))
     store.Rennen = trimmedRace(store.RennenDatei.read(store.RennenIdx));
+}
+
+void rennsatzLesen(Store &store) {
+  store.RennenIdx = store.AktRennen;
+  RennenLesen(store);
 }
 
 void VereinSchreiben(Store &store) {

@@ -19,6 +19,8 @@ void VereinLesen(Store &store);
 void LaeuferLesen(Store &store);
 /// RennenLeeren first, whatever comes next; texts are trimmed but for `RennenNrText`. Outside the range: a beep.
 void RennenLesen(Store &store);
+/// The same for the open race.
+void rennsatzLesen(Store &store);
 
 /// A race from its record as RennenLesen takes it.
 RennenSatz trimmedRace(const QByteArray &record);

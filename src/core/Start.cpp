@@ -1,6 +1,6 @@
 #include "core/Start.h"
 
-#include "core/StateFile.h"
+#include "core/StateFiles.h"
 
 namespace {
 
@@ -20,10 +20,6 @@ constexpr Season SeasonClasses[] = {
 constexpr int SeasonYear = 2015;
 constexpr int DaysToNextSeason = 180;
 
-QString windowFile(const Store &store) {
-  return store.DatenOrdner + QStringLiteral("TopLeft.dat");
-}
-
 void fillBuiltInTables(Store &store) {
   store.JahrOffset = float(store.umgebung.heute().addDays(DaysToNextSeason).year() - SeasonYear);
   int row = 1;
@@ -39,14 +35,10 @@ void fillBuiltInTables(Store &store) {
 } // namespace
 
 void storeStarten(Store &store) {
-  store.Fenster.load(windowFile(store));
+  FensterLesen(store);
   ZustandLesen(store);
   store.LaeuferIdx = store.LaeuferAnzahl;
   store.VereinIdx = store.VereinAnzahl;
   store.RennenIdx = store.RennenAnzahl;
   fillBuiltInTables(store);
-}
-
-void FensterSpeichern(Store &store) {
-  store.umgebung.replaceSoon(windowFile(store), store.Fenster.bytes());
 }

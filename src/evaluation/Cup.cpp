@@ -1,6 +1,7 @@
 #include "evaluation/Cup.h"
 
 #include "core/Participants.h"
+#include "core/RecordFiles.h"
 #include "evaluation/CupScoring.h"
 #include "evaluation/Series.h"
 #include "platform/Files.h"

@@ -1,8 +1,8 @@
 #include "evaluation/Form12.h"
 
+#include "evaluation/TeamList.h"
 #include "platform/Numbers.h"
 #include "platform/qt/PrintRun.h"
-#include "printing/TeamList.h"
 #include "ui_Form12.h"
 
 #include <array>

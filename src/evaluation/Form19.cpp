@@ -1,10 +1,10 @@
 #include "evaluation/Form19.h"
 
+#include "core/RaceList.h"
 #include "evaluation/Series.h"
 #include "evaluation/TimeSum.h"
 #include "platform/Numbers.h"
 #include "platform/qt/BusyPointer.h"
-#include "raceprep/RaceList.h"
 #include "ui_Form19.h"
 
 Form19::Form19(Desk &desk, Store &store)

@@ -1,12 +1,13 @@
 #include "evaluation/Form20.h"
 
+#include "core/RaceList.h"
+#include "core/RecordFiles.h"
 #include "evaluation/Cup.h"
+#include "evaluation/CupList.h"
 #include "evaluation/Series.h"
 #include "platform/Numbers.h"
 #include "platform/qt/BusyPointer.h"
 #include "platform/qt/PrintRun.h"
-#include "printing/CupList.h"
-#include "raceprep/RaceList.h"
 #include "ui_Form20.h"
 
 #include <QMouseEvent>

@@ -2,7 +2,6 @@
 
 #include "core/Classes.h"
 #include "core/RaceFiles.h"
-#include "core/RecordFiles.h"
 #include "platform/Numbers.h"
 #include "timing/Ranking.h"
 
@@ -20,11 +19,6 @@ Kriterien kriterienMerken(const Store &store) {
 void rennenLaden(Store &store, int race) {
   store.AktRennen = race;
   RennDatenLaden(store);
-}
-
-void rennsatzLesen(Store &store) {
-  store.RennenIdx = store.AktRennen;
-  RennenLesen(store);
 }
 
 void zweitenLaufStreichen(Store &store) {

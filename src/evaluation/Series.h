@@ -15,8 +15,6 @@ Kriterien kriterienMerken(const Store &store);
 
 /// Loads the tables of a race; the race record stays.
 void rennenLaden(Store &store, int race);
-/// Makes the record of the loaded race the current one.
-void rennsatzLesen(Store &store);
 
 /// Leaves only the first run to be ranked.
 void zweitenLaufStreichen(Store &store);

@@ -1,12 +1,12 @@
 #include "evaluation/TimeSum.h"
 
 #include "core/RaceFiles.h"
+#include "core/RaceList.h"
 #include "core/RecordFiles.h"
 #include "core/SingleTimes.h"
 #include "evaluation/Series.h"
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
-#include "raceprep/RaceList.h"
 #include "safety/RaceImage.h"
 
 #include <QSet>

@@ -1,3 +1,4 @@
+#include "core/Classes.h"
 #include "core/Participants.h"
 #include "platform/Dates.h"
 #include "platform/Numbers.h"

@@ -3,6 +3,7 @@
 #include "platform/Numbers.h"
 #include "platform/print/PictureFile.h"
 #include "platform/print/PrintMetrics.h"
+#include "platform/print/Recording.h"
 
 #include <algorithm>
 #include <cmath>

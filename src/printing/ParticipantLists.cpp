@@ -1,3 +1,4 @@
+#include "core/Classes.h"
 #include "core/Participants.h"
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
@@ -6,7 +7,6 @@
 #include "printing/PrintHelpers.h"
 #include "printing/Seitenkopf.h"
 #include "printing/SortierListe.h"
-#include "timing/Ranking.h"
 
 namespace {
 

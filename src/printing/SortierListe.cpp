@@ -1,7 +1,8 @@
 #include "printing/SortierListe.h"
 
+#include "core/Participants.h"
 #include "platform/Numbers.h"
-#include "timing/Ranking.h"
+#include "platform/SortedLines.h"
 
 QStringList SortierListe(Store &store, const std::function<QString(int row)> &key) {
   SortedLines lines;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/Store.h"
-#include "platform/SortedLines.h"
 
 #include <functional>
 

@@ -1,9 +1,9 @@
 #include "raceprep/Form15.h"
 
 #include "core/RaceFiles.h"
-#include "core/Start.h"
 #include "platform/Numbers.h"
 #include "platform/qt/CellLabel.h"
+#include "platform/qt/FarbTabelle.h"
 #include "platform/qt/Look.h"
 #include "ui_Form15.h"
 

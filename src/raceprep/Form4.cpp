@@ -1,10 +1,10 @@
 #include "raceprep/Form4.h"
 
+#include "core/RaceList.h"
 #include "core/RecordFiles.h"
 #include "platform/Numbers.h"
 #include "platform/print/Printers.h"
 #include "platform/qt/RecordText.h"
-#include "raceprep/RaceList.h"
 #include "raceprep/RaceRegister.h"
 #include "ui_Form4.h"
 

@@ -2,10 +2,10 @@
 
 #include "core/RaceFiles.h"
 #include "core/RecordFiles.h"
-#include "core/Start.h"
 #include "masterdata/ClubRegister.h"
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
+#include "platform/qt/FarbTabelle.h"
 #include "platform/qt/Look.h"
 #include "raceprep/StartNumbers.h"
 #include "ui_Form6.h"

@@ -1,9 +1,9 @@
 #include "raceprep/StartNumbers.h"
 
-#include "core/RecordFiles.h"
+#include "core/Classes.h"
+#include "core/Participants.h"
 #include "platform/Numbers.h"
 #include "platform/SortedLines.h"
-#include "timing/Ranking.h"
 
 #include <limits>
 

@@ -2,8 +2,7 @@
 
 #include "core/RecordFiles.h"
 #include "core/Start.h"
-#include "core/StateFile.h"
-#include "platform/Faults.h"
+#include "core/StateFiles.h"
 #include "platform/Numbers.h"
 
 #include <algorithm>

@@ -1,6 +1,7 @@
 #include "safety/RunningCopy.h"
 
 #include "platform/Faults.h"
+#include "platform/Files.h"
 
 #include <QCryptographicHash>
 #include <QFileInfo>

@@ -1,8 +1,10 @@
 #include "safety/Safety.h"
 
 #include "core/RecordFiles.h"
-#include "core/StateFile.h"
+#include "core/StateFiles.h"
+#include "core/Store.h"
 #include "platform/Faults.h"
+#include "platform/Files.h"
 
 #include <QThread>
 

@@ -2,10 +2,10 @@
 
 #include "core/Participants.h"
 #include "core/RaceFiles.h"
-#include "core/Start.h"
 #include "core/ValueFormats.h"
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
+#include "platform/qt/FarbTabelle.h"
 #include "platform/qt/Look.h"
 #include "timing/Ranking.h"
 #include "ui_Form7.h"

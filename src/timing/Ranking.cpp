@@ -1,5 +1,6 @@
 #include "timing/Ranking.h"
 
+#include "core/Classes.h"
 #include "core/Participants.h"
 #include "core/ValueFormats.h"
 #include "platform/Numbers.h"
@@ -220,8 +221,4 @@ void Rangfolge1(Store &store) {
 QString secondRunKey(const TeilnehmerZeile &participant) {
   const double time = participant.WertZeit1;
   return masked(participant.Rang <= ReversedPlaces ? ReversalPoint - time : ReversalPoint + time, ValueMask);
-}
-
-QString Reihungsschluessel(const Store &store, const TeilnehmerZeile &participant) {
-  return masked(store.Rennen.WertKlassen == 1 ? participant.KlasseReihe : participant.GruppeNr, "0##");
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/Participants.h"
+#include "core/Store.h"
 
 #include <optional>
 
@@ -22,6 +22,3 @@ void Rangfolge1(Store &store);
 /// Order of start in the second run, after Rangfolge1, as a part of a sort line: the places 1 to 15 in reverse order,
 /// then all others as they are placed.
 QString secondRunKey(const TeilnehmerZeile &participant);
-
-/// The three characters of a sort line that keep a class or group together.
-QString Reihungsschluessel(const Store &store, const TeilnehmerZeile &participant);

@@ -1,5 +1,6 @@
 #include "timing/TimingList.h"
 
+#include "core/Participants.h"
 #include "platform/Numbers.h"
 #include "platform/SortedLines.h"
 #include "timing/Ranking.h"

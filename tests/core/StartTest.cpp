@@ -1,5 +1,6 @@
 #include "core/Start.h"
 
+#include "core/StateFiles.h"
 #include "support/TestStore.h"
 
 using Start = StoreTest;

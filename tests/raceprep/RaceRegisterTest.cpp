@@ -1,7 +1,7 @@
 #include "raceprep/RaceRegister.h"
 
 #include "core/RaceFiles.h"
-#include "raceprep/RaceList.h"
+#include "core/RaceList.h"
 #include "support/TestStore.h"
 
 #include <QDir>

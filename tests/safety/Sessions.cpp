@@ -2,6 +2,7 @@
 
 #include "core/Classes.h"
 #include "core/RaceFiles.h"
+#include "core/StateFiles.h"
 #include "evaluation/Cup.h"
 #include "platform/Numbers.h"
 #include "support/TestStore.h"

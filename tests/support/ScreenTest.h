@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/StateFiles.h"
 #include "platform/qt/Desk.h"
 #include "platform/qt/LineList.h"
 #include "support/TestStore.h"

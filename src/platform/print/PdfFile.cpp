@@ -3,6 +3,7 @@
 #include "platform/Faults.h"
 #include "platform/Files.h"
 #include "platform/print/Player.h"
+#include "platform/print/Recording.h"
 
 #include <QBuffer>
 #include <QDir>

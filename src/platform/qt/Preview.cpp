@@ -1,5 +1,6 @@
 #include "platform/qt/Preview.h"
 
+#include "platform/print/Recording.h"
 #include "platform/qt/Look.h"
 #include "platform/qt/PreviewPages.h"
 #include "platform/qt/PrintOutcomeView.h"

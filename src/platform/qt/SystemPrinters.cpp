@@ -1,6 +1,7 @@
 #include "platform/qt/SystemPrinters.h"
 
 #include "platform/print/Player.h"
+#include "platform/print/Recording.h"
 
 #include <QPrinter>
 #include <QPrinterInfo>

@@ -1,4 +1,4 @@
-#include "printing/CupList.h"
+#include "evaluation/CupList.h"
 
 #include "evaluation/Cup.h"
 #include "evaluation/CupScoring.h"

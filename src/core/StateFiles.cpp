@@ -1,7 +1,15 @@
-#include "core/StateFile.h"
+#include "core/StateFiles.h"
 
 #include "platform/Files.h"
 #include "platform/TextFile.h"
+
+namespace {
+
+QString windowFile(const Store &store) {
+  return store.DatenOrdner + QStringLiteral("TopLeft.dat");
+}
+
+} // namespace
 
 QString zustandDatei(const Store &store) {
   return store.DatenOrdner + QStringLiteral("Vext.dat");
@@ -57,4 +65,12 @@ void ZustandLesen(Store &store) {
 
 void ZustandSchreiben(Store &store) {
   store.umgebung.replaceSoon(zustandDatei(store), toBytes(zustand(store)));
+}
+
+void FensterLesen(Store &store) {
+  store.Fenster.load(windowFile(store));
+}
+
+void FensterSpeichern(Store &store) {
+  store.umgebung.replaceSoon(windowFile(store), store.Fenster.bytes());
 }

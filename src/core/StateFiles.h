@@ -2,7 +2,8 @@
 
 #include "core/Store.h"
 
-// Vext.dat, which makes the content of the record files visible: three counts and a reserved number, a line each.
+// Vext.dat, which makes the content of the record files visible: three counts and a reserved number, a line each; and
+// TopLeft.dat, the positions of the screens.
 
 struct Zustand {
   int LaeuferAnzahl = 0, VereinAnzahl = 0, RennenAnzahl = 0, VextReserve = 0;
@@ -26,3 +27,8 @@ Zustand countsOnDisk(const Store &store);
 Zustand raisedCounts(const Store &store, const Zustand &wanted);
 /// Replaces Vext.dat.
 void ZustandSchreiben(Store &store);
+
+/// Takes the positions of TopLeft.dat; does nothing without the file.
+void FensterLesen(Store &store);
+/// Replaces TopLeft.dat.
+void FensterSpeichern(Store &store);

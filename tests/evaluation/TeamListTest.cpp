@@ -1,4 +1,4 @@
-#include "printing/TeamList.h"
+#include "evaluation/TeamList.h"
 
 #include "support/TeamRace.h"
 

@@ -1,4 +1,4 @@
-#include "raceprep/RaceList.h"
+#include "core/RaceList.h"
 
 #include "core/RaceFiles.h"
 #include "core/RecordFiles.h"
@@ -33,8 +33,7 @@ QStringList rennenZeilen(Store &store) {
 // Race 0 has no record, so that it takes over the criteria of the race read last; this is meant.
 QStringList RennenListeFuellen(Store &store) {
   const QStringList lines = readAllRaces(store);
-  store.RennenIdx = store.AktRennen;
-  RennenLesen(store);
+  rennsatzLesen(store);
   RennDatenLaden(store);
   return lines;
 }

@@ -1,4 +1,4 @@
-#include "printing/CupColumns.h"
+#include "evaluation/CupColumns.h"
 
 #include "core/ValueFormats.h"
 #include "platform/Numbers.h"

@@ -1,7 +1,7 @@
-#include "printing/TeamList.h"
+#include "evaluation/TeamList.h"
 
 #include "core/Participants.h"
-#include "core/Start.h"
+#include "core/WebAdresse.h"
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
 #include "printing/ListRows.h"

@@ -1,10 +1,10 @@
-#include "printing/CupList.h"
+#include "evaluation/CupList.h"
 
 #include "core/RecordFiles.h"
+#include "evaluation/CupColumns.h"
 #include "evaluation/CupScoring.h"
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
-#include "printing/CupColumns.h"
 #include "printing/ListRows.h"
 #include "printing/PrintHelpers.h"
 

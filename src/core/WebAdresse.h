@@ -1,0 +1,4 @@
+#pragma once
+
+/// Web address of the makers.
+constexpr auto WebAdresse = "vext.example";
