@@ -70,11 +70,14 @@ void Programm::sicherungHinweis(const QString &text) {
 
 QList<SavedFile> Programm::openWork() const {
   QList<SavedFile> work;
+  QString note = m_desk.openInput();
   for (const auto &screen : m_screens)
-    if (screen && screen->isVisible())
+    if (screen && screen->isVisible()) {
       work += screen->unsaved();
-  if (const QString input = m_desk.openInput(); !input.isEmpty())
-    work.append({noteName(), input.toUtf8()});
+      note += screen->waiting();
+    }
+  if (!note.isEmpty())
+    work.append({noteName(), note.toUtf8()});
   return work;
 }
 

@@ -38,7 +38,6 @@ void Form4::connectRegister() {
     close();
   });
   ui->Text2->installEventFilter(this);
-  ui->Text2->setProperty("einzutragen", true); // only a button stores it
 }
 
 QList<Form4::Function> Form4::functions() const {
@@ -67,6 +66,12 @@ bool Form4::isReady(const Function &function) const {
 
 void Form4::becomeActive() {
   m_store.AktRennen = m_store.RennenIdx;
+}
+
+QString Form4::waiting() const {
+  if (!ui->Text2->isModified() || trimmedBlanks(bezeichnung()) == m_store.Rennen.RennenName)
+    return {};
+  return QStringLiteral("%1: %2 „%3“\n").arg(windowTitle(), ui->Text2->accessibleName(), bezeichnung());
 }
 
 void Form4::waehlen(int nummer) {

@@ -26,6 +26,8 @@ public:
   ~Form4() override;
 
   void becomeActive() override;
+  /// A name that was typed and not "eingetragen".
+  QString waiting() const override;
   /// Puts a number into `Text1`, which opens that race.
   void waehlen(int nummer);
   /// The name as it stands in `Text2`.

@@ -22,6 +22,10 @@ std::optional<double> joined(const QString &stunden, const QString &minuten, con
   return h && m && s ? std::optional(3600 * *h + 60 * *m + *s) : std::nullopt;
 }
 
+QStringList textsOf(const std::array<QLineEdit *, 3> &boxes) {
+  return {boxes[0]->text(), boxes[1]->text(), boxes[2]->text()};
+}
+
 // The seconds box of the parts is put into form but not stored; blanks around a text without a point stay.
 void tidySeconds(QLineEdit *box) {
   const QString text = box->text();
@@ -45,8 +49,8 @@ void showPair(QLabel *caption, QLabel *value, bool visible, const QString &text)
 Form7::Form7(Desk &desk, Store &store)
     : Screen(desk, QStringLiteral("Form7"), 7), ui(std::make_unique<Ui::Form7>()), m_store(store) {
   ui->setupUi(this);
-  m_lauf1 = {ui->Text1, {ui->Text2, ui->Text3, ui->Text4}, &TeilnehmerZeile::Zeit1};
-  m_lauf2 = {ui->Text6, {ui->Text7, ui->Text8, ui->Text9}, &TeilnehmerZeile::Zeit2};
+  m_lauf1 = {ui->Text1, {ui->Text2, ui->Text3, ui->Text4}, &TeilnehmerZeile::Zeit1, QStringList(3)};
+  m_lauf2 = {ui->Text6, {ui->Text7, ui->Text8, ui->Text9}, &TeilnehmerZeile::Zeit2, QStringList(3)};
   setUp();
   hideUnused();
   Look::setGround(ui->Label11, QColor(FarbTabelle::Hellgrau));
@@ -99,7 +103,7 @@ void Form7::connectControls() {
   connect(ui->Command3, &QPushButton::clicked, this, &Form7::close);
 }
 
-void Form7::connectLauf(const Lauf &lauf, QPushButton *split, QPushButton *join) {
+void Form7::connectLauf(Lauf &lauf, QPushButton *split, QPushButton *join) {
   onReturn(lauf.sekunden, [this] { ui->List2->setFocus(); });
   onLeave(lauf.sekunden, [this, &lauf] { takeTime(lauf); });
   onLeave(lauf.teile[2], [&lauf] { tidySeconds(lauf.teile[2]); });
@@ -123,6 +127,14 @@ void Form7::becomeActive() {
 
 QString Form7::subject() const {
   return QStringLiteral("Nr. %1 %2").arg(ui->Label5->text(), ui->Label2->text());
+}
+
+QString Form7::waiting() const {
+  QString note;
+  for (const Lauf *lauf : {&m_lauf1, &m_lauf2})
+    if (const QStringList typed = textsOf(lauf->teile); typed != lauf->gezeigt)
+      note += QStringLiteral("%1: Std:Min:Sek „%2“ bei %3\n").arg(windowTitle(), typed.join(u':'), subject());
+  return note;
 }
 
 void Form7::closing() {
@@ -195,7 +207,7 @@ void Form7::showPerson(const TeilnehmerZeile &participant) {
 }
 
 void Form7::showInputs(const TeilnehmerZeile &participant) {
-  for (const Lauf *lauf : {&m_lauf1, &m_lauf2}) {
+  for (Lauf *lauf : {&m_lauf1, &m_lauf2}) {
     const double time = participant.*lauf->zeit;
     lauf->sekunden->setText(plainText(time));
     showParts(*lauf, time);
@@ -205,11 +217,12 @@ void Form7::showInputs(const TeilnehmerZeile &participant) {
   chooseStatus(ui->Combo1, participant.Status2);
 }
 
-void Form7::showParts(const Lauf &lauf, double time) {
+void Form7::showParts(Lauf &lauf, double time) {
   const ZeitTeile parts = ZeitZerlegen(time);
   lauf.teile[0]->setText(plainText(parts.ZeitStd));
   lauf.teile[1]->setText(plainText(parts.ZeitMin));
   lauf.teile[2]->setText(plainText(parts.ZeitSek));
+  lauf.gezeigt = textsOf(lauf.teile);
 }
 
 QLineEdit *Form7::timeBox() const {
@@ -233,10 +246,12 @@ void Form7::takeTime(const Lauf &lauf) {
     store(lauf, *time);
 }
 
-void Form7::joinTime(const Lauf &lauf) {
+void Form7::joinTime(Lauf &lauf) {
   const auto time = joined(lauf.teile[0]->text(), lauf.teile[1]->text(), lauf.teile[2]->text());
-  if (time && store(lauf, *time))
-    lauf.sekunden->setText(plainText(*time));
+  if (!time || !store(lauf, *time))
+    return;
+  lauf.sekunden->setText(plainText(*time));
+  lauf.gezeigt = textsOf(lauf.teile);
 }
 
 // With a time that its file could not give back the race would never open again.

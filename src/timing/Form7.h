@@ -34,6 +34,8 @@ public:
 
   void becomeActive() override;
   QString subject() const override;
+  /// Hours, minutes and seconds that were typed and not yet made into a time.
+  QString waiting() const override;
   /// Takes a time, as plain text, as the first run of the selected participant, also while the second run is worked on.
   void zeitUebernehmen(const QString &zeit);
 
@@ -54,12 +56,14 @@ private:
     QLineEdit *sekunden;
     std::array<QLineEdit *, 3> teile;
     double TeilnehmerZeile::*zeit;
+    /// What the three boxes showed before somebody typed into them.
+    QStringList gezeigt;
   };
 
   void hideUnused();
   QList<QWidget *> secondRunControls() const;
   void connectControls();
-  void connectLauf(const Lauf &lauf, QPushButton *split, QPushButton *join);
+  void connectLauf(Lauf &lauf, QPushButton *split, QPushButton *join);
   void connectStatus(QComboBox *combo, int TeilnehmerZeile::*status);
 
   void refill();
@@ -69,14 +73,14 @@ private:
   void setInputsEnabled(bool enabled);
   void showPerson(const TeilnehmerZeile &participant);
   void showInputs(const TeilnehmerZeile &participant);
-  static void showParts(const Lauf &lauf, double time);
+  static void showParts(Lauf &lauf, double time);
   QLineEdit *timeBox() const;
   void focusTime();
 
   /// The row in `Label11`, which becomes `TnIdx`.
   TeilnehmerZeile &selected();
   void takeTime(const Lauf &lauf);
-  void joinTime(const Lauf &lauf);
+  void joinTime(Lauf &lauf);
   /// Whether the time was taken. If not: a beep, and the box shows the stored one.
   bool store(const Lauf &lauf, double time);
   void refuse(QLineEdit *field, const QString &before);

@@ -9,8 +9,7 @@ Desk::Desk(WindowPlaces &places, std::function<void()> savePlaces)
 
 QString Desk::openInput() const {
   auto *field = m_guard.field();
-  if (!field || !m_guard.isFieldChanged() ||
-      !(m_guard.storesOnLeaving(field) || field->property("einzutragen").toBool()))
+  if (!field || !m_guard.isFieldChanged() || !m_guard.storesOnLeaving(field))
     return {};
   const auto *screen = qobject_cast<Screen *>(field->window());
   const QString who = screen ? screen->subject() : QString();

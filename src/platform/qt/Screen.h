@@ -30,6 +30,8 @@ public:
 
   /// The files that the screen would write if it closed now and that lie neither in the store nor on the disk.
   virtual QList<SavedFile> unsaved() const { return {}; }
+  /// What was typed and left and waits for its button, a line each as for a person; empty if nothing does.
+  virtual QString waiting() const { return {}; }
   /// Whom its fields are about, as "Nr. 28"; empty where the title says it.
   virtual QString subject() const { return {}; }
 
