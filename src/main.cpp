@@ -65,8 +65,7 @@ void answer(const Safety::Offer &offer) {
 }
 
 void offerRescue(Safety &safety) {
-  for (const auto &offer : safety.leftBehind())
-    answer(offer);
+  safety.offerLeftBehind(answer);
   if (const auto offer = safety.lostCounts())
     answer(*offer);
 }

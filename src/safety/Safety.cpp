@@ -107,7 +107,8 @@ QString Safety::Trouble::get() {
 
 Safety::Safety(Store &store, DiskWorker &worker)
     : waitAtSave([&worker] { worker.wait(); }), m_store(store), m_worker(worker), m_folder(store.DatenOrdner),
-      m_running(m_folder.path()), m_copies(m_folder.dataFolder(), m_folder.path() + QStringLiteral("/Kopien")) {
+      m_running(m_folder.path()), m_copies(store.DatenOrdner.isEmpty() ? QStringLiteral(".") : store.DatenOrdner,
+                                           m_folder.path() + QStringLiteral("/Kopien")) {
   m_ticks.setTimerType(Qt::PreciseTimer);
   m_ticks.setInterval(RunningInterval);
   m_ticks.callOnTimeout([this] { tick(); });
@@ -135,17 +136,19 @@ bool Safety::claim() {
   return false;
 }
 
-QList<Safety::Offer> Safety::leftBehind() {
-  QList<Offer> offers;
+void Safety::offerLeftBehind(const std::function<void(const Offer &)> &ask) {
+  for (const auto &found : leftBehind())
+    if (const auto offer = offerFor(found))
+      ask(*offer);
+}
+
+QList<RunningCopy::Found> Safety::leftBehind() {
   try {
-    for (const auto &found : m_alone ? m_running.leftBehind() : QList<RunningCopy::Found>())
-      if (const auto offer = offerFor(found))
-        offers << *offer;
+    return m_alone ? m_running.leftBehind() : QList<RunningCopy::Found>();
   } catch (const Fault &fault) {
-    stopRunning(
-        QStringLiteral("Was beim letzten Mal zu retten war, liegt in „%1“. %2").arg(m_folder.path(), fault.report()));
+    stopBefore(fault);
+    return {};
   }
-  return offers;
 }
 
 std::optional<Safety::Offer> Safety::lostCounts() {
@@ -304,12 +307,16 @@ void Safety::keepCopying(DiskWorker &worker, std::atomic<bool> &inWork, Trouble 
 }
 
 std::optional<Safety::Offer> Safety::offerFor(const RunningCopy::Found &found) {
-  if (found.image.before && found.isWhole() && progressOf(found.image, m_store) == Progress::Half)
-    return offerReplaced(found);
-  const auto news = found.image.before && found.isWhole() ? QList<SavedFile>() : newsOf(found, m_store);
-  if (!news.isEmpty() || !noteIn(found.image).isEmpty() || !found.isWhole())
-    return offerWork(found, news);
-  settle(found);
+  try {
+    if (found.image.before && found.isWhole() && progressOf(found.image, m_store) == Progress::Half)
+      return offerReplaced(found);
+    const auto news = found.image.before && found.isWhole() ? QList<SavedFile>() : newsOf(found, m_store);
+    if (!news.isEmpty() || !noteIn(found.image).isEmpty() || !found.isWhole())
+      return offerWork(found, news);
+    settle(found);
+  } catch (const Fault &fault) {
+    stopBefore(fault);
+  }
   return {};
 }
 
@@ -357,6 +364,11 @@ void Safety::settle(const RunningCopy::Found &found) {
   } catch (const Fault &fault) {
     stopRunning(fault.report());
   }
+}
+
+void Safety::stopBefore(const Fault &fault) {
+  stopRunning(
+      QStringLiteral("Was beim letzten Mal zu retten war, liegt in „%1“. %2").arg(m_folder.path(), fault.report()));
 }
 
 void Safety::stopRunning(const QString &reason) {

@@ -33,8 +33,8 @@ public:
   /// nothing but tell so.
   bool claim();
   /// What runs that did not end well have left behind and the files do not hold; it lies in a folder "Rettung …" now.
-  /// An offer comes again at each start until it is answered.
-  QList<Offer> leftBehind();
+  /// An offer comes again at each start until it is answered; each is made after the answer to the one before it.
+  void offerLeftBehind(const std::function<void(const Offer &)> &ask);
   /// Where Vext.dat was cut off: the counts of the newest safety copy.
   std::optional<Offer> lostCounts();
 
@@ -76,10 +76,12 @@ private:
   void write(const RaceImage &image);
   void keepCopying(DiskWorker &worker, std::atomic<bool> &inWork, Trouble &trouble, const QString &what,
                    std::function<void()> copy);
+  QList<RunningCopy::Found> leftBehind();
   std::optional<Offer> offerFor(const RunningCopy::Found &found);
   Offer offerReplaced(const RunningCopy::Found &found);
   Offer offerWork(const RunningCopy::Found &found, const QList<SavedFile> &news);
   void settle(const RunningCopy::Found &found);
+  void stopBefore(const Fault &fault);
   void stopRunning(const QString &reason);
   QString putIntoRescue(const RunningCopy::Found &found);
   QString rescueWork();

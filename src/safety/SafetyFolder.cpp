@@ -51,12 +51,17 @@ bool belongsTo(const QString &safetyFolder, const QString &dataFolder) {
 } // namespace
 
 SafetyFolder::SafetyFolder(const QString &dataFolder)
-    : m_dataFolder(absoluteFolder(dataFolder)), m_path(placeFor(m_dataFolder)) {}
+    : m_given(dataFolder), m_path(placeFor(absoluteFolder(dataFolder))) {}
+
+QString SafetyFolder::dataFolder() const {
+  return absoluteFolder(m_given);
+}
 
 void SafetyFolder::open() {
+  const QString owner = dataFolder();
   makeFolder(allFolders(), Access::Private);
   if (!fileExists(m_path))
-    if (const QString former = formerFolder(); !former.isEmpty()) {
+    if (const QString former = formerFolder(owner); !former.isEmpty()) {
       if (System::Lock().take(former + QStringLiteral("/VEXT.lock")) == System::Lock::State::Taken) {
         m_path = former;
         return;
@@ -64,16 +69,16 @@ void SafetyFolder::open() {
       moveFolder(former, m_path);
     }
   makeFolder(m_path, Access::Private);
-  const QByteArray note = (m_dataFolder + QLatin1Char('\n') + System::identityOf(m_dataFolder)).toUtf8();
+  const QByteArray note = (owner + QLatin1Char('\n') + System::identityOf(owner)).toUtf8();
   if (readIfThere(m_path + OwnerNote) != note)
     replaceFile(m_path + OwnerNote, note, Access::Private);
 }
 
-QString SafetyFolder::formerFolder() const {
+QString SafetyFolder::formerFolder(const QString &dataFolder) const {
   for (const auto &name : foldersIn(allFolders())) {
     const QString folder = allFolders() + QLatin1Char('/') + name;
     try {
-      if (belongsTo(folder, m_dataFolder))
+      if (belongsTo(folder, dataFolder))
         return folder;
     } catch (const Fault &) { // one that cannot be read is nobody's
     }

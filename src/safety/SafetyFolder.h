@@ -10,8 +10,8 @@ public:
   /// `dataFolder` as the store has it; empty is the working directory. Touches nothing yet.
   explicit SafetyFolder(const QString &dataFolder);
 
-  /// The whole path of the data folder.
-  const QString &dataFolder() const { return m_dataFolder; }
+  /// The whole path of the data folder, as it is called now.
+  QString dataFolder() const;
   const QString &path() const { return m_path; }
 
   /// Makes the folder, or takes that of the data folder's earlier name or place; if VEXT runs there still, that one is
@@ -19,9 +19,10 @@ public:
   void open();
 
 private:
-  QString formerFolder() const;
+  QString formerFolder(const QString &dataFolder) const;
 
-  QString m_dataFolder, m_path;
+  /// The folder as it was given, and the place of its safety.
+  QString m_given, m_path;
 };
 
 /// A new path "Rettung <date> <time>" in a folder.
