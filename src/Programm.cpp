@@ -68,6 +68,10 @@ void Programm::sicherungHinweis(const QString &text) {
   m_desk.setHint(text);
 }
 
+void Programm::protokollHinweis(const QString &text) {
+  m_menu->protokollHinweis(text);
+}
+
 QList<SavedFile> Programm::openWork() const {
   QList<SavedFile> work;
   QString note = m_desk.openInput();

@@ -33,6 +33,8 @@ public:
   QList<SavedFile> openWork() const;
   /// What the quiet line at the foot of every screen tells; empty = nothing.
   void sicherungHinweis(const QString &text);
+  /// What the line at the foot of the menu alone tells besides.
+  void protokollHinweis(const QString &text);
 
 private:
   using Opening = std::function<void()>;

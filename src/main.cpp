@@ -88,6 +88,7 @@ int run(Store &store, Safety &safety, DiskWorker &worker) {
     worker.wait();
   };
   safety.hint = [&programm](const QString &line) { programm.sicherungHinweis(line); };
+  safety.journalHint = [&programm](const QString &line) { programm.protokollHinweis(line); };
   programm.start();
   safety.start();
   const int code = QApplication::exec();

@@ -120,6 +120,17 @@ void writeFile(const QString &path, const QByteArray &bytes, Access access) {
   writeAll(file, bytes);
 }
 
+void appendToFile(const QString &path, const QByteArray &bytes) {
+  QFile file(path);
+  if (!file.open(QIODevice::WriteOnly | QIODevice::Append))
+    throw FileFault(path, QStringLiteral("geöffnet"));
+  const bool isNew = file.size() == 0;
+  writeAll(file, bytes);
+  System::sync(file);
+  if (isNew)
+    System::syncFolder(folderOf(path));
+}
+
 void replaceFile(const QString &path, const QByteArray &bytes, Access access) {
   const QString place = placeOf(path), beside = place + QStringLiteral(".neu");
   QFile file(beside);

@@ -31,6 +31,8 @@ QByteArray readFile(const QString &path, qint64 largest = LargestRecordFile);
 
 /// Creates the file anew in place; earlier content is gone. It is on the disk only after syncFile.
 void writeFile(const QString &path, const QByteArray &bytes, Access access = Access::Usual);
+/// Adds to the end of the file, which comes into being if it does not exist. Waits for the disk.
+void appendToFile(const QString &path, const QByteArray &bytes);
 /// Replaces the file whole or not at all, also when the power goes in between: the bytes go into a file beside it, with
 /// ".neu" behind its name, which then takes its place. Waits for the disk.
 void replaceFile(const QString &path, const QByteArray &bytes, Access access = Access::Usual);

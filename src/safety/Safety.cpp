@@ -106,9 +106,10 @@ QString Safety::Trouble::get() {
 }
 
 Safety::Safety(Store &store, DiskWorker &worker)
-    : waitAtSave([&worker] { worker.wait(); }), m_store(store), m_worker(worker), m_folder(store.DatenOrdner),
-      m_running(m_folder.path()), m_copies(store.DatenOrdner.isEmpty() ? QStringLiteral(".") : store.DatenOrdner,
-                                           m_folder.path() + QStringLiteral("/Kopien")) {
+    : waitAtSave([&worker] { worker.wait(); }), m_store(store), m_worker(worker), m_journal(store),
+      m_folder(store.DatenOrdner), m_running(m_folder.path()),
+      m_copies(store.DatenOrdner.isEmpty() ? QStringLiteral(".") : store.DatenOrdner,
+               m_folder.path() + QStringLiteral("/Kopien")) {
   m_ticks.setTimerType(Qt::PreciseTimer);
   m_ticks.setInterval(RunningInterval);
   m_ticks.callOnTimeout([this] { tick(); });
@@ -117,6 +118,9 @@ Safety::Safety(Store &store, DiskWorker &worker)
 }
 
 Safety::~Safety() {
+  if (m_syncSoon)
+    m_store.umgebung.syncSoon = m_syncSoon;
+  m_writer.wait();
   m_copier.wait();
   m_worker.wait();
 }
@@ -178,14 +182,25 @@ void Safety::start() {
     m_store.nachDemSpeichern = [this] { m_copySoon.start(0ms); };
     m_store.vorDemErsetzen = [this](const RaceImage &image) { beginReplacing(image); };
     m_store.nachDemErsetzen = [this] { endReplacing(); };
+    listenToWrites();
+    addToJournal();
     m_ticks.start();
     m_copySoon.start(CopyDelay);
   }
   tell();
 }
 
+void Safety::listenToWrites() {
+  m_syncSoon = m_store.umgebung.syncSoon;
+  m_store.umgebung.syncSoon = [this](const QStringList &paths) {
+    m_journal.written(paths);
+    m_syncSoon(paths);
+  };
+}
+
 void Safety::finish() {
   m_ticks.stop();
+  finishJournal();
   m_worker.wait();
   m_copier.wait();
   if (m_alone)
@@ -203,10 +218,12 @@ QString Safety::rescue() noexcept {
   try {
     m_ticks.stop();
     m_copySoon.stop();
-    hint = [](const QString &) {};
+    hint = journalHint = [](const QString &) {};
     m_worker.wait();
     forgetFailures();
-    return rescueWork();
+    const QString told = rescueWork();
+    finishJournal();
+    return told;
   } catch (const std::exception &e) {
     return QStringLiteral("Die offene Veranstaltung konnte nicht gesichert werden: ") + QString::fromUtf8(e.what());
   }
@@ -229,6 +246,8 @@ void Safety::forgetFailures() {
 }
 
 void Safety::tick() {
+  if (!m_journalInWork)
+    addToJournal();
   if (!m_active || m_replacing || m_runningInWork)
     return;
   try {
@@ -237,6 +256,22 @@ void Safety::tick() {
     m_runningTrouble.set(QStringLiteral("Die laufende Sicherung ist nicht gelungen. ") + QString::fromUtf8(e.what()));
   }
   tell();
+}
+
+void Safety::addToJournal() {
+  if (!m_alone)
+    return;
+  auto job = m_journal.look(QDateTime::currentDateTime());
+  m_journalInWork = true;
+  keepCopying(m_writer, m_journalInWork, m_journalTrouble, QStringLiteral("Der Eintrag ins Protokoll"), std::move(job));
+}
+
+void Safety::finishJournal() noexcept {
+  try {
+    addToJournal();
+    m_writer.wait();
+  } catch (const std::exception &) { // a day without its last lines
+  }
 }
 
 void Safety::copyAll() {
@@ -248,12 +283,14 @@ void Safety::copyAll() {
 }
 
 void Safety::wait() {
+  m_writer.wait();
   m_copier.wait();
   m_worker.wait();
   tell();
 }
 
 void Safety::copyBeforeSave() {
+  addToJournal();
   if (m_runningInWork)
     waitAtSave();
   tell(); // one that has failed is tried again
@@ -437,8 +474,12 @@ void Safety::tell() {
   if (!running.isEmpty() && !m_runningInWork)
     m_handed.reset(); // to be tried again
   const QString line = QStringList{m_refusal, running, m_copyTrouble.get()}.join(QLatin1Char(' ')).trimmed();
-  if (line == m_told)
+  tellOnce(line, m_told, hint);
+  tellOnce(m_journalTrouble.get(), m_journalTold, journalHint);
+}
+
+void Safety::tellOnce(const QString &line, QString &told, const std::function<void(const QString &)> &hint) {
+  if (line == std::exchange(told, line))
     return;
-  m_told = line;
   hint(line);
 }

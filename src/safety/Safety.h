@@ -2,6 +2,7 @@
 
 #include "platform/DiskWorker.h"
 #include "platform/System.h"
+#include "safety/Journal.h"
 #include "safety/RunningCopy.h"
 #include "safety/SafetyCopies.h"
 #include "safety/SafetyFolder.h"
@@ -12,8 +13,8 @@
 
 /// What saves the work beside the data folder, in the user's data location under VEXT/Sicherung with one subfolder for
 /// each data folder: the running copy of the work, its rescue after a fault or a death of the program, and the safety
-/// copies of all files. It writes in the thread of the disk worker. Nothing of it ever stops the work: what fails
-/// becomes a line for the screens.
+/// copies of all files; and the journal, which lies in the data folder. It writes in threads of disk workers. Nothing
+/// of it ever stops the work: what fails becomes a line for the screens.
 class Safety {
 public:
   /// A question before the menu: what was found, and what each answer does. Without a second answer it only tells.
@@ -47,7 +48,7 @@ public:
   /// and the lines for the screens; never throws.
   QString rescue() noexcept;
 
-  /// Renews the running copy if the work has changed since; called by the timer.
+  /// Renews the running copy and adds to the journal if the work has changed since; called by the timer.
   void tick();
   /// Makes a safety copy; called by the timer.
   void copyAll();
@@ -56,6 +57,8 @@ public:
 
   /// Called with each new line for the screens; empty when all is well again.
   std::function<void(const QString &)> hint = [](const QString &) {};
+  /// The same of the journal, which only the menu tells.
+  std::function<void(const QString &)> journalHint = [](const QString &) {};
   /// Waits for the disk worker before a save; the program shows the busy pointer meanwhile.
   std::function<void()> waitAtSave;
   /// What open screens would write if they closed now, and the note of fields not yet left.
@@ -70,6 +73,9 @@ private:
     QString get();
   };
 
+  void listenToWrites();
+  void addToJournal();
+  void finishJournal() noexcept;
   void copyBeforeSave();
   void beginReplacing(const RaceImage &image);
   void endReplacing();
@@ -89,11 +95,15 @@ private:
   void clearRunning();
   void forgetFailures();
   void tell();
+  static void tellOnce(const QString &line, QString &told, const std::function<void(const QString &)> &hint);
 
   Store &m_store;
   DiskWorker &m_worker;
   /// Makes the safety copies, which may take long, and keeps no running copy waiting.
   DiskWorker m_copier;
+  /// Writes the journal, so that it keeps nobody waiting.
+  DiskWorker m_writer;
+  Journal m_journal;
   SafetyFolder m_folder;
   RunningCopy m_running;
   SafetyCopies m_copies;
@@ -106,8 +116,10 @@ private:
   bool m_replacing = false;
   /// The image handed to the worker last; nothing after a failure.
   std::optional<RaceImage> m_handed;
-  std::atomic<bool> m_runningInWork = false, m_copyInWork = false;
+  std::atomic<bool> m_runningInWork = false, m_copyInWork = false, m_journalInWork = false;
+  /// What the program does with written files, while the journal hears of them too.
+  std::function<void(const QStringList &)> m_syncSoon;
   QTimer m_ticks, m_copySoon;
-  Trouble m_runningTrouble, m_copyTrouble;
-  QString m_refusal, m_told;
+  Trouble m_runningTrouble, m_copyTrouble, m_journalTrouble;
+  QString m_refusal, m_told, m_journalTold;
 };

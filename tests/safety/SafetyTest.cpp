@@ -383,3 +383,25 @@ TEST_F(SafetyOfARace, TroubleIsALineForTheScreensUntilItIsGone) {
       << lines[0].toStdString();
   EXPECT_EQ(lines[1], QString());
 }
+
+TEST_F(SafetyOfARace, TheJournalNotesRecordsAndTheLastTimesAndTellsTheMenuOfItsTrouble) {
+  QStringList lines, menu;
+  last->hint = [&](const QString &text) { lines << text; };
+  last->journalHint = [&](const QString &text) { menu << text; };
+  const QString folder = test.folder.filePath(QStringLiteral("Protokoll"));
+  last->wait(); // for the first look at the registers
+  writeFile(folder, {});
+  test.addAthlete(QStringLiteral("NEU Eva"), 2012, 0);
+  type(1);
+  QFile::remove(folder);
+  type(2);
+  ASSERT_EQ(menu.size(), 2);
+  EXPECT_TRUE(menu[0].startsWith(QStringLiteral("Der Eintrag ins Protokoll"))) << menu[0].toStdString();
+  EXPECT_EQ(menu[1], QString());
+  EXPECT_EQ(lines, QStringList());
+  store.Teilnehmer[1].Zeit1 = 63.45;
+  last->finish();
+  const QByteArray all = readFile(folder + QLatin1Char('/') + filesIn(folder).value(0));
+  for (const char *part : {";;;NEU Eva;Name;;NEU Eva\r\n", ";1;1;BERGER Karl;Zeit 1;;1,00\r\n", "2,00;1:03,45\r\n"})
+    EXPECT_TRUE(all.contains(part)) << part << " in " << all.toStdString();
+}
