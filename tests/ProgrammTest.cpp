@@ -189,18 +189,18 @@ TEST_F(ProgrammTest, WhatWaitsForItsButtonIsKeptAsANote) {
     const auto work = programm->openWork();
     return work.isEmpty() ? std::string() : work.last().bytes.toStdString();
   };
-  const auto type = [this](const char *screen, const char *box, const char *list, const char *typed) {
+  const auto typeAndLeave = [this](const char *screen, const char *box, const char *next, const char *typed) {
     control<QLineEdit>(screen, box)->setFocus();
     control<QLineEdit>(screen, box)->selectAll();
     QTest::keyClicks(control<QLineEdit>(screen, box), QLatin1String(typed));
-    control<LineList>(screen, list)->setFocus();
+    control<QAbstractButton>(screen, next)->setFocus();
   };
-  type("Form4", "Text2", "List1", "Nachtslalom");
+  typeAndLeave("Form4", "Text2", "Command7", "Nachtslalom");
   EXPECT_NE(note().find("„Nachtslalom“"), std::string::npos) << note();
   press("Form4", {"Command7", "Command6"});
   EXPECT_EQ(note(), "");
   chooseLine("Form7", "List2", 0);
-  type("Form7", "Text3", "List2", "2");
+  typeAndLeave("Form7", "Text3", "Command2", "2");
   EXPECT_NE(note().find("„0:2:0“ bei Nr. 7 BERGER Karl"), std::string::npos) << note();
   press("Form7", "Command2");
   EXPECT_EQ(note(), "");

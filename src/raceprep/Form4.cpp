@@ -10,6 +10,12 @@
 
 #include <QMouseEvent>
 
+namespace {
+
+const auto Deleted = QStringLiteral("leer");
+
+} // namespace
+
 Form4::Form4(Desk &desk, Store &store, Printers &printers)
     : Screen(desk, QStringLiteral("Form4"), 4), ui(std::make_unique<Ui::Form4>()), m_store(store),
       m_printers(printers) {
@@ -69,7 +75,8 @@ void Form4::becomeActive() {
 }
 
 QString Form4::waiting() const {
-  if (!ui->Text2->isModified() || trimmedBlanks(bezeichnung()) == m_store.Rennen.RennenName)
+  const QString told = m_store.Rennen.RennenName;
+  if (trimmedBlanks(bezeichnung()) == told || (told.isEmpty() && bezeichnung() == Deleted))
     return {};
   return QStringLiteral("%1: %2 „%3“\n").arg(windowTitle(), ui->Text2->accessibleName(), bezeichnung());
 }
@@ -91,7 +98,7 @@ void Form4::listeFuellen() {
 
 void Form4::geloeschtZeigen() {
   listeFuellen();
-  ui->Text2->setText(QStringLiteral("leer"));
+  ui->Text2->setText(Deleted);
 }
 
 // A number out of range stays as it was typed.
