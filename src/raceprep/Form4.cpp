@@ -74,11 +74,12 @@ void Form4::becomeActive() {
   m_store.AktRennen = m_store.RennenIdx;
 }
 
+// An empty field, as while a race is being opened, has nothing to lose.
 QString Form4::waiting() const {
-  const QString told = m_store.Rennen.RennenName;
-  if (trimmedBlanks(bezeichnung()) == told || (told.isEmpty() && bezeichnung() == Deleted))
+  const QString typed = trimmedBlanks(bezeichnung()), told = m_store.Rennen.RennenName;
+  if (typed.isEmpty() || typed == told || (told.isEmpty() && typed == Deleted))
     return {};
-  return QStringLiteral("%1: %2 „%3“\n").arg(windowTitle(), ui->Text2->accessibleName(), bezeichnung());
+  return QStringLiteral("%1: %2 „%3“\n").arg(windowTitle(), ui->Text2->accessibleName(), typed);
 }
 
 void Form4::waehlen(int nummer) {
