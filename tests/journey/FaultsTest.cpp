@@ -1,5 +1,6 @@
 #include "core/RaceFiles.h"
 #include "platform/Files.h"
+#include "support/RealProgram.h"
 #include "support/TestStore.h"
 
 #include <QDir>
@@ -37,14 +38,7 @@ protected:
   ~DyingProgram() override { kill(); }
 
   void start(const QString &steps) {
-    auto environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("XDG_DATA_HOME"), home.path());
-    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home.path());
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-    environment.insert(QStringLiteral("QT_QPA_GENERIC_PLUGINS"), QStringLiteral("operator"));
-    environment.insert(QStringLiteral("QT_PLUGIN_PATH"), QStringLiteral(VEXT_PLUGINS));
-    environment.insert(QStringLiteral("OPERATOR_STEPS"), steps);
-    program.setProcessEnvironment(environment);
+    program.setProcessEnvironment(realProgram(home.path(), steps));
     program.setWorkingDirectory(test.folder.path());
     program.start(QStringLiteral(VEXT_PROGRAM), QStringList());
   }

@@ -1,3 +1,4 @@
+#include "support/RealProgram.h"
 #include "support/TestStore.h"
 
 #include <QProcess>
@@ -19,7 +20,9 @@ protected:
     server.start(QStringLiteral("Xvfb"), {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
                                           QStringLiteral("0"), QStringLiteral("1366x768x24")});
     ASSERT_TRUE(server.waitForReadyRead(Patience));
-    environment.insert(QStringLiteral("DISPLAY"), QLatin1Char(':') + QString::fromLatin1(server.readLine()).trimmed());
+    display = QLatin1Char(':') + QString::fromLatin1(server.readLine()).trimmed();
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DISPLAY"), display);
     manager.setProcessEnvironment(environment);
     manager.start(QStringLiteral("openbox"), QStringList());
     ASSERT_TRUE(manager.waitForStarted(Patience));
@@ -35,15 +38,11 @@ protected:
 
   /// The places after the program has run with these steps.
   QByteArray places(const QString &steps) {
-    for (const auto &[name, value] : std::initializer_list<std::pair<const char *, QString>>{
-             {"XDG_DATA_HOME", home.path()},
-             {"XDG_CONFIG_HOME", home.path()},
-             {"QT_QPA_PLATFORM", QStringLiteral("xcb")},
-             {"QT_QPA_GENERIC_PLUGINS", QStringLiteral("operator")},
-             {"QT_PLUGIN_PATH", QStringLiteral(VEXT_PLUGINS)},
-             {"ASAN_OPTIONS", QStringLiteral("detect_leaks=0")}, // of the X libraries
-             {"OPERATOR_PACE", QStringLiteral("200")},
-             {"OPERATOR_STEPS", steps}})
+    auto environment = realProgram(home.path(), steps);
+    for (const auto &[name, value] :
+         std::initializer_list<std::pair<const char *, QString>>{{"DISPLAY", display},
+                                                                 {"QT_QPA_PLATFORM", QStringLiteral("xcb")},
+                                                                 {"OPERATOR_PACE", QStringLiteral("200")}})
       environment.insert(QLatin1String(name), value);
     QProcess program;
     program.setProcessEnvironment(environment);
@@ -56,7 +55,7 @@ protected:
 
   QTemporaryDir home;
   TestStore test;
-  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  QString display;
   QProcess server, manager;
 };
 

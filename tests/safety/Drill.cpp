@@ -3,9 +3,11 @@
 #include "platform/Faults.h"
 #include "platform/Files.h"
 #include "safety/CallKinds.h"
+#include "support/RealProgram.h"
 
 #include <QDir>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <csignal>
@@ -31,17 +33,10 @@ struct Place {
 };
 
 QProcessEnvironment environment(const Place &place, const QStringList &steps, const Mishap &mishap) {
-  auto all = QProcessEnvironment::systemEnvironment();
+  auto all = realProgram(place.home(), steps.join(QLatin1Char('\n')));
   const std::pair<const char *, QString> own[] = {
       {"LD_PRELOAD", QStringLiteral(VEXT_FILECALLS)},
-      {"ASAN_OPTIONS", QStringLiteral("verify_asan_link_order=0")},
-      {"XDG_DATA_HOME", place.home()},
-      {"XDG_CONFIG_HOME", place.home()},
       {"QT_NO_GLIB", QStringLiteral("1")},
-      {"QT_QPA_PLATFORM", QStringLiteral("offscreen")},
-      {"QT_QPA_GENERIC_PLUGINS", QStringLiteral("operator")},
-      {"QT_PLUGIN_PATH", QStringLiteral(VEXT_PLUGINS)},
-      {"OPERATOR_STEPS", steps.join(QLatin1Char('\n'))},
       {"OPERATOR_ANSWERS", Answers},
       {"OPERATOR_LOG", place.log()},
       {"FILECALLS_LOG", place.log()},
@@ -182,7 +177,9 @@ QString accountOf(const char *which, const Mishap &mishap, const Run &run) {
       .arg(run.code)
       .arg(run.killed ? QStringLiteral(", killed") : QString(),
            run.log.mid(qMax<qsizetype>(0, end - 5), 8).join(QStringLiteral("\n  ")),
-           QStringList(run.errors.split(QLatin1Char('\n')).filter(QStringLiteral("VEXT:"))).join(QLatin1Char('\n')));
+           QStringList(run.errors.split(QLatin1Char('\n'))
+                           .filter(QRegularExpression(QStringLiteral("VEXT:|ERROR:|SUMMARY:|runtime error"))))
+               .join(QLatin1Char('\n')));
 }
 
 void addErrors(std::vector<Case> &cases, const Case &base, Mishap Case::*mishap, int call, const CallKind &kind) {
