@@ -10,12 +10,6 @@
 
 #include <QMouseEvent>
 
-namespace {
-
-const auto Deleted = QStringLiteral("leer");
-
-} // namespace
-
 Form4::Form4(Desk &desk, Store &store, Printers &printers)
     : Screen(desk, QStringLiteral("Form4"), 4), ui(std::make_unique<Ui::Form4>()), m_store(store),
       m_printers(printers) {
@@ -74,10 +68,9 @@ void Form4::becomeActive() {
   m_store.AktRennen = m_store.RennenIdx;
 }
 
-// An empty field, as while a race is being opened, has nothing to lose.
 QString Form4::waiting() const {
-  const QString typed = trimmedBlanks(bezeichnung()), told = m_store.Rennen.RennenName;
-  if (typed.isEmpty() || typed == told || (told.isEmpty() && typed == Deleted))
+  const QString typed = ui->Text2->text();
+  if (typed == m_shownName)
     return {};
   return QStringLiteral("%1: %2 „%3“\n").arg(windowTitle(), ui->Text2->accessibleName(), typed);
 }
@@ -99,13 +92,15 @@ void Form4::listeFuellen() {
 
 void Form4::geloeschtZeigen() {
   listeFuellen();
-  ui->Text2->setText(Deleted);
+  ui->Text2->setText(QStringLiteral("leer"));
+  m_shownName = ui->Text2->text();
 }
 
 // A number out of range stays as it was typed.
 void Form4::openRace() {
   rennenOeffnen(m_store, ui->Text1->text());
   RecordText::show(ui->Text2, m_store.Rennen.RennenName);
+  m_shownName = ui->Text2->text();
 }
 
 void Form4::nextRace() {
@@ -115,6 +110,7 @@ void Form4::nextRace() {
 
 void Form4::enterName() {
   rennenEintragen(m_store, bezeichnung());
+  m_shownName = ui->Text2->text();
   listeFuellen();
   lockFunctions(false);
 }

@@ -67,4 +67,6 @@ private:
   std::unique_ptr<Ui::Form4> ui;
   Store &m_store;
   Printers &m_printers;
+  /// What `Text2` showed before somebody typed into it.
+  QString m_shownName;
 };
