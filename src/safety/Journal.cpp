@@ -112,10 +112,9 @@ void Journal::note(const QList<Change> &changes, const QDateTime &when) {
 void Journal::flush() {
   if (m_lines.isEmpty())
     return;
+  const bool atLineEnd = std::exchange(m_atLineEnd, false);
   makeFolder(m_folder);
-  const QByteArray beginning = m_atLineEnd ? QByteArray() : beginningOf(m_path);
-  m_atLineEnd = false;
-  appendToFile(m_path, beginning + m_lines);
+  appendToFile(m_path, (atLineEnd ? QByteArray() : beginningOf(m_path)) + m_lines);
   m_atLineEnd = true;
   m_lines.clear();
 }

@@ -5,6 +5,8 @@
 #include "platform/Files.h"
 #include "support/TestStore.h"
 
+#include <QDir>
+
 namespace {
 
 const QDateTime Morning(QDate(2026, 1, 15), QTime(10, 42, 7));
@@ -102,6 +104,9 @@ TEST_F(JournalOfARace, WhatWasTypedRightAfterOpeningIsToldAndTheOpeningIsNot) {
 
 TEST_F(JournalOfARace, RefusedLinesComeLaterAndATornLineIsLeftBehind) {
   const auto type = [&](double time) { store.Teilnehmer[1].Zeit1 = time; };
+  type(9);
+  look();
+  QDir(store.DatenOrdner + QStringLiteral("Protokoll")).removeRecursively();
   test.writeFile(QStringLiteral("Protokoll"), "kein Ordner");
   type(1);
   EXPECT_THROW(look(), Fault);
@@ -110,7 +115,8 @@ TEST_F(JournalOfARace, RefusedLinesComeLaterAndATornLineIsLeftBehind) {
   QFile::remove(store.DatenOrdner + QStringLiteral("Protokoll"));
   look();
   const QString who = QStringLiteral("10:42:07;1;28;WEIßKIRCHNER Antonia;Zeit 1;");
-  EXPECT_TRUE(lines().endsWith(who + QStringLiteral("45,98;1,00|") + who + QStringLiteral("1,00;2,00|")));
+  EXPECT_TRUE(test.file(QStringLiteral("Protokoll/2026-01-15.csv")).startsWith("\xEF\xBB\xBFUhrzeit"));
+  EXPECT_TRUE(lines().endsWith(who + QStringLiteral("9,00;1,00|") + who + QStringLiteral("1,00;2,00|")));
   test.writeFile(QStringLiteral("Protokoll/2026-01-16.csv"), "10:42:07;1;28;WEI");
   type(3);
   look(Morning.addDays(1));
