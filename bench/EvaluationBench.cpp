@@ -31,12 +31,11 @@ struct Event {
   }
 
   void addAthlete(int person) {
-    LaeuferLeeren(store);
-    store.Laeufer.Name = QStringLiteral("MÖLLER-STEINHUBER Lisa %1").arg(person * 7919 % 10007);
-    store.Laeufer.Geburtsdatum = 36526 + 365.25 * (person % 20);
-    store.Laeufer.Geschlecht = qint16(person % 2);
-    store.LaeuferIdx = person;
-    LaeuferSchreiben(store);
+    LaeuferSatz athlete;
+    athlete.Name = QStringLiteral("MÖLLER-STEINHUBER Lisa %1").arg(person * 7919 % 10007);
+    athlete.Geburtsdatum = 36526 + 365.25 * (person % 20);
+    athlete.Geschlecht = qint16(person % 2);
+    LaeuferSchreiben(store, person, athlete);
   }
 
   void addRace(int race) {

@@ -41,11 +41,11 @@ public:
 
 private:
   void enter(int row) {
-    store.Laeufer.Name = QStringLiteral("ÖLLINGER-MÜLLER Elisabeth %1").arg(row * 7919 % 1000);
-    store.Laeufer.Geburtsdatum = toDays(QDate(1950 + row % 70, 7, 1));
-    store.Laeufer.Geschlecht = qint16(row % 2);
-    store.LaeuferIdx = row;
-    LaeuferSchreiben(store);
+    LaeuferSatz athlete;
+    athlete.Name = QStringLiteral("ÖLLINGER-MÜLLER Elisabeth %1").arg(row * 7919 % 1000);
+    athlete.Geburtsdatum = toDays(QDate(1950 + row % 70, 7, 1));
+    athlete.Geschlecht = qint16(row % 2);
+    LaeuferSchreiben(store, row, athlete);
     TeilnehmerZeile &participant = store.Teilnehmer[row];
     participant.LaeuferNr = participant.StartNr = row;
     participant.Zeit1 = 40 + row * 7919 % 1000 / 100.0;

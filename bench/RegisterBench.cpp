@@ -31,22 +31,23 @@ struct Event {
     store.DatenOrdner = folder.path() + QLatin1Char('/');
     storeStarten(store);
     alleDateienOeffnen(store);
-    for (store.VereinIdx = 1; store.VereinIdx <= Clubs; ++store.VereinIdx) {
-      store.Verein.VereinName = store.Verein.VereinKurz = QStringLiteral("Verein ") + plainText(store.VereinIdx);
-      VereinSchreiben(store);
+    for (int n = 1; n <= Clubs; ++n) {
+      VereinSatz club;
+      club.VereinName = club.VereinKurz = QStringLiteral("Verein ") + plainText(n);
+      VereinSchreiben(store, n, club);
     }
-    for (store.LaeuferIdx = 1; store.LaeuferIdx <= Athletes; ++store.LaeuferIdx)
-      addAthlete();
+    for (int n = 1; n <= Athletes; ++n)
+      addAthlete(n);
     for (int row = 1; row <= Participants; ++row)
       store.Teilnehmer[row].LaeuferNr = row * 7;
   }
 
-  void addAthlete() {
-    const int n = store.LaeuferIdx;
-    store.Laeufer.Name = Names[n * 7 % Names.size()] + QStringLiteral(" Vorname") + plainText(n * 7919 % Athletes);
-    store.Laeufer.Verein1 = qint16(1 + n % Clubs);
-    store.Laeufer.Geburtsdatum = toDays(QDate(1950 + n % 70, 7, 1));
-    LaeuferSchreiben(store);
+  void addAthlete(int n) {
+    LaeuferSatz athlete;
+    athlete.Name = Names[n * 7 % Names.size()] + QStringLiteral(" Vorname") + plainText(n * 7919 % Athletes);
+    athlete.Verein1 = qint16(1 + n % Clubs);
+    athlete.Geburtsdatum = toDays(QDate(1950 + n % 70, 7, 1));
+    LaeuferSchreiben(store, n, athlete);
   }
 
   QTemporaryDir folder;
@@ -72,8 +73,8 @@ template <typename Control> Control *control(QWidget &form, const char *name) {
 void passOverRecords(benchmark::State &state) {
   auto &store = event().store;
   for ([[maybe_unused]] auto _ : state)
-    for (store.LaeuferIdx = 1; store.LaeuferIdx <= store.LaeuferAnzahl; ++store.LaeuferIdx)
-      LaeuferLesen(store);
+    for (int n = 1; n <= store.LaeuferAnzahl; ++n)
+      benchmark::DoNotOptimize(LaeuferLesen(store, n));
 }
 
 void sortLines(benchmark::State &state) {

@@ -26,9 +26,10 @@ struct LargeFolder {
     store.DatenOrdner = path();
     storeStarten(store);
     alleDateienOeffnen(store);
-    for (store.LaeuferIdx = 1; store.LaeuferIdx <= Athletes; ++store.LaeuferIdx) {
-      store.Laeufer.Name = QStringLiteral("MÜLLER Vorname") + plainText(store.LaeuferIdx);
-      LaeuferSchreiben(store);
+    for (int n = 1; n <= Athletes; ++n) {
+      LaeuferSatz athlete;
+      athlete.Name = QStringLiteral("MÜLLER Vorname") + plainText(n);
+      LaeuferSchreiben(store, n, athlete);
     }
     for (int row = 1; row <= Rows; ++row)
       store.Teilnehmer[row].LaeuferNr = row;

@@ -54,14 +54,13 @@ struct Event {
   }
 
   void addParticipant(int row) {
-    LaeuferLeeren(store);
+    LaeuferSatz athlete;
     const auto letter = [this] { return QChar(int('A') + int(26 * umgebung.zufallszahl())); };
-    store.Laeufer.Name =
+    athlete.Name =
         QStringLiteral("%1%2%3ÖLLER-STEINHUBER %4lisabeth").arg(letter()).arg(letter()).arg(letter()).arg(letter());
-    store.Laeufer.Geburtsdatum = 36526 + 365.25 * (row % 20); // 2000 and later
-    store.Laeufer.Geschlecht = qint16(row % 2);
-    store.LaeuferIdx = row;
-    LaeuferSchreiben(store);
+    athlete.Geburtsdatum = 36526 + 365.25 * (row % 20); // 2000 and later
+    athlete.Geschlecht = qint16(row % 2);
+    LaeuferSchreiben(store, row, athlete);
     auto &participant = store.Teilnehmer[row];
     participant.LaeuferNr = row;
     participant.StartNr = People + 1 - row;
@@ -85,11 +84,8 @@ void bareWork(benchmark::State &state) {
   QStringList names;
   for (auto _ : state) {
     SortedLines keys;
-    for (int row = 1; row <= People; ++row) {
-      store.LaeuferIdx = row;
-      LaeuferLesen(store);
-      keys.add(QStringLiteral("00%1").arg(row % 20) + QStringLiteral("00123,45") + store.Laeufer.Name);
-    }
+    for (int row = 1; row <= People; ++row)
+      keys.add(QStringLiteral("00%1").arg(row % 20) + QStringLiteral("00123,45") + LaeuferLesen(store, row).Name);
     benchmark::DoNotOptimize(keys.take());
   }
 }

@@ -31,8 +31,7 @@ QString utf8(const char *text) {
 
 void writeClubs(Store &store) {
   for (const Club &club : Clubs) {
-    VereinLeeren(store);
-    auto &verein = store.Verein;
+    VereinSatz verein;
     verein.VereinName = utf8(club.lang);
     verein.VereinKurz = utf8(club.kurz);
     verein.VereinOesvNr = utf8(club.nummer);
@@ -42,15 +41,14 @@ void writeClubs(Store &store) {
     verein.Telefon = utf8(club.telefon);
     verein.EMail = utf8(club.mail);
     verein.Homepage = QStringLiteral("www.") + verein.EMail.section(QLatin1Char('@'), 1);
-    store.VereinIdx = store.VereinAnzahl + 1;
-    VereinSchreiben(store);
+    VereinSchreiben(store, store.VereinAnzahl + 1, verein);
   }
 }
 
 void writePeople(Store &store) {
   for (const Person &person : People) {
-    LaeuferLeeren(store);
-    auto &laeufer = store.Laeufer;
+    const int number = store.LaeuferAnzahl + 1;
+    LaeuferSatz laeufer;
     laeufer.Name = utf8(person.name);
     laeufer.Geschlecht = qint16(person.geschlecht);
     const int day = int(store.umgebung.zufallszahl() * 365);
@@ -59,10 +57,9 @@ void writePeople(Store &store) {
     laeufer.Verein1 = qint16(person.vereine[0]);
     laeufer.Verein2 = qint16(person.vereine[1]);
     laeufer.Verein3 = qint16(person.vereine[2]);
-    store.LaeuferIdx = store.LaeuferAnzahl + 1;
     if (person.jahrgang > 1990 && person.jahrgang < 2015)
-      laeufer.OesvNr = QString::number(4400000 + 137 * store.LaeuferIdx);
-    LaeuferSchreiben(store);
+      laeufer.OesvNr = QString::number(4400000 + 137 * number);
+    LaeuferSchreiben(store, number, laeufer);
   }
 }
 

@@ -22,6 +22,12 @@ struct Split {
   }
 };
 
+/// Who is assigned: his record, its number and his row.
+struct Person {
+  LaeuferSatz athlete;
+  int record, row;
+};
+
 QString criterionTrouble(const Split &split) {
   return QStringLiteral("Bitte in den Auswertungskriterien „%1“ neu wählen: Im Satz der Veranstaltung steht dafür %2 "
                         "statt 0 oder 1.")
@@ -29,24 +35,24 @@ QString criterionTrouble(const Split &split) {
       .arg(split.criterion);
 }
 
-QString personTrouble(const Store &store, int row, const Split &split) {
+QString personTrouble(const Person &person, const Split &split) {
   return QStringLiteral("„%1“ (Läufer Nr. %2, Zeile %3 der Teilnehmer): %4")
-      .arg(shownText(store.Laeufer.Name))
-      .arg(store.LaeuferIdx)
-      .arg(row)
+      .arg(shownText(person.athlete.Name))
+      .arg(person.record)
+      .arg(person.row)
       .arg(QString::fromUtf8(split.whatToDo));
 }
 
 // The report of a switch outside 0 and 1 must name the person, or nobody can mend it on race day.
-void requireSwitch(const Store &store, int row, const Split &split) {
+void requireSwitch(const Person &person, const Split &split) {
   if (split.result() < 0 || split.result() > 1)
     throw RangeFault(QStringLiteral("KlasseReihenfolge"), split.result(), 0, 1,
-                     split.criterion > 1 ? criterionTrouble(split) : personTrouble(store, row, split));
+                     split.criterion > 1 ? criterionTrouble(split) : personTrouble(person, split));
 }
 
-void assign(Store &store, int row, int klasse) {
-  auto &line = store.Teilnehmer[row];
-  const Split a{store.Rennen.WertGeschlecht, store.Laeufer.Geschlecht, "m/w",
+void assign(Store &store, const Person &person, int klasse) {
+  auto &line = store.Teilnehmer[person.row];
+  const Split a{store.Rennen.WertGeschlecht, person.athlete.Geschlecht, "m/w",
                 "das Geschlecht fehlt. Bitte im Menü unter „Läufer“ eintragen und die Veranstaltung wieder öffnen."};
   const Split b{store.Rennen.WertGaeste, line.Gast, "Gäste",
                 "„Gast“ ist weder 0 noch 1. Bitte in der Teilnehmerliste doppelt anklicken und neu setzen."};
@@ -57,7 +63,7 @@ void assign(Store &store, int row, int klasse) {
   if (statusSum(line) == 0)
     ++store.KlasseAnzahlOk[klasse];
   for (const Split &split : {a, b, f})
-    requireSwitch(store, row, split);
+    requireSwitch(person, split);
   line.KlasseReihe = store.KlasseReihenfolge(klasse, a.result(), b.result(), f.result());
   line.KlasseGenau = qint16(exactClass(klasse, a.result(), b.result(), f.result()));
 }
@@ -69,14 +75,14 @@ void KlassenZuordnen(Store &store) {
   store.KlasseAnzahl.fill(0);
   store.KlasseAnzahlOk.fill(0);
   for (int row = 1; row <= 1000; ++row) {
-    if (store.Teilnehmer[row].LaeuferNr < 1)
+    const int record = store.Teilnehmer[row].LaeuferNr;
+    if (record < 1)
       continue;
-    store.LaeuferIdx = store.Teilnehmer[row].LaeuferNr;
-    LaeuferLesen(store);
-    const int year = yearOf(store.Laeufer.Geburtsdatum);
+    const Person person{LaeuferLesen(store, record), record, row};
+    const int year = yearOf(person.athlete.Geburtsdatum);
     for (int k = 1; k <= 20; ++k)
       if (!store.KlasseName[k].isEmpty() && store.KlasseVon[k] <= year && store.KlasseBis[k] >= year)
-        assign(store, row, k);
+        assign(store, person, k);
   }
 }
 

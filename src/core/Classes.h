@@ -4,8 +4,7 @@
 
 /// Gives each participant his class from the birth year, the flags, the criteria and the class order; counts the
 /// classes. Of overlapping classes the last that fits holds, and all that fit count; a row that fits none keeps what it
-/// had. An athlete without sex in a race split by sex is a RangeFault that names him. Leaves `LaeuferIdx` at the last
-/// used row.
+/// had. An athlete without sex in a race split by sex is a RangeFault that names him.
 void KlassenZuordnen(Store &store);
 
 /// The three characters of a sort line that keep a class or group together.

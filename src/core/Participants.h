@@ -2,16 +2,17 @@
 
 #include "core/Store.h"
 
+#include <optional>
+
 // From a row of the participant table to the records behind it.
 
-/// Makes the athlete of a participant the current one; false, without reading, for a free row, and false for an athlete
-/// without a name.
-bool readAthlete(Store &store, const TeilnehmerZeile &participant);
+/// The athlete of a participant; nothing, without reading, for a free row, and nothing for an athlete without a name.
+std::optional<LaeuferSatz> athleteOf(const Store &store, const TeilnehmerZeile &participant);
 
 /// The sum of both runs' status, which decides whether a participant counts. A file may hold any two numbers.
 qint64 statusSum(const TeilnehmerZeile &participant);
 
-/// Record number of the club that the participant starts for, one of the current athlete's; 0 if none is chosen.
-int startClub(const Store &store, const TeilnehmerZeile &participant);
-/// Makes that club the current one; false, without reading, if there is none.
-bool readClub(Store &store, const TeilnehmerZeile &participant);
+/// Record number of the club that the athlete of a participant starts for, one of his; 0 if none is chosen.
+int startClub(const LaeuferSatz &athlete, const TeilnehmerZeile &participant);
+/// That club; nothing, without reading, if there is none.
+std::optional<VereinSatz> clubOf(const Store &store, const LaeuferSatz &athlete, const TeilnehmerZeile &participant);

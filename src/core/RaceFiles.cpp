@@ -84,17 +84,17 @@ void loadClasses(Store &store) {
     takeStandardClasses(store);
 }
 
-QStringList missingAthleteData(Store &store) {
+QStringList missingAthleteData(const Store &store) {
   QStringList lines;
   for (int row = 1; row <= 1000; ++row) {
-    if (store.Teilnehmer[row].LaeuferNr == 0)
+    const int record = store.Teilnehmer[row].LaeuferNr;
+    if (record == 0)
       continue;
-    store.LaeuferIdx = store.Teilnehmer[row].LaeuferNr;
-    LaeuferLesen(store);
-    const QString who = plainText(store.LaeuferIdx) + QStringLiteral("   ") + store.Laeufer.Name;
-    if (store.Laeufer.Geschlecht == 2)
+    const LaeuferSatz athlete = LaeuferLesen(store, record);
+    const QString who = plainText(record) + QStringLiteral("   ") + athlete.Name;
+    if (athlete.Geschlecht == 2)
       lines << who + QStringLiteral(" m/w ?");
-    if (store.Laeufer.Geburtsdatum == UnknownBirthDate)
+    if (athlete.Geburtsdatum == UnknownBirthDate)
       lines << who + QStringLiteral(" Geburtsdatum ?");
   }
   return lines;

@@ -13,7 +13,6 @@ QString raceFileName(const Store &store, char letter, int race);
 /// were.
 void RennDatenLaden(Store &store);
 /// Reminds of athletes without sex or birth date, then writes the files of `AktRennen`. Laeufer.rec must be open.
-/// `LaeuferIdx` and the athlete buffer are left at the last used row's athlete.
 void RennDatenSpeichern(Store &store);
 
 /// One file of the open race: letter and content.

@@ -8,34 +8,25 @@ namespace {
 
 constexpr int NumberWidth = 6; // a blank and five digits
 
-// Leaves the record of race 1, the last one read.
-QStringList readAllRaces(Store &store) {
-  QStringList lines;
-  for (store.RennenIdx = store.RennenAnzahl; store.RennenIdx >= 1; --store.RennenIdx) {
-    RennenLesen(store);
-    if (!store.Rennen.RennenName.isEmpty())
-      lines << spacedText(store.RennenIdx) + QStringLiteral("    ") + store.Rennen.RennenName;
-  }
-  return lines;
-}
-
 } // namespace
 
-QStringList rennenZeilen(Store &store) {
-  const int index = store.RennenIdx;
-  const RennenSatz record = store.Rennen;
-  const QStringList lines = readAllRaces(store);
-  store.RennenIdx = index;
-  store.Rennen = record;
+QStringList rennenZeilen(const Store &store) {
+  QStringList lines;
+  for (int n = store.RennenAnzahl; n >= 1; --n)
+    if (const QString name = raceRecord(store, n).RennenName; !name.isEmpty())
+      lines << spacedText(n) + QStringLiteral("    ") + name;
   return lines;
 }
 
-// Race 0 has no record, so that it takes over the criteria of the race read last; this is meant.
+// Race 0 has no record, so that it takes over the criteria of race 1, the last that was listed; this is meant.
 QStringList RennenListeFuellen(Store &store) {
-  const QStringList lines = readAllRaces(store);
+  if (store.RennenAnzahl >= 1) {
+    store.RennenIdx = 1;
+    RennenLesen(store);
+  }
   rennsatzLesen(store);
   RennDatenLaden(store);
-  return lines;
+  return rennenZeilen(store);
 }
 
 int rennenNummer(QStringView line) {

@@ -30,6 +30,13 @@ void raiseCount(Store &store, int index, int &count) {
   ZustandSchreiben(store);
 }
 
+bool isInRegister(const Store &store, int n, int count) {
+  const bool inside = n >= 1 && n <= count;
+  if (!inside)
+    store.umgebung.piep();
+  return inside;
+}
+
 void dropMissingClub(qint16 &verein, const Store &store) {
   if (verein > store.VereinAnzahl)
     verein = 0;
@@ -67,29 +74,30 @@ void alleDateienOeffnen(Store &store) {
   RennenOeffnen(store);
 }
 
-void VereinLesen(Store &store) {
-  if (store.VereinIdx < 1 || store.VereinIdx > store.VereinAnzahl) {
-    store.umgebung.piep();
-    store.Verein.VereinName.clear();
-    if (store.VereinIdx < 1)
-      store.Verein.VereinKurz.clear();
-    return;
+VereinSatz VereinLesen(const Store &store, int n) {
+  auto &verein = store.Verein;
+  if (isInRegister(store, n, store.VereinAnzahl)) {
+    verein = readOrEmpty(store.VereinDatei, n, vereinFromBytes);
+    return verein;
   }
-  store.Verein = readOrEmpty(store.VereinDatei, store.VereinIdx, vereinFromBytes);
+  verein.VereinName.clear();
+  if (n < 1)
+    verein.VereinKurz.clear();
+  return verein;
 }
 
-void LaeuferLesen(Store &store) {
-  if (store.LaeuferIdx < 1 || store.LaeuferIdx > store.LaeuferAnzahl) {
-    store.umgebung.piep();
-    store.Laeufer.Name.clear();
-    return;
-  }
-  store.Laeufer = readOrEmpty(store.LaeuferDatei, store.LaeuferIdx, laeuferFromBytes);
+LaeuferSatz LaeuferLesen(const Store &store, int n) {
   auto &laeufer = store.Laeufer;
+  if (!isInRegister(store, n, store.LaeuferAnzahl)) {
+    laeufer.Name.clear();
+    return laeufer;
+  }
+  laeufer = readOrEmpty(store.LaeuferDatei, n, laeuferFromBytes);
   laeufer.Name = trimmedBlanks(laeufer.Name);
   for (qint16 *verein : {&laeufer.Verein1, &laeufer.Verein2, &laeufer.Verein3})
     dropMissingClub(*verein, store);
   laeufer.Geschlecht = std::clamp<qint16>(laeufer.Geschlecht, 0, 2);
+  return laeufer;
 }
 
 RennenSatz trimmedRace(const QByteArray &record) {
@@ -107,11 +115,7 @@ RennenSatz trimmedRace(const QByteArray &record) {
 
 void RennenLesen(Store &store) {
   RennenLeeren(store);
-  if (store.RennenIdx < 1 || store.RennenIdx > store.RennenAnzahl) {
-    store.umgebung.piep();
-    return;
-  }
-  if (store.RennenDatei.holds(store.RennenIdx))
+  if (isInRegister(store, store.RennenIdx, store.RennenAnzahl) && store.RennenDatei.holds(store.RennenIdx))
     store.Rennen = trimmedRace(store.RennenDatei.read(store.RennenIdx));
 }
 
@@ -120,16 +124,22 @@ void rennsatzLesen(Store &store) {
   RennenLesen(store);
 }
 
-void VereinSchreiben(Store &store) {
-  write(store, store.VereinDatei, store.VereinIdx, toBytes(store.Verein));
-  raiseCount(store, store.VereinIdx, store.VereinAnzahl);
+RennenSatz raceRecord(const Store &store, int n) {
+  return readOrEmpty(store.RennenDatei, n, trimmedRace);
 }
 
-void LaeuferSchreiben(Store &store) {
-  if (store.LaeuferIdx < 1)
+void VereinSchreiben(Store &store, int n, const VereinSatz &verein) {
+  store.Verein = verein;
+  write(store, store.VereinDatei, n, toBytes(verein));
+  raiseCount(store, n, store.VereinAnzahl);
+}
+
+void LaeuferSchreiben(Store &store, int n, const LaeuferSatz &laeufer) {
+  store.Laeufer = laeufer;
+  if (n < 1)
     return;
-  write(store, store.LaeuferDatei, store.LaeuferIdx, toBytes(store.Laeufer));
-  raiseCount(store, store.LaeuferIdx, store.LaeuferAnzahl);
+  write(store, store.LaeuferDatei, n, toBytes(laeufer));
+  raiseCount(store, n, store.LaeuferAnzahl);
 }
 
 void RennenSchreiben(Store &store) {
@@ -137,14 +147,16 @@ void RennenSchreiben(Store &store) {
   raiseCount(store, store.RennenIdx, store.RennenAnzahl);
 }
 
-void VereinLeeren(Store &store) {
-  const QByteArray unnamed = store.Verein.Unbenannt;
-  store.Verein = VereinSatz();
-  store.Verein.Unbenannt = unnamed;
+VereinSatz VereinLeeren(const Store &store) {
+  VereinSatz empty;
+  empty.Unbenannt = store.Verein.Unbenannt;
+  store.Verein = empty;
+  return empty;
 }
 
-void LaeuferLeeren(Store &store) {
+LaeuferSatz LaeuferLeeren(const Store &store) {
   store.Laeufer = LaeuferSatz();
+  return store.Laeufer;
 }
 
 void RennenLeeren(Store &store) {
@@ -161,26 +173,22 @@ void RennenLeeren(Store &store) {
   rennen.BestzeitText = before.BestzeitText;
 }
 
-QStringList VereinListeFuellen(Store &store) {
-  const int shown = store.VereinIdx;
+QStringList VereinListeFuellen(const Store &store) {
   SortedLines lines;
-  for (store.VereinIdx = 1; store.VereinIdx <= store.VereinAnzahl; ++store.VereinIdx) {
-    VereinLesen(store);
-    if (!trimmedBlanks(store.Verein.VereinName).isEmpty())
-      lines.add(store.Verein.VereinName + QStringLiteral("     ") + plainText(store.VereinIdx));
+  for (int n = 1; n <= store.VereinAnzahl; ++n) {
+    const QString name = VereinLesen(store, n).VereinName;
+    if (!trimmedBlanks(name).isEmpty())
+      lines.add(name + QStringLiteral("     ") + plainText(n));
   }
-  store.VereinIdx = shown;
   return lines.take();
 }
 
-QStringList LaeuferListeFuellen(Store &store) {
-  const int shown = store.LaeuferIdx;
+QStringList LaeuferListeFuellen(const Store &store) {
   SortedLines lines;
-  for (store.LaeuferIdx = 1; store.LaeuferIdx <= store.LaeuferAnzahl; ++store.LaeuferIdx) {
-    LaeuferLesen(store);
-    if (!store.Laeufer.Name.isEmpty())
-      lines.add(store.Laeufer.Name + QStringLiteral("        ") + plainText(store.LaeuferIdx));
+  for (int n = 1; n <= store.LaeuferAnzahl; ++n) {
+    const QString name = LaeuferLesen(store, n).Name;
+    if (!name.isEmpty())
+      lines.add(name + QStringLiteral("        ") + plainText(n));
   }
-  store.LaeuferIdx = shown;
   return lines.take();
 }

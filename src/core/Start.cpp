@@ -37,8 +37,6 @@ void fillBuiltInTables(Store &store) {
 void storeStarten(Store &store) {
   FensterLesen(store);
   ZustandLesen(store);
-  store.LaeuferIdx = store.LaeuferAnzahl;
-  store.VereinIdx = store.VereinAnzahl;
   store.RennenIdx = store.RennenAnzahl;
   fillBuiltInTables(store);
 }

@@ -72,7 +72,7 @@ struct StandardKlasse {
 };
 
 /// The one store of the program, made once at the start and handed on by reference. Plain data; the routines are free
-/// functions over it. The record buffers hold the current record of each file, the tables the one open race.
+/// functions over it. `Rennen` is the record of the open race, the tables are what its files hold.
 struct Store {
   explicit Store(Umgebung &outside) : umgebung(outside) {}
 
@@ -87,13 +87,16 @@ struct Store {
   float JahrOffset = 0;
   WindowPlaces Fenster;
 
-  // Record files: the file, the current record, its number, the highest number in use.
+  // Record files: the file and the highest number in use.
   RecordFile VereinDatei{VereinLaenge}, LaeuferDatei{LaeuferLaenge}, RennenDatei{RennenLaenge};
-  VereinSatz Verein;
-  LaeuferSatz Laeufer;
-  RennenSatz Rennen;
-  int VereinIdx = 0, LaeuferIdx = 0, RennenIdx = 0;
   int VereinAnzahl = 0, LaeuferAnzahl = 0, RennenAnzahl = 0;
+  /// The club and the athlete read or written last. They belong to the routines of core/RecordFiles.h, which give a
+  /// number outside the register what is left of them; whoever needs a record reads it by its number.
+  mutable VereinSatz Verein;
+  mutable LaeuferSatz Laeufer;
+  /// The race in work and the number of its record; that is where it will be written.
+  RennenSatz Rennen;
+  int RennenIdx = 0;
   /// Fourth value of Vext.dat, written back unchanged.
   int VextReserve = 0;
 

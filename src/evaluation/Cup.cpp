@@ -33,16 +33,16 @@ public:
 
   void takeRace() {
     for (int row = 1; row <= 1000; ++row)
-      if (readAthlete(m_store, m_store.Teilnehmer[row]) && !m_known.contains(m_store.Laeufer.Name))
-        add(m_store.Teilnehmer[row]);
+      if (const auto athlete = athleteOf(m_store, m_store.Teilnehmer[row]); athlete && !m_known.contains(athlete->Name))
+        add(athlete->Name, m_store.Teilnehmer[row]);
   }
 
   const QStringList &names() const { return m_names; }
 
 private:
-  void add(const TeilnehmerZeile &participant) {
-    m_known.insert(m_store.Laeufer.Name);
-    m_names.append(m_store.Laeufer.Name);
+  void add(const QString &name, const TeilnehmerZeile &participant) {
+    m_known.insert(name);
+    m_names.append(name);
     m_store.CupLaeufer[int(m_names.size())] = participant.LaeuferNr;
     m_store.CupKlasse[int(m_names.size())] = participant.KlasseGenau;
   }

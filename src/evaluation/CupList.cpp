@@ -27,7 +27,7 @@ QList<int> personsOf(const QStringList &keys) {
 
 class CupPrinter {
 public:
-  CupPrinter(Store &store, Druckschicht &druck, const CupListe &liste)
+  CupPrinter(const Store &store, Druckschicht &druck, const CupListe &liste)
       : m_store(store), m_druck(druck), m_liste(liste), m_persons(personsOf(liste.schluessel)),
         m_columns(store, druck, m_persons) {
     printHead();
@@ -91,21 +91,20 @@ private:
     m_druck.FontBold = true;
     Zelle(m_druck, 25, y(), place);
     m_druck.FontBold = false;
-    printNameAndClub(person);
-    Zelle(m_druck, 96, y(), yearOf(m_store.Laeufer.Geburtsdatum));
+    const LaeuferSatz athlete = LaeuferLesen(m_store, m_store.CupLaeufer[person]);
+    printNameAndClub(athlete);
+    Zelle(m_druck, 96, y(), yearOf(athlete.Geburtsdatum));
     m_columns.printRounds(person, y());
     m_druck.DrawWidth = 2;
     m_druck.Box(23, y() + 2 - 2.4, 272, y() + 2 + 1.6 + RowHeight * (m_columns.lines() - 1), FrameColor);
   }
 
-  void printNameAndClub(int person) {
-    m_store.LaeuferIdx = m_store.CupLaeufer[person];
-    LaeuferLesen(m_store);
-    const QString name = trimmedBlanks(m_store.Laeufer.Name);
+  void printNameAndClub(const LaeuferSatz &athlete) {
+    const QString name = trimmedBlanks(athlete.Name);
     if (m_columns.lines() == 1)
-      return printInOneLine(name, clubText(NameAndClub - int(name.size())));
+      return printInOneLine(name, clubText(athlete, NameAndClub - int(name.size())));
     Zelle(m_druck, 36, y(), name);
-    Zelle(m_druck, 36, y() + CupColumns::SecondLine, clubText(NameAndClub));
+    Zelle(m_druck, 36, y() + CupColumns::SecondLine, clubText(athlete, NameAndClub));
   }
 
   void printInOneLine(const QString &name, const QString &club) {
@@ -117,18 +116,16 @@ private:
     m_druck.Print(QStringLiteral(" "));
   }
 
-  QString clubText(int room) {
-    const auto club = clubOfAthlete();
+  QString clubText(const LaeuferSatz &athlete, int room) const {
+    const auto club = clubOfAthlete(athlete);
     if (!club || room <= 0)
       return {};
-    m_store.VereinIdx = *club;
-    VereinLesen(m_store);
-    return trimmedBlanks(m_store.Verein.VereinKurz).left(room);
+    return trimmedBlanks(VereinLesen(m_store, *club).VereinKurz).left(room);
   }
 
   // The second club is passed over, and the club of the race plays no part; this is meant.
-  std::optional<int> clubOfAthlete() const {
-    for (const int club : {int(m_store.Laeufer.Verein1), int(m_store.Laeufer.Verein3)})
+  std::optional<int> clubOfAthlete(const LaeuferSatz &athlete) const {
+    for (const int club : {int(athlete.Verein1), int(athlete.Verein3)})
       if (club != 0 && club <= m_store.VereinAnzahl)
         return club;
     return {};
@@ -166,7 +163,7 @@ private:
     Zelle(m_druck, x, top, what);
   }
 
-  Store &m_store;
+  const Store &m_store;
   Druckschicht &m_druck;
   const CupListe &m_liste;
   QList<int> m_persons;
@@ -179,7 +176,7 @@ private:
 
 } // namespace
 
-void Cupliste(Store &store, Druckschicht &druck, const CupListe &liste) {
+void Cupliste(const Store &store, Druckschicht &druck, const CupListe &liste) {
   druck.Orientation = Druckschicht::Landscape;
   druck.ScaleMode = Druckschicht::Scale::Millimetres;
   druck.DocName(QStringLiteral("Cupliste"), 0, QStringLiteral("Cupliste ") + liste.bezeichnung);

@@ -14,4 +14,4 @@ struct CupListe {
 /// Prints the cup as the last evaluation left it in the cup tables, in landscape: class by class with time and points
 /// of each round and the total; a struck result shows "X" for its points. With more than five rounds a person takes two
 /// lines, the club in the second.
-void Cupliste(Store &store, Druckschicht &druck, const CupListe &liste);
+void Cupliste(const Store &store, Druckschicht &druck, const CupListe &liste);

@@ -27,10 +27,10 @@ void findClubs(Store &store) {
     const auto &participant = store.Teilnehmer[row];
     if (participant.LaeuferNr == 0)
       continue;
-    readAthlete(store, participant);
+    const LaeuferSatz athlete = LaeuferLesen(store, participant.LaeuferNr);
     if (participant.VereinNr < 1 || participant.VereinNr > 3)
       continue;
-    const int club = startClub(store, participant);
+    const int club = startClub(athlete, participant);
     store.VereinRecNr[row] = club >= 1 && club <= store.VereinAnzahl ? club : 0;
   }
 }
@@ -124,10 +124,9 @@ void prepareFilter(Store &store, WertungsFilter filter) {
     return;
   store.WertGezaehlt.fill(0);
   for (int row = 1; row <= 1000; ++row) {
-    if (!isRanked(store.Teilnehmer[row]))
-      continue;
-    readAthlete(store, store.Teilnehmer[row]);
-    store.TnGeschlecht[row] = store.Laeufer.Geschlecht;
+    const auto &participant = store.Teilnehmer[row];
+    if (isRanked(participant))
+      store.TnGeschlecht[row] = LaeuferLesen(store, participant.LaeuferNr).Geschlecht;
   }
 }
 
@@ -179,7 +178,7 @@ void takeSumsOfBest(Store &store, const Wertung &wertung, const std::function<vo
   }
 }
 
-QStringList unitLines(Store &store, Einheit einheit) {
+QStringList unitLines(const Store &store, Einheit einheit) {
   SortedLines lines;
   for (int k = 1; k <= Units; ++k) {
     const double value = store.WertErgebnis[k];
@@ -217,7 +216,7 @@ void wertungVorbereiten(Store &store) {
   assignUnits(store);
 }
 
-QStringList vereinsZeilen(Store &store) {
+QStringList vereinsZeilen(const Store &store) {
   QStringList lines;
   for (int k = 1; k <= Units; ++k)
     if (store.WertVerein[k] != 0)
@@ -268,12 +267,10 @@ int einheitAmEnde(const QString &line) {
   return rowAtEnd(line, UnitLength);
 }
 
-QString einheitName(Store &store, Einheit einheit, int unit) {
+QString einheitName(const Store &store, Einheit einheit, int unit) {
   switch (einheit) {
   case Einheit::Verein:
-    store.VereinIdx = store.WertVerein[unit];
-    VereinLesen(store);
-    return store.Verein.VereinKurz;
+    return VereinLesen(store, store.WertVerein[unit]).VereinKurz;
   case Einheit::Mannschaft:
     return store.MannschaftName[unit];
   case Einheit::Gruppe:
@@ -283,14 +280,14 @@ QString einheitName(Store &store, Einheit einheit, int unit) {
   }
 }
 
-QStringList mitgliederZeilen(Store &store, const Wertung &wertung, int unit, MitgliederOrdnung ordnung) {
+QStringList mitgliederZeilen(const Store &store, const Wertung &wertung, int unit, MitgliederOrdnung ordnung) {
   SortedLines lines;
   for (const int row : countingRows(store, wertung.filter)) {
     if (!isMember(store, wertung.einheit, row, unit))
       continue;
-    readAthlete(store, store.Teilnehmer[row]);
-    lines.add(memberPrefix(store.Teilnehmer[row], ordnung) + blanks(3) + trimmedBlanks(store.Laeufer.Name) + blanks(7) +
-              spacedText(row));
+    const auto &participant = store.Teilnehmer[row];
+    const QString name = LaeuferLesen(store, participant.LaeuferNr).Name;
+    lines.add(memberPrefix(participant, ordnung) + blanks(3) + trimmedBlanks(name) + blanks(7) + spacedText(row));
   }
   return lines.take();
 }

@@ -29,7 +29,7 @@ struct Wertung {
 void wertungVorbereiten(Store &store);
 
 /// Short names of the numbered clubs.
-QStringList vereinsZeilen(Store &store);
+QStringList vereinsZeilen(const Store &store);
 /// Teams that somebody starts for: number of members, name, number of the team.
 QStringList mannschaftsZeilen(const Store &store);
 QStringList gruppenZeilen(const Store &store);
@@ -43,6 +43,6 @@ QStringList teamWertung(
 /// Unit number at the end of such a line.
 int einheitAmEnde(const QString &line);
 /// Name of a unit as stored: of a club the short name, with its padding.
-QString einheitName(Store &store, Einheit einheit, int unit);
+QString einheitName(const Store &store, Einheit einheit, int unit);
 /// The ranked members of a unit in order, each line with its row at the end.
-QStringList mitgliederZeilen(Store &store, const Wertung &wertung, int unit, MitgliederOrdnung ordnung);
+QStringList mitgliederZeilen(const Store &store, const Wertung &wertung, int unit, MitgliederOrdnung ordnung);

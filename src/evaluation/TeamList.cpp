@@ -1,6 +1,6 @@
 #include "evaluation/TeamList.h"
 
-#include "core/Participants.h"
+#include "core/RecordFiles.h"
 #include "core/WebAdresse.h"
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
@@ -43,7 +43,7 @@ QString kindOf(const Wertung &wertung) {
 
 class TeamPrinter {
 public:
-  TeamPrinter(Store &store, Druckschicht &druck, const TeamListe &liste)
+  TeamPrinter(const Store &store, Druckschicht &druck, const TeamListe &liste)
       : m_store(store), m_druck(druck), m_liste(liste), m_names(namesOf(liste.wertung)) {
     printHead();
   }
@@ -63,10 +63,9 @@ public:
     advance(Row);
     const int row = rowAtEnd(line, RowLength);
     const auto &participant = m_store.Teilnehmer[row];
-    readAthlete(m_store, participant);
     m_druck.FontSize = 8;
     m_druck.FontBold = m_store.WertGezaehlt[row] == 1;
-    Zelle(m_druck, 60, y(), trimmedBlanks(m_store.Laeufer.Name));
+    Zelle(m_druck, 60, y(), trimmedBlanks(LaeuferLesen(m_store, participant.LaeuferNr).Name));
     printTime(100, participant.WertSumme);
     if (m_store.Rennen.ZweiDurchgaenge != 0) {
       printTime(138, participant.Zeit1);
@@ -90,10 +89,10 @@ private:
   }
 
   QString unitName(int unit) {
-    const QString name = einheitName(m_store, m_liste.wertung.einheit, unit);
     if (m_liste.wertung.einheit != Einheit::Verein)
-      return name;
-    return trimmedBlanks(name) + QStringLiteral("     ") + trimmedBlanks(m_store.Verein.VereinName);
+      return einheitName(m_store, m_liste.wertung.einheit, unit);
+    const VereinSatz club = VereinLesen(m_store, m_store.WertVerein[unit]);
+    return trimmedBlanks(club.VereinKurz) + QStringLiteral("     ") + trimmedBlanks(club.VereinName);
   }
 
   static double valueOf(const QString &line) {
@@ -149,7 +148,7 @@ private:
     Zelle(m_druck, x, top, what);
   }
 
-  Store &m_store;
+  const Store &m_store;
   Druckschicht &m_druck;
   const TeamListe &m_liste;
   Names m_names;
@@ -160,7 +159,7 @@ private:
 
 } // namespace
 
-void Mannschaftsliste(Store &store, Druckschicht &druck, const TeamListe &liste,
+void Mannschaftsliste(const Store &store, Druckschicht &druck, const TeamListe &liste,
                       const std::function<QStringList(int line)> &mitglieder) {
   Dokumentanfang(store, druck, QStringLiteral("Mannschaftsliste"));
   TeamPrinter printer(store, druck, liste);

@@ -6,59 +6,45 @@
 
 #include <algorithm>
 
-namespace {
-
-void openAthlete(Store &store, qint64 n) {
-  LaeuferLeeren(store);
-  store.LaeuferIdx = int(n);
-  LaeuferLesen(store);
-}
-
-} // namespace
-
-void openLastAthlete(Store &store) {
+int lastAthlete(Store &store) {
   store.LaeuferAnzahl = std::max(store.LaeuferAnzahl, 1);
-  openAthlete(store, store.LaeuferAnzahl);
+  return store.LaeuferAnzahl;
 }
 
-void goToAthlete(Store &store, qint64 n) {
-  openAthlete(store, std::min<qint64>(std::max<qint64>(n, 1), store.LaeuferAnzahl));
+int heldAthlete(const Store &store, qint64 n) {
+  return int(std::min<qint64>(std::max<qint64>(n, 1), store.LaeuferAnzahl));
 }
 
-bool goToAthleteBefore(Store &store, qint64 shown) {
+std::optional<int> previousAthlete(const Store &store, qint64 shown) {
   LaeuferLeeren(store);
-  if (shown - 1 < 1) {
-    store.umgebung.piep();
-    return false;
-  }
-  goToAthlete(store, shown - 1);
-  return true;
+  if (shown - 1 >= 1)
+    return heldAthlete(store, shown - 1);
+  store.umgebung.piep();
+  return {};
 }
 
-bool goToAthleteBehind(Store &store, qint64 shown, const QString &name, const QString &birthDate) {
+std::optional<int> nextAthlete(Store &store, qint64 shown, const QString &name, const QString &birthDate) {
   if (looksUndated(birthDate))
-    return false;
-  LaeuferLeeren(store);
-  if (shown + 1 <= store.LaeuferAnzahl) {
-    goToAthlete(store, shown + 1);
-    return true;
-  }
+    return {};
+  const LaeuferSatz unknown = LaeuferLeeren(store);
+  if (shown + 1 <= store.LaeuferAnzahl)
+    return heldAthlete(store, shown + 1);
   if (trimmedBlanks(name).isEmpty())
-    return false;
-  store.LaeuferIdx = ++store.LaeuferAnzahl;
-  LaeuferSchreiben(store);
-  return true;
+    return {};
+  const int added = ++store.LaeuferAnzahl;
+  LaeuferSchreiben(store, added, unknown);
+  return added;
 }
 
 bool looksUndated(const QString &birthDate) {
   return birthDate == QStringLiteral("1.1.1900");
 }
 
-void changeAthlete(Store &store, int n, const std::function<void(LaeuferSatz &)> &change) {
-  store.LaeuferIdx = n;
-  LaeuferLesen(store);
-  change(store.Laeufer);
-  LaeuferSchreiben(store);
+LaeuferSatz changeAthlete(Store &store, int n, const std::function<void(LaeuferSatz &)> &change) {
+  LaeuferSatz athlete = LaeuferLesen(store, n);
+  change(athlete);
+  LaeuferSchreiben(store, n, athlete);
+  return athlete;
 }
 
 QString storeBirthDate(Store &store, int n, const QString &typed) {
@@ -72,11 +58,9 @@ QString storeBirthDate(Store &store, int n, const QString &typed) {
   return text;
 }
 
-int firstFreeAthlete(Store &store) {
-  for (store.LaeuferIdx = 1; store.LaeuferIdx <= store.LaeuferAnzahl; ++store.LaeuferIdx) {
-    LaeuferLesen(store);
-    if (store.Laeufer.Name.isEmpty())
-      break;
-  }
-  return store.LaeuferIdx;
+int firstFreeAthlete(const Store &store) {
+  int n = 1;
+  while (n <= store.LaeuferAnzahl && !LaeuferLesen(store, n).Name.isEmpty())
+    ++n;
+  return n;
 }

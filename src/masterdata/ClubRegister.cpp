@@ -5,66 +5,51 @@
 
 #include <algorithm>
 
-namespace {
-
-void openClub(Store &store, qint64 n) {
-  store.VereinIdx = int(n);
-  VereinLesen(store);
-}
-
-} // namespace
-
-void openLastClub(Store &store) {
-  VereinLeeren(store);
+int lastClub(Store &store) {
   store.VereinAnzahl = std::max(store.VereinAnzahl, 1);
-  openClub(store, store.VereinAnzahl);
+  return store.VereinAnzahl;
 }
 
-void goToClub(Store &store, qint64 n) {
-  openClub(store, std::min<qint64>(std::max<qint64>(n, 1), store.VereinAnzahl));
+int heldClub(const Store &store, qint64 n) {
+  return int(std::min<qint64>(std::max<qint64>(n, 1), store.VereinAnzahl));
 }
 
-bool goToClubBefore(Store &store, qint64 shown) {
-  VereinLeeren(store);
-  if (shown - 1 < 1) {
-    store.umgebung.piep();
-    return false;
-  }
-  goToClub(store, shown - 1);
-  return true;
+std::optional<int> previousClub(const Store &store, qint64 shown) {
+  if (shown - 1 >= 1)
+    return heldClub(store, shown - 1);
+  store.umgebung.piep();
+  return {};
 }
 
-bool goToClubBehind(Store &store, qint64 shown, const QString &name) {
-  VereinLeeren(store);
-  if (shown + 1 <= store.VereinAnzahl) {
-    goToClub(store, shown + 1);
-    return true;
-  }
+std::optional<int> nextClub(Store &store, qint64 shown, const QString &name) {
+  if (shown + 1 <= store.VereinAnzahl)
+    return heldClub(store, shown + 1);
   if (trimmedBlanks(name).isEmpty())
-    return false;
-  store.VereinIdx = ++store.VereinAnzahl;
-  VereinSchreiben(store);
-  return true;
+    return {};
+  const int added = ++store.VereinAnzahl;
+  VereinSchreiben(store, added, VereinLeeren(store));
+  return added;
 }
 
 void storeClubField(Store &store, int n, QString VereinSatz::*field, const QString &text) {
-  openClub(store, n);
-  store.Verein.*field = trimmedBlanks(text);
-  VereinSchreiben(store);
+  VereinSatz club = VereinLesen(store, n);
+  club.*field = trimmedBlanks(text);
+  VereinSchreiben(store, n, club);
 }
 
-QString shortNameOfClub(Store &store, int n) {
-  openClub(store, n);
-  return trimmedBlanks(store.Verein.VereinKurz);
+QString shortNameOfClub(const Store &store, int n) {
+  return trimmedBlanks(VereinLesen(store, n).VereinKurz);
 }
 
-QStringList clubChoices(Store &store) {
-  const int current = store.VereinIdx;
-  QStringList choices{QStringLiteral("?")};
+QStringList shortNamesOfClubs(const Store &store) {
+  QStringList names;
   for (int n = 1; n <= store.VereinAnzahl; ++n)
-    choices.append(shownText(shortNameOfClub(store, n)));
-  store.VereinIdx = current;
-  return choices;
+    names.append(trimmedBlanks(shownText(VereinLesen(store, n).VereinKurz)));
+  return names;
+}
+
+QStringList clubChoices(const Store &store) {
+  return QStringList{QStringLiteral("?")} + shortNamesOfClubs(store);
 }
 
 bool isClub(const Store &store, int n) {

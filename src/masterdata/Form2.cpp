@@ -12,8 +12,7 @@ Form2::Form2(Desk &desk, Store &store)
   setUp();
   connectFields();
   connectButtons();
-  openLastClub(m_store);
-  showAndFill();
+  showAndFill(lastClub(m_store));
   ui->List1->setFocus();
 }
 
@@ -36,24 +35,19 @@ void Form2::connectFields() {
 }
 
 void Form2::connectButtons() {
-  onReturn(ui->Text1, [this] {
-    goToClub(m_store, typedIndex());
-    showAndFill();
-  });
+  onReturn(ui->Text1, [this] { showAndFill(heldClub(m_store, typedIndex())); });
   connect(ui->Command2, &QPushButton::clicked, this, [this] {
-    if (goToClubBefore(m_store, typedIndex()))
-      showAndFill();
+    if (const auto n = previousClub(m_store, typedIndex()))
+      showAndFill(*n);
   });
   connect(ui->Command3, &QPushButton::clicked, this, [this] {
-    if (goToClubBehind(m_store, typedIndex(), RecordText::of(ui->Text2)))
-      showAndFill();
+    if (const auto n = nextClub(m_store, typedIndex(), RecordText::of(ui->Text2)))
+      showAndFill(*n);
   });
   connect(ui->List1, &LineList::chosen, this, [this](int line) {
     const int number = rowAtEnd(ui->List1->lines()[line], 6);
-    if (!isClub(m_store, number))
-      return;
-    goToClub(m_store, number);
-    VereinZeigen();
+    if (isClub(m_store, number))
+      VereinZeigen(number);
   });
   connect(ui->Command1, &QPushButton::clicked, this, &Form2::close);
 }
@@ -64,15 +58,16 @@ void Form2::storeField(const Field &field) {
     ui->List1->refill(VereinListeFuellen(m_store), m_shown);
 }
 
-void Form2::VereinZeigen() {
-  m_shown = m_store.VereinIdx;
+void Form2::VereinZeigen(int n) {
+  m_shown = n;
+  const VereinSatz club = VereinLesen(m_store, n);
   ui->Text1->setText(plainText(m_shown));
   for (const auto &field : m_fields)
-    RecordText::show(field.box, trimmedBlanks(m_store.Verein.*field.field));
+    RecordText::show(field.box, trimmedBlanks(club.*field.field));
 }
 
-void Form2::showAndFill() {
-  VereinZeigen();
+void Form2::showAndFill(int n) {
+  VereinZeigen(n);
   ui->List1->fill(VereinListeFuellen(m_store));
   ui->List1->chooseByNumber(m_shown);
 }

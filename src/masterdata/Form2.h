@@ -36,14 +36,14 @@ private:
 
   void connectFields();
   void connectButtons();
-  void VereinZeigen();
-  void showAndFill();
+  void VereinZeigen(int n);
+  void showAndFill(int n);
   void storeField(const Field &field);
   qint64 typedIndex() const;
 
   Store &m_store;
   std::unique_ptr<Ui::Form2> ui;
   QList<Field> m_fields;
-  /// The record on the screen; what is stored goes there, whatever the index says by now.
+  /// The record on the screen; what is stored goes there.
   int m_shown = 0;
 };

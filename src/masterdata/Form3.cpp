@@ -36,8 +36,7 @@ Form3::Form3(Desk &desk, Store &store)
   fillClubs();
   connectNavigation();
   connectFields();
-  openLastAthlete(m_store);
-  LaeuferZeigen();
+  LaeuferZeigen(lastAthlete(m_store));
   ui->List1->setFocus();
 }
 
@@ -50,17 +49,15 @@ void Form3::fillClubs() {
 }
 
 void Form3::connectNavigation() {
-  connect(ui->Text1, &QLineEdit::textChanged, this, [this](const QString &text) {
-    goToAthlete(m_store, wholeNumber(text));
-    LaeuferZeigen();
-  });
+  connect(ui->Text1, &QLineEdit::textChanged, this, [this](const QString &text) { zeigen(wholeNumber(text)); });
   connect(ui->Command2, &QPushButton::clicked, this, [this] {
-    if (goToAthleteBefore(m_store, wholeNumber(ui->Text1->text())))
-      LaeuferZeigen();
+    if (const auto n = previousAthlete(m_store, wholeNumber(ui->Text1->text())))
+      LaeuferZeigen(*n);
   });
   connect(ui->Command3, &QPushButton::clicked, this, [this] {
-    if (goToAthleteBehind(m_store, wholeNumber(ui->Text1->text()), RecordText::of(ui->Text2), ui->Text4->text()))
-      LaeuferZeigen();
+    const qint64 shown = wholeNumber(ui->Text1->text());
+    if (const auto n = nextAthlete(m_store, shown, RecordText::of(ui->Text2), ui->Text4->text()))
+      LaeuferZeigen(*n);
   });
   connect(ui->Command4, &QPushButton::clicked, this, [this] {
     if (!looksUndated(ui->Text4->text()))
@@ -94,19 +91,20 @@ void Form3::connectClub(QComboBox *combo, qint16 LaeuferSatz::*club) {
   });
 }
 
-void Form3::change(const std::function<void(LaeuferSatz &)> &change) {
-  changeAthlete(m_store, m_shown, change);
+LaeuferSatz Form3::change(const std::function<void(LaeuferSatz &)> &change) {
+  return changeAthlete(m_store, m_shown, change);
 }
 
 // They are shown with a comma and read only up to it; it is meant. A number that the box could not give back is not
 // taken.
 void Form3::storePoints() {
   const auto points = typedSingle(ui->Text5->text());
-  change([points](LaeuferSatz &athlete) { athlete.LaeuferPunkte = points.value_or(athlete.LaeuferPunkte); });
+  const auto take = [points](LaeuferSatz &athlete) { athlete.LaeuferPunkte = points.value_or(athlete.LaeuferPunkte); };
+  const LaeuferSatz athlete = change(take);
   if (points)
     return;
   m_store.umgebung.piep();
-  ui->Text5->setText(plainText(m_store.Laeufer.LaeuferPunkte));
+  ui->Text5->setText(plainText(athlete.LaeuferPunkte));
 }
 
 void Form3::setSex(int sex) {
@@ -125,9 +123,8 @@ bool Form3::eventFilter(QObject *watched, QEvent *event) {
   return true;
 }
 
-void Form3::zeigen(int record) {
-  goToAthlete(m_store, record);
-  LaeuferZeigen();
+void Form3::zeigen(qint64 record) {
+  LaeuferZeigen(heldAthlete(m_store, record));
 }
 
 void Form3::neuaufnehmen(const QString &name) {
@@ -137,13 +134,13 @@ void Form3::neuaufnehmen(const QString &name) {
 }
 
 // Setting another number into Text1 reads and shows the record once more.
-void Form3::LaeuferZeigen() {
-  m_shown = m_store.LaeuferIdx;
-  ui->Text1->setText(plainText(m_shown));
-  const auto &athlete = m_store.Laeufer;
+void Form3::LaeuferZeigen(int n) {
+  m_shown = n;
+  ui->Text1->setText(plainText(n));
+  const LaeuferSatz athlete = LaeuferLesen(m_store, n);
   RecordText::show(ui->Text2, athlete.Name);
   RecordText::show(ui->Text3, trimmedBlanks(athlete.OesvNr));
-  showSex();
+  showSex(athlete.Geschlecht);
   ui->Text4->setText(shortDate(fromDays(athlete.Geburtsdatum)));
   ui->Text5->setText(plainText(athlete.LaeuferPunkte));
   ui->Combo1->setCurrentIndex(athlete.Verein1);
@@ -154,9 +151,9 @@ void Form3::LaeuferZeigen() {
 
 // The Tab key arrives at the one that is chosen, else at the first: the same keys give the same sex, whoever was
 // entered before.
-void Form3::showSex() {
-  const bool female = m_store.Laeufer.Geschlecht == 0;
-  setChosen(ui->Option1, m_store.Laeufer.Geschlecht == 1);
+void Form3::showSex(int sex) {
+  const bool female = sex == 0;
+  setChosen(ui->Option1, sex == 1);
   setChosen(ui->Option2, female);
   ui->Option1->setFocusPolicy(female ? Qt::ClickFocus : Qt::StrongFocus);
   ui->Option2->setFocusPolicy(female ? Qt::StrongFocus : Qt::ClickFocus);

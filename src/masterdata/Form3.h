@@ -26,7 +26,7 @@ public:
   ~Form3() override;
 
   /// Goes to a record, held to the register.
-  void zeigen(int record);
+  void zeigen(qint64 record);
   /// Starts a new entry: goes to the first record without a name and puts the text into the name field, which gets the
   /// focus. Without such a record it lands on the last athlete, who is then renamed by it; it is meant.
   void neuaufnehmen(const QString &name);
@@ -39,15 +39,15 @@ private:
   void connectNavigation();
   void connectFields();
   void connectClub(QComboBox *combo, qint16 LaeuferSatz::*club);
-  void change(const std::function<void(LaeuferSatz &)> &change);
+  LaeuferSatz change(const std::function<void(LaeuferSatz &)> &change);
   void storePoints();
   void setSex(int sex);
-  void LaeuferZeigen();
-  void showSex();
+  void LaeuferZeigen(int n);
+  void showSex(int sex);
   void fillList();
 
   Store &m_store;
   std::unique_ptr<Ui::Form3> ui;
-  /// The record on the screen; what is stored goes there, whatever the index says by now.
+  /// The record on the screen; what is stored goes there.
   int m_shown = 0;
 };

@@ -1,4 +1,4 @@
-#include "core/Participants.h"
+#include "core/RecordFiles.h"
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
 #include "printing/Documents.h"
@@ -40,24 +40,24 @@ void printHeading(const Store &store, Druckschicht &druck) {
 }
 
 // The sum alone decides, not the sex: a man with the best sum of the women gets the remark too; this is meant.
-QString timeLine(const Store &store, const Druckschicht &druck, const TeilnehmerZeile &participant) {
+QString timeLine(const Store &store, const Druckschicht &druck, const TeilnehmerZeile &participant, int sex) {
   QString line = QStringLiteral("Zeit: ") + ZeitDruckText(druck, participant.WertSumme);
   const double sum = participant.WertSumme;
   if (sum != 0 && (sum == store.BestzeitDamen || sum == store.BestzeitHerren))
-    line += QStringLiteral("   ") + Bestzeittext(store.Rennen.BestzeitText, store.Laeufer.Geschlecht);
+    line += QStringLiteral("   ") + Bestzeittext(store.Rennen.BestzeitText, sex);
   return line +
          (store.Rennen.WertKlassen == 0
               ? QStringLiteral("        Gruppe: ") + store.GruppeName[participant.GruppeNr]
               : QStringLiteral("        Klasse: ") + store.KlasseGenauName.valueOrEmpty(participant.KlasseGenau));
 }
 
-void printPlace(const Store &store, Druckschicht &druck, const TeilnehmerZeile &participant) {
+void printPlace(const Store &store, Druckschicht &druck, const TeilnehmerZeile &participant, int sex) {
   setFont(druck, 14, false);
   printCentred(druck, 195, QStringLiteral("belegte den"));
   setFont(druck, 32, false);
   printCentred(druck, 205, plainText(participant.Rang) + QStringLiteral(". Rang"));
   setFont(druck, 18, false);
-  printCentred(druck, 225, timeLine(store, druck, participant));
+  printCentred(druck, 225, timeLine(store, druck, participant, sex));
 }
 
 void printText(Druckschicht &druck, const UrkundenText &text) {
@@ -93,18 +93,18 @@ void Deckkopf(const Store &store, Druckschicht &druck) {
   printCentred(druck, 40, store.Rennen.RennenKurz.isEmpty() ? store.Rennen.RennenName : store.Rennen.RennenKurz);
 }
 
-void Urkunde(Store &store, Druckschicht &druck, int row, const std::optional<UrkundenText> &text) {
+void Urkunde(const Store &store, Druckschicht &druck, int row, const std::optional<UrkundenText> &text) {
   const auto &participant = store.Teilnehmer[row];
-  readAthlete(store, participant);
-  Dokumentanfang(store, druck, QStringLiteral("Urkunde"), store.Laeufer.Name);
+  const LaeuferSatz athlete = LaeuferLesen(store, participant.LaeuferNr);
+  Dokumentanfang(store, druck, QStringLiteral("Urkunde"), athlete.Name);
   Deckkopf(store, druck);
   printHeading(store, druck);
   setFont(druck, 30, true, true);
-  printCentred(druck, 180, store.Laeufer.Name);
+  printCentred(druck, 180, athlete.Name);
   if (text)
     printText(druck, *text);
   else
-    printPlace(store, druck, participant);
+    printPlace(store, druck, participant, athlete.Geschlecht);
   printFoot(store, druck);
   druck.EndDoc();
 }

@@ -1,5 +1,6 @@
 #include "core/Classes.h"
 #include "core/Participants.h"
+#include "core/RecordFiles.h"
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
 #include "printing/Documents.h"
@@ -43,28 +44,29 @@ private:
   int m_page = 0, m_line = 0;
 };
 
-QString sexText(const Store &store) {
-  return store.Laeufer.Geschlecht == 1 ? QStringLiteral("m") : QStringLiteral("w");
+QString sexText(const LaeuferSatz &athlete) {
+  return athlete.Geschlecht == 1 ? QStringLiteral("m") : QStringLiteral("w");
 }
 
 // Number, name, sex and year, which both lists begin with.
 void printPerson(const Store &store, Druckschicht &druck, const TeilnehmerZeile &participant, double y, double sexX) {
+  const LaeuferSatz athlete = LaeuferLesen(store, participant.LaeuferNr);
   druck.FontSize = 9;
   druck.FontBold = false;
   Zelle(druck, 20, y, participant.StartNr);
-  Zelle(druck, 45, y, store.Laeufer.Name);
-  Zelle(druck, sexX, y, sexText(store));
-  Zelle(druck, sexX + 10, y, yearOf(store.Laeufer.Geburtsdatum));
+  Zelle(druck, 45, y, athlete.Name);
+  Zelle(druck, sexX, y, sexText(athlete));
+  Zelle(druck, sexX + 10, y, yearOf(athlete.Geburtsdatum));
 }
 
-void printStarter(Store &store, Druckschicht &druck, const TeilnehmerZeile &participant, int zeilenNr) {
+void printStarter(const Store &store, Druckschicht &druck, const TeilnehmerZeile &participant, int zeilenNr) {
   const double y = gitterY(zeilenNr);
   printPerson(store, druck, participant, y, 90);
   Zelle(druck, 110, y, Klassentext(store, participant));
   Zelle(druck, 170, y, store.StatusText[participant.Status1]);
 }
 
-void printUnranked(Store &store, Druckschicht &druck, const TeilnehmerZeile &participant, int zeilenNr) {
+void printUnranked(const Store &store, Druckschicht &druck, const TeilnehmerZeile &participant, int zeilenNr) {
   const double y = gitterY(zeilenNr);
   printPerson(store, druck, participant, y, 100);
   // The plain class stands here, not the exact one of the other lists; this is meant.
@@ -102,9 +104,9 @@ void StartlisteZweiterDurchgang(Store &store, Druckschicht &druck) {
   const Listenkopf &kopf = Listenkoepfe::startlisteZweiterDurchgang();
   Dokumentanfang(store, druck, kopf.name);
   Rangfolge1(store);
-  const QStringList lines = SortierListe(store, [&store](int row) {
+  const QStringList lines = SortierListe(store, [&store](int row, const LaeuferSatz &athlete) {
     const auto &participant = store.Teilnehmer[row];
-    return Reihungsschluessel(store, participant) + QLatin1Char(' ') + secondRunKey(participant) + store.Laeufer.Name;
+    return Reihungsschluessel(store, participant) + QLatin1Char(' ') + secondRunKey(participant) + athlete.Name;
   });
   CountedPages pages(store, druck, kopf, starterHeads(store));
   int lastSection = 0;
@@ -117,18 +119,17 @@ void StartlisteZweiterDurchgang(Store &store, Druckschicht &druck) {
       const double y = gitterY(pages.next()) + 2;
       druck.Line(20, y, 190, y);
     }
-    readAthlete(store, participant);
     printStarter(store, druck, participant, pages.next());
   }
   druck.EndDoc();
 }
 
-void NichtInDerWertung(Store &store, Druckschicht &druck) {
+void NichtInDerWertung(const Store &store, Druckschicht &druck) {
   const Listenkopf &kopf = Listenkoepfe::nichtInDerWertung();
   Dokumentanfang(store, druck, kopf.name);
-  const QStringList lines = SortierListe(store, [&store](int row) {
+  const QStringList lines = SortierListe(store, [&store](int row, const LaeuferSatz &athlete) {
     const auto &participant = store.Teilnehmer[row];
-    return statusSum(participant) != 0 ? masked(participant.StartNr, "0###") + store.Laeufer.Name : QString();
+    return statusSum(participant) != 0 ? masked(participant.StartNr, "0###") + athlete.Name : QString();
   });
   if (!lines.isEmpty()) {
     CountedPages pages(store, druck, kopf, unrankedHeads(store));
@@ -136,7 +137,6 @@ void NichtInDerWertung(Store &store, Druckschicht &druck) {
       const auto &participant = store.Teilnehmer[sortierReihe(line)];
       if (participant.StartNr == 0)
         break;
-      readAthlete(store, participant);
       printUnranked(store, druck, participant, pages.next());
     }
   }

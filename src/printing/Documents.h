@@ -14,14 +14,14 @@
 /// `club` is the club filter of the ranking: a record number, 0 = nobody passes, nothing = no filter.
 void Ergebnisliste(Store &store, Druckschicht &druck, std::optional<int> club);
 void Teilnehmerliste(Store &store, Druckschicht &druck);
-void AlphabetischeListe(Store &store, Druckschicht &druck);
+void AlphabetischeListe(const Store &store, Druckschicht &druck);
 void StartlisteZweiterDurchgang(Store &store, Druckschicht &druck);
-void NichtInDerWertung(Store &store, Druckschicht &druck);
+void NichtInDerWertung(const Store &store, Druckschicht &druck);
 
 /// The three lines that replace place and time.
 using UrkundenText = std::array<QString, 3>;
 /// The certificate of one participant row, from what the last ranking left.
-void Urkunde(Store &store, Druckschicht &druck, int row, const std::optional<UrkundenText> &text);
+void Urkunde(const Store &store, Druckschicht &druck, int row, const std::optional<UrkundenText> &text);
 
 /// The remark for the best time by the choice of the print screen (1 to 4) and the sex; a null text if none fits.
 QString Bestzeittext(int choice, int sex);
@@ -29,4 +29,4 @@ QString Bestzeittext(int choice, int sex);
 void Deckkopf(const Store &store, Druckschicht &druck);
 
 /// The official cover with the facts of the race, the counts and the chosen sponsor banners.
-void Titelblatt(Store &store, Druckschicht &druck, const Werbung &werbung);
+void Titelblatt(const Store &store, Druckschicht &druck, const Werbung &werbung);

@@ -1,6 +1,7 @@
 #include "printing/Form8.h"
 
 #include "core/RecordFiles.h"
+#include "masterdata/ClubRegister.h"
 #include "platform/Numbers.h"
 #include "platform/qt/PrintRun.h"
 #include "printing/Documents.h"
@@ -32,7 +33,7 @@ Form8::~Form8() = default;
 
 void Form8::fill() {
   ui->Label1->setText(shownText(m_store.Rennen.RennenName));
-  ui->Combo3->addItems(vereinKurznamen(m_store));
+  ui->Combo3->addItems(shortNamesOfClubs(m_store));
   ui->Combo3->setCurrentIndex(-1);
   ui->Combo4->addItems(klassenNamen(m_store));
   for (QWidget *later : {static_cast<QWidget *>(ui->Combo3), ui->alternativerText})
@@ -101,10 +102,10 @@ void Form8::print(const std::function<void(Druckschicht &)> &document) {
   showPrinter();
 }
 
-void Form8::printOnce(QPushButton *button, void (*document)(Store &, Druckschicht &)) {
+void Form8::printOnce(QPushButton *button, const std::function<void(Store &, Druckschicht &)> &document) {
   const bool focused = button->hasFocus();
   setControlEnabled(button, false, ui->Command1);
-  print([this, document](Druckschicht &druck) { document(m_store, druck); });
+  print([this, &document](Druckschicht &druck) { document(m_store, druck); });
   button->setEnabled(true);
   if (focused)
     button->setFocus();
@@ -116,8 +117,9 @@ void Form8::printCertificates(Druckschicht &druck) {
     text = UrkundenText{ui->Text1->text(), ui->Text2->text(), ui->Text3->text()};
   const QList<int> marked = ui->List2->marked();
   printSeries(marked.size(), [&](qsizetype i) {
-    Urkunde(m_store, druck, rowAtEnd(ui->List2->lines().at(marked[i]), 4), text);
-    return shownText(m_store.Laeufer.Name);
+    const int row = rowAtEnd(ui->List2->lines().at(marked[i]), 4);
+    Urkunde(m_store, druck, row, text);
+    return shownText(LaeuferLesen(m_store, m_store.Teilnehmer[row].LaeuferNr).Name);
   });
 }
 

@@ -44,7 +44,7 @@ private:
   void connectChoices();
   void print(const std::function<void(Druckschicht &)> &document);
   /// Prints with the button disabled meanwhile.
-  void printOnce(QPushButton *button, void (*document)(Store &, Druckschicht &));
+  void printOnce(QPushButton *button, const std::function<void(Store &, Druckschicht &)> &document);
   void printCertificates(Druckschicht &druck);
   void printTitlePage(Druckschicht &druck);
   void keepBanners();

@@ -25,11 +25,12 @@ QString Klassenspalte(const Store &store) {
   return store.Rennen.WertKlassen == 0 ? QStringLiteral("Gruppe") : QStringLiteral("Klasse");
 }
 
-QString Vereinstext(Store &store, const TeilnehmerZeile &participant, bool orLong) {
-  if (!readClub(store, participant))
+QString Vereinstext(const Store &store, const LaeuferSatz &athlete, const TeilnehmerZeile &participant, bool orLong) {
+  const auto club = clubOf(store, athlete, participant);
+  if (!club)
     return {};
-  const QString kurz = trimmedBlanks(store.Verein.VereinKurz);
-  return kurz.isEmpty() && orLong ? trimmedBlanks(store.Verein.VereinName) : kurz;
+  const QString kurz = trimmedBlanks(club->VereinKurz);
+  return kurz.isEmpty() && orLong ? trimmedBlanks(club->VereinName) : kurz;
 }
 
 QString rechtsbuendig(int number, int width) {

@@ -18,8 +18,8 @@ QString Klassentext(const Store &store, const TeilnehmerZeile &participant);
 /// Head of the column with that text.
 QString Klassenspalte(const Store &store);
 
-/// Short name of the participant's club; with `orLong` the long one if there is no short one. The athlete must be read.
-QString Vereinstext(Store &store, const TeilnehmerZeile &participant, bool orLong);
+/// Short name of the participant's club; with `orLong` the long one if there is no short one.
+QString Vereinstext(const Store &store, const LaeuferSatz &athlete, const TeilnehmerZeile &participant, bool orLong);
 
 /// Right-aligned number of three or four characters; a longer one loses its front.
 QString rechtsbuendig(int number, int width);

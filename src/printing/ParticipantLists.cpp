@@ -1,5 +1,5 @@
 #include "core/Classes.h"
-#include "core/Participants.h"
+#include "core/RecordFiles.h"
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
 #include "printing/Documents.h"
@@ -22,10 +22,9 @@ public:
       markSection(participant, line);
       if (participant.StartNr == 0)
         break;
-      readAthlete(m_store, participant);
       if (participant.KlasseKopf != 0)
         startSection(participant);
-      printRow(participant);
+      printRow(participant, LaeuferLesen(m_store, participant.LaeuferNr));
     }
     m_druck.EndDoc();
   }
@@ -65,15 +64,15 @@ private:
     printHead();
   }
 
-  void printRow(const TeilnehmerZeile &participant) {
+  void printRow(const TeilnehmerZeile &participant, const LaeuferSatz &athlete) {
     ++m_line;
     breakIfFull(RowLimit);
     const double y = gitterY(m_line);
     m_druck.FontSize = 9;
     Zelle(m_druck, 20, y, rechtsbuendig(participant.StartNr, 4));
-    Zelle(m_druck, 34, y, m_store.Laeufer.Name.left(26));
-    Zelle(m_druck, 79, y, Vereinstext(m_store, participant, true).left(20));
-    Zelle(m_druck, 113, y, yearOf(m_store.Laeufer.Geburtsdatum));
+    Zelle(m_druck, 34, y, athlete.Name.left(26));
+    Zelle(m_druck, 79, y, Vereinstext(m_store, athlete, participant, true).left(20));
+    Zelle(m_druck, 113, y, yearOf(athlete.Geburtsdatum));
     m_druck.FontSize = 8;
     m_druck.CurrentX = 133;
     m_druck.CurrentY = float(y);
@@ -94,12 +93,13 @@ void printAlphabeticHead(const Store &store, Druckschicht &druck, int &page) {
              page);
 }
 
-void printAlphabeticRow(Store &store, Druckschicht &druck, const TeilnehmerZeile &participant, int zeilenNr) {
+void printAlphabeticRow(const Store &store, Druckschicht &druck, const TeilnehmerZeile &participant, int zeilenNr) {
+  const LaeuferSatz athlete = LaeuferLesen(store, participant.LaeuferNr);
   const double y = gitterY(zeilenNr);
   druck.FontSize = 9;
   Zelle(druck, 20, y, rechtsbuendig(participant.StartNr, 4));
-  Zelle(druck, 34, y, store.Laeufer.Name.left(26));
-  Zelle(druck, 79, y, Vereinstext(store, participant, true).left(25));
+  Zelle(druck, 34, y, athlete.Name.left(26));
+  Zelle(druck, 79, y, Vereinstext(store, athlete, participant, true).left(25));
   Zelle(druck, 130, y, Klassentext(store, participant));
   druck.DrawWidth = 2;
   druck.Box(20, gitterY(zeilenNr) - 0.5, 190, gitterY(zeilenNr + 1) - 0.5);
@@ -109,22 +109,21 @@ void printAlphabeticRow(Store &store, Druckschicht &druck, const TeilnehmerZeile
 
 void Teilnehmerliste(Store &store, Druckschicht &druck) {
   Dokumentanfang(store, druck, Listenkoepfe::teilnehmerliste().name);
-  ClassedList(store, druck).print(SortierListe(store, [&store](int row) {
+  ClassedList(store, druck).print(SortierListe(store, [&store](int row, const LaeuferSatz &athlete) {
     const auto &participant = store.Teilnehmer[row];
-    return Reihungsschluessel(store, participant) + masked(participant.StartNr, "0###") + store.Laeufer.Name;
+    return Reihungsschluessel(store, participant) + masked(participant.StartNr, "0###") + athlete.Name;
   }));
 }
 
-void AlphabetischeListe(Store &store, Druckschicht &druck) {
+void AlphabetischeListe(const Store &store, Druckschicht &druck) {
   Dokumentanfang(store, druck, Listenkoepfe::alphabetischeListe().name);
   int page = 0, zeilenNr = 0;
-  const QStringList lines = SortierListe(store, [&store](int) { return store.Laeufer.Name; });
+  const QStringList lines = SortierListe(store, [](int, const LaeuferSatz &athlete) { return athlete.Name; });
   printAlphabeticHead(store, druck, page);
   for (const QString &line : lines) {
     const auto &participant = store.Teilnehmer[sortierReihe(line)];
     if (participant.StartNr == 0)
       break;
-    readAthlete(store, participant);
     if (seiteVoll(druck, ++zeilenNr, RowLimit)) {
       zeilenNr = 1;
       druck.NewPage();

@@ -17,7 +17,7 @@ constexpr double RemarkX = 180;
 /// One printing of the result list, plain or combined.
 class ResultList {
 public:
-  ResultList(Store &store, Druckschicht &druck, bool combined, QString club)
+  ResultList(const Store &store, Druckschicht &druck, bool combined, QString club)
       : m_store(store), m_druck(druck), m_combined(combined), m_club(std::move(club)) {}
 
   void print() {
@@ -29,7 +29,6 @@ public:
         break;
       if (statusSum(participant) > 0)
         continue;
-      readAthlete(m_store, participant);
       if (participant.KlasseKopf != 0)
         startSection(participant);
       printRow(m_store.RangListe[k]);
@@ -95,21 +94,22 @@ private:
 
   void printRow(int row) {
     const auto &participant = m_store.Teilnehmer[row];
+    const LaeuferSatz athlete = LaeuferLesen(m_store, participant.LaeuferNr);
     ++m_line;
     if (seiteVoll(m_druck, m_line, RowLimit))
       breakPage(participant);
     m_druck.FontSize = 10;
     cell(6, rechtsbuendig(participant.Rang, 3) + QLatin1Char('.'));
     if (m_combined)
-      printCombined(row);
+      printCombined(row, athlete);
     else
-      printPlain(participant);
-    printRemark(participant);
+      printPlain(participant, athlete);
+    printRemark(participant, athlete.Geschlecht);
   }
 
-  void printPlain(const TeilnehmerZeile &participant) {
+  void printPlain(const TeilnehmerZeile &participant, const LaeuferSatz &athlete) {
     cell(20, rechtsbuendig(participant.StartNr, 4));
-    printPerson(participant, 34, 79, 113);
+    printPerson(participant, athlete, 34, 79, 113);
     cell(125, ZeitDruckText(m_druck, participant.WertZeit1));
     if (!twoRuns())
       return;
@@ -118,25 +118,25 @@ private:
   }
 
   // Only two races are shown, however many the sum holds.
-  void printCombined(int row) {
+  void printCombined(int row, const LaeuferSatz &athlete) {
     const auto &participant = m_store.Teilnehmer[row];
-    printPerson(participant, 20, 65, 98);
+    printPerson(participant, athlete, 20, 65, 98);
     cell(114, ZeitDruckText(m_druck, m_store.CupZeit(row, 1)));
     cell(140, ZeitDruckText(m_druck, m_store.CupZeit(row, 2)));
     cell(165, ZeitDruckText(m_druck, participant.WertSumme));
   }
 
-  void printPerson(const TeilnehmerZeile &participant, double nameX, double clubX, double yearX) {
-    cell(nameX, m_store.Laeufer.Name.left(26));
-    cell(clubX, Vereinstext(m_store, participant, false).left(20));
+  void printPerson(const TeilnehmerZeile &participant, const LaeuferSatz &athlete, double nameX, double clubX,
+                   double yearX) {
+    cell(nameX, athlete.Name.left(26));
+    cell(clubX, Vereinstext(m_store, athlete, participant, false).left(20));
     m_druck.FontSize = 9;
-    cell(yearX, yearOf(m_store.Laeufer.Geburtsdatum));
+    cell(yearX, yearOf(athlete.Geburtsdatum));
   }
 
   // The time alone decides; a person without sex gets the remark too, and where no text fits the last one again. This
   // is meant.
-  void printRemark(const TeilnehmerZeile &participant) {
-    const int sex = m_store.Laeufer.Geschlecht;
+  void printRemark(const TeilnehmerZeile &participant, int sex) {
     if ((sex == 0 && participant.WertSumme != m_store.BestzeitDamen) ||
         (sex == 1 && participant.WertSumme != m_store.BestzeitHerren) || m_store.Rennen.BestzeitText == 0)
       return;
@@ -151,7 +151,7 @@ private:
 
   void cell(double x, const PrintItem &item) { Zelle(m_druck, x, gitterY(m_line), item); }
 
-  Store &m_store;
+  const Store &m_store;
   Druckschicht &m_druck;
   bool m_combined;
   QString m_club;
@@ -159,12 +159,10 @@ private:
   int m_page = 0, m_line = 0, m_bands = 0;
 };
 
-QString clubSuffix(Store &store, std::optional<int> club) {
+QString clubSuffix(const Store &store, std::optional<int> club) {
   if (!club || *club < 1 || *club > store.VereinAnzahl)
     return {};
-  store.VereinIdx = *club;
-  VereinLesen(store);
-  return QLatin1Char(' ') + trimmedBlanks(store.Verein.VereinKurz);
+  return QLatin1Char(' ') + trimmedBlanks(VereinLesen(store, *club).VereinKurz);
 }
 
 } // namespace

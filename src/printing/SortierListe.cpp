@@ -4,12 +4,13 @@
 #include "platform/Numbers.h"
 #include "platform/SortedLines.h"
 
-QStringList SortierListe(Store &store, const std::function<QString(int row)> &key) {
+QStringList SortierListe(const Store &store, const std::function<QString(int row, const LaeuferSatz &athlete)> &key) {
   SortedLines lines;
   for (int row = 1; row <= 1000; ++row) {
-    if (!readAthlete(store, store.Teilnehmer[row]))
+    const auto athlete = athleteOf(store, store.Teilnehmer[row]);
+    if (!athlete)
       continue;
-    const QString text = key(row);
+    const QString text = key(row, *athlete);
     if (!text.isNull())
       lines.add(text + QStringLiteral("   ") + plainText(row));
   }

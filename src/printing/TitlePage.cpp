@@ -122,7 +122,7 @@ void printBanner(const Store &store, Druckschicht &druck, const Werbebanner &ban
 
 } // namespace
 
-void Titelblatt(Store &store, Druckschicht &druck, const Werbung &werbung) {
+void Titelblatt(const Store &store, Druckschicht &druck, const Werbung &werbung) {
   Dokumentanfang(store, druck, QStringLiteral("Titelblatt"));
   Deckkopf(store, druck);
   druck.FontSize = 48;

@@ -74,12 +74,11 @@ void Form5::fillParticipants() {
 }
 
 void Form5::showAthlete(int record) {
-  m_store.LaeuferIdx = record;
-  LaeuferLesen(m_store);
-  const AthleteClubs clubs = clubsOfAthlete(m_store);
-  ui->Label4->setText(shownText(m_store.Laeufer.Name));
+  const LaeuferSatz athlete = LaeuferLesen(m_store, record);
+  const AthleteClubs clubs = clubsOfAthlete(m_store, athlete);
+  ui->Label4->setText(shownText(athlete.Name));
   ui->Label6->setText(plainText(record));
-  ui->Label8->setText(shortDate(fromDays(m_store.Laeufer.Geburtsdatum)));
+  ui->Label8->setText(shortDate(fromDays(athlete.Geburtsdatum)));
   ui->Label10->setText(shownText(clubs.text));
   ui->Label11->setText(plainText(clubs.count));
   ui->Label12->setText(plainText(clubs.lastSlot));
@@ -87,9 +86,7 @@ void Form5::showAthlete(int record) {
 }
 
 void Form5::showParticipant(const QString &line) {
-  m_store.LaeuferIdx = rowAtEnd(line, 6);
-  LaeuferLesen(m_store);
-  ui->Label5->setText(shownText(m_store.Laeufer.Name));
+  ui->Label5->setText(shownText(LaeuferLesen(m_store, rowAtEnd(line, 6)).Name));
   ui->Label7->setText(plainText(rowOfLine(line)));
   ui->Command3->setEnabled(true);
 }

@@ -162,16 +162,14 @@ void Form6::showParticipant(int row) {
   ui->Check1->setChecked(participant.Gast == 1);
   ui->Check2->setChecked(participant.Bezahlt == 1);
   ui->Check3->setChecked(participant.Boarder == 1);
-  m_store.LaeuferIdx = participant.LaeuferNr;
-  LaeuferLesen(m_store);
-  showAthlete();
+  const LaeuferSatz athlete = LaeuferLesen(m_store, participant.LaeuferNr);
+  showAthlete(athlete);
   showFields(true);
   Look::setGround(ui->Text1, FarbTabelle::BlassGruen);
-  fillClubs(participant.VereinNr);
+  fillClubs(athlete, participant.VereinNr);
 }
 
-void Form6::showAthlete() {
-  const auto &athlete = m_store.Laeufer;
+void Form6::showAthlete(const LaeuferSatz &athlete) {
   m_named = !athlete.Name.isEmpty();
   ui->Label2->setText(shownText(athlete.Name));
   ui->Label8->setText(plainText(yearOf(athlete.Geburtsdatum)));
@@ -181,10 +179,10 @@ void Form6::showAthlete() {
     Look::setGround(ui->Label2, FarbTabelle::BlassRot);
 }
 
-void Form6::fillClubs(int position) {
+void Form6::fillClubs(const LaeuferSatz &athlete, int position) {
   ui->Combo1->clear();
   ui->Combo1->addItem(NothingChosen);
-  for (const int club : {m_store.Laeufer.Verein1, m_store.Laeufer.Verein2, m_store.Laeufer.Verein3})
+  for (const int club : {athlete.Verein1, athlete.Verein2, athlete.Verein3})
     ui->Combo1->addItem(clubName(club));
   ui->Combo1->addItem(QStringLiteral("kein Verein"));
   setPosition(ui->Combo1, position);

@@ -6,6 +6,7 @@
 
 class QCheckBox;
 class QComboBox;
+struct LaeuferSatz;
 struct Store;
 struct TeilnehmerZeile;
 namespace Ui {
@@ -52,8 +53,8 @@ private:
   void fillList();
   void showLine(int line);
   void showParticipant(int row);
-  void showAthlete();
-  void fillClubs(int position);
+  void showAthlete(const LaeuferSatz &athlete);
+  void fillClubs(const LaeuferSatz &athlete, int position);
   QString clubName(int club);
   void showFields(bool shown);
   void showNobody();

@@ -15,14 +15,9 @@ constexpr int LastRow = 1000;
 constexpr int ClubTextLength = 20;
 constexpr int RecordDigits = 6, RowDigits = 4;
 
-std::array<int, 3> clubSlots(const Store &store) {
-  return {store.Laeufer.Verein1, store.Laeufer.Verein2, store.Laeufer.Verein3};
-}
-
-QString clubText(Store &store, const TeilnehmerZeile &participant) {
-  if (!readClub(store, participant))
-    return {};
-  return QStringLiteral(" --- ") + trimmedBlanks(store.Verein.VereinKurz).left(ClubTextLength);
+QString clubText(const Store &store, const LaeuferSatz &athlete, const TeilnehmerZeile &participant) {
+  const auto club = clubOf(store, athlete, participant);
+  return club ? QStringLiteral(" --- ") + trimmedBlanks(club->VereinKurz).left(ClubTextLength) : QString();
 }
 
 QString sortPrefix(int row, int order) {
@@ -31,9 +26,9 @@ QString sortPrefix(int row, int order) {
   return plainText(order == ByEntry ? row : LastRow - row) + QStringLiteral("  ");
 }
 
-QString participantLine(Store &store, int row, int order) {
+QString participantLine(const Store &store, int row, const LaeuferSatz &athlete, int order) {
   const auto &line = store.Teilnehmer[row];
-  return sortPrefix(row, order) + store.Laeufer.Name + QStringLiteral("   ") + clubText(store, line) +
+  return sortPrefix(row, order) + athlete.Name + QStringLiteral("   ") + clubText(store, athlete, line) +
          QString(50, QLatin1Char(' ')) + masked(row, "0###") + masked(line.LaeuferNr, "0#####");
 }
 
@@ -45,27 +40,25 @@ template <typename Row> auto ownColumns(Row &row) {
 
 } // namespace
 
-QStringList athleteLines(Store &store, const QString &beginning) {
+QStringList athleteLines(const Store &store, const QString &beginning) {
   SortedLines lines;
   for (int n = 1; n <= store.LaeuferAnzahl; ++n) {
-    store.LaeuferIdx = n;
-    LaeuferLesen(store);
-    const QString &name = store.Laeufer.Name;
+    const QString name = LaeuferLesen(store, n).Name;
     if (!name.isEmpty() && upperCase(name.left(beginning.size())) == beginning)
       lines.add(name + QString(20, QLatin1Char(' ')) + plainText(n));
   }
   return lines.take();
 }
 
-QStringList TeilnehmerlisteFuellen(Store &store, const QString &beginning, int order) {
+QStringList TeilnehmerlisteFuellen(const Store &store, const QString &beginning, int order) {
   SortedLines lines;
   for (int row = 1; row <= LastRow; ++row) {
-    if (store.Teilnehmer[row].LaeuferNr == 0)
+    const int record = store.Teilnehmer[row].LaeuferNr;
+    if (record == 0)
       continue;
-    store.LaeuferIdx = store.Teilnehmer[row].LaeuferNr;
-    LaeuferLesen(store);
-    if (upperCase(store.Laeufer.Name.left(beginning.size())) == beginning)
-      lines.add(participantLine(store, row, order));
+    const LaeuferSatz athlete = LaeuferLesen(store, record);
+    if (upperCase(athlete.Name.left(beginning.size())) == beginning)
+      lines.add(participantLine(store, row, athlete, order));
   }
   return lines.take();
 }
@@ -74,9 +67,9 @@ int rowOfLine(QStringView line) {
   return rowAtEnd(line.chopped(std::min<qsizetype>(RecordDigits, line.size())), RowDigits);
 }
 
-AthleteClubs clubsOfAthlete(Store &store) {
+AthleteClubs clubsOfAthlete(const Store &store, const LaeuferSatz &athlete) {
   AthleteClubs clubs;
-  const auto slots = clubSlots(store);
+  const std::array<int, 3> slots{athlete.Verein1, athlete.Verein2, athlete.Verein3};
   for (int slot = 1; slot <= 3; ++slot) {
     const int club = slots[std::size_t(slot - 1)];
     if (!isClub(store, club))

@@ -5,25 +5,25 @@
 // The rules of the participant list: which athletes of the register start in the open race.
 
 /// Lines of `Form5.List1`: the athletes whose name begins with `beginning` (upper case; empty = all), sorted; ends in
-/// the record number. Leaves the index and the buffer at the last record.
-QStringList athleteLines(Store &store, const QString &beginning);
+/// the record number.
+QStringList athleteLines(const Store &store, const QString &beginning);
 
 /// The orders of `Form5.Combo1`, by position.
 enum ListOrder { ByName = 0, ByEntry = 1, LatestFirst = 2 };
 /// Lines of `Form5.List2`: the participants whose name in upper case begins with `beginning` as it stands, sorted; ends
 /// in four digits of the table row and six of the record number. The orders by entry sort unpadded digits as text on
-/// purpose: 1, 10, 100, 2. Leaves index and buffer at the last row's athlete and at the last club read.
-QStringList TeilnehmerlisteFuellen(Store &store, const QString &beginning, int order);
+/// purpose: 1, 10, 100, 2.
+QStringList TeilnehmerlisteFuellen(const Store &store, const QString &beginning, int order);
 /// The table row in a line of `Form5.List2`.
 int rowOfLine(QStringView line);
 
-/// The clubs of the current athlete as they are shown, how many they are, and the last of his slots (1 to 3) that holds
+/// The clubs of an athlete as they are shown, how many they are, and the last of his slots (1 to 3) that holds
 /// one, 0 = none.
 struct AthleteClubs {
   QString text;
   int count = 0, lastSlot = 0;
 };
-AthleteClubs clubsOfAthlete(Store &store);
+AthleteClubs clubsOfAthlete(const Store &store, const LaeuferSatz &athlete);
 
 /// Whether an athlete has a row in the open race; the whole protection against entering him twice.
 bool isParticipant(const Store &store, int athlete);

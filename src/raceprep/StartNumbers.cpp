@@ -16,18 +16,16 @@ constexpr int RowsOfDeletion = 50;
 
 // The lines of the draw for all participants that `wanted` takes: order key, draw, name, row. `draw` is asked once for
 // each of them.
-template <typename Wanted, typename Draw> QStringList numberingLines(Store &store, Wanted wanted, Draw draw) {
-  const int athlete = store.LaeuferIdx;
-  const LaeuferSatz record = store.Laeufer;
+template <typename Wanted, typename Draw> QStringList numberingLines(const Store &store, Wanted wanted, Draw draw) {
   SortedLines lines;
   for (int row = 1; row <= store.Teilnehmer.last(); ++row) {
     const auto &participant = store.Teilnehmer[row];
-    if (wanted(participant) && readAthlete(store, participant))
-      lines.add(Reihungsschluessel(store, participant) + draw() + QStringLiteral("   ") + store.Laeufer.Name +
+    if (!wanted(participant))
+      continue;
+    if (const auto athlete = athleteOf(store, participant))
+      lines.add(Reihungsschluessel(store, participant) + draw() + QStringLiteral("   ") + athlete->Name +
                 QStringLiteral("     ") + plainText(row));
   }
-  store.LaeuferIdx = athlete;
-  store.Laeufer = record;
   return lines.take();
 }
 
@@ -52,12 +50,12 @@ void handOut(Store &store, const QStringList &lines, qint64 number, qint64 reser
 
 } // namespace
 
-QStringList NummernlisteFuellen(Store &store) {
+QStringList NummernlisteFuellen(const Store &store) {
   SortedLines lines;
   for (int row = 1; row <= store.Teilnehmer.last(); ++row)
-    if (readAthlete(store, store.Teilnehmer[row]))
+    if (const auto athlete = athleteOf(store, store.Teilnehmer[row]))
       lines.add(rightAligned(plainText(store.Teilnehmer[row].StartNr), NumberWidth) + QStringLiteral("  ") +
-                store.Laeufer.Name + QStringLiteral("          ") + plainText(row));
+                athlete->Name + QStringLiteral("          ") + plainText(row));
   return lines.take();
 }
 

@@ -6,12 +6,11 @@
 // keep the number they have.
 
 /// Lines of `Form6.List1`: all participants, sorted by start number, those without one first by name; ends in the row.
-/// `LaeuferIdx` is left at the last used row's athlete.
-QStringList NummernlisteFuellen(Store &store);
+QStringList NummernlisteFuellen(const Store &store);
 
 /// Draws numbers from 1 on for the whole field: class after class (group after group) in the order of start, inside it
 /// at random. `reserve` numbers are left free between two of them; below 0 it counts down.
-/// Leaves the current athlete as he was, and `TnIdx` one behind the last line numbered. Gives the lines of the draw in
+/// Leaves `TnIdx` one behind the last line numbered. Gives the lines of the draw in
 /// their order, `Form6.List2`.
 QStringList nummernAuslosen(Store &store, int reserve);
 

@@ -2,6 +2,7 @@
 
 #include "core/Participants.h"
 #include "core/RaceFiles.h"
+#include "core/RecordFiles.h"
 #include "core/ValueFormats.h"
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
@@ -191,8 +192,8 @@ void Form7::setInputsEnabled(bool enabled) {
 }
 
 void Form7::showPerson(const TeilnehmerZeile &participant) {
-  readAthlete(m_store, participant);
-  const auto &athlete = m_store.Laeufer;
+  const LaeuferSatz athlete = LaeuferLesen(m_store, participant.LaeuferNr);
+  const auto club = clubOf(m_store, athlete, participant);
   ui->Label5->setText(plainText(participant.StartNr));
   ui->Label18->setText(participant.Gast == 1 ? QStringLiteral("JA") : QStringLiteral("-"));
   ui->Label2->setText(shownText(athlete.Name));
@@ -200,8 +201,7 @@ void Form7::showPerson(const TeilnehmerZeile &participant) {
   ui->Label16->setText(m_store.KlasseName[participant.KlasseNr]);
   if (athlete.Geschlecht < 2) // of a person without sex the colour stays that of the last one; meant
     Look::setGround(ui->Label2, QColor(athlete.Geschlecht == 1 ? FarbTabelle::BlassCyan : FarbTabelle::BlassRot));
-  ui->Label19->setText(readClub(m_store, participant) ? shownText(trimmedBlanks(m_store.Verein.VereinKurz))
-                                                      : QString());
+  ui->Label19->setText(club ? shownText(trimmedBlanks(club->VereinKurz)) : QString());
   showPair(ui->Label21, ui->Label22, participant.MannschaftNr != 0, m_store.MannschaftName[participant.MannschaftNr]);
   showPair(ui->Label24, ui->Label23, participant.GruppeNr != 0, m_store.GruppeName[participant.GruppeNr]);
 }

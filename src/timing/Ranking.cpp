@@ -2,6 +2,7 @@
 
 #include "core/Classes.h"
 #include "core/Participants.h"
+#include "core/RecordFiles.h"
 #include "core/ValueFormats.h"
 #include "platform/Numbers.h"
 #include "platform/SortedLines.h"
@@ -37,27 +38,26 @@ bool hasResult(const TeilnehmerZeile &participant, bool secondTimesExist) {
   return statusSum(participant) <= 0 && participant.Zeit1 != 0 && !(secondTimesExist && participant.Zeit2 == 0);
 }
 
-bool isRanked(Store &store, const TeilnehmerZeile &participant, bool secondTimesExist, std::optional<int> clubFilter) {
-  if (!hasResult(participant, secondTimesExist) || !readAthlete(store, participant))
-    return false;
-  return !clubFilter || (*clubFilter >= 1 && startClub(store, participant) == *clubFilter);
+bool passes(std::optional<int> clubFilter, const LaeuferSatz &athlete, const TeilnehmerZeile &participant) {
+  return !clubFilter || (*clubFilter >= 1 && startClub(athlete, participant) == *clubFilter);
 }
 
 // Guests and men may have a surcharge on each run; added one after the other, as ties compare the exact sum.
-double withSurcharges(const Store &store, const TeilnehmerZeile &participant, double seconds) {
+double withSurcharges(const RennenSatz &race, const LaeuferSatz &athlete, const TeilnehmerZeile &participant,
+                      double seconds) {
   if (participant.Gast == 1)
-    seconds += store.Rennen.ZuschlagGast;
-  if (store.Laeufer.Geschlecht == 1)
-    seconds += store.Rennen.ZuschlagMann;
+    seconds += race.ZuschlagGast;
+  if (athlete.Geschlecht == 1)
+    seconds += race.ZuschlagMann;
   return seconds;
 }
 
-void setValues(const Store &store, TeilnehmerZeile &participant) {
-  participant.WertZeit1 = withSurcharges(store, participant, participant.Zeit1);
+void setValues(const RennenSatz &race, const LaeuferSatz &athlete, TeilnehmerZeile &participant) {
+  participant.WertZeit1 = withSurcharges(race, athlete, participant, participant.Zeit1);
   participant.WertZeit2 =
-      participant.Zeit2 > 0 ? withSurcharges(store, participant, participant.Zeit2) : participant.Zeit2;
+      participant.Zeit2 > 0 ? withSurcharges(race, athlete, participant, participant.Zeit2) : participant.Zeit2;
   participant.WertSumme = participant.WertZeit1;
-  if (store.Rennen.ZweiDurchgaenge == 1)
+  if (race.ZweiDurchgaenge == 1)
     participant.WertSumme += participant.WertZeit2;
 }
 
@@ -66,10 +66,10 @@ QString valueKey(const Store &store, const TeilnehmerZeile &participant, double 
   return store.Rennen.WertZeit == 1 ? masked(seconds, ValueMask) : masked(participant.Punkte, ValueMask);
 }
 
-QString rankKey(const Store &store, int row, double seconds) {
+QString rankKey(const Store &store, int row, const QString &name, double seconds) {
   const auto &participant = store.Teilnehmer[row];
-  return Reihungsschluessel(store, participant) % valueKey(store, participant, seconds) % store.Laeufer.Name %
-         QLatin1String("   ") % plainText(row);
+  return Reihungsschluessel(store, participant) % valueKey(store, participant, seconds) % name % QLatin1String("   ") %
+         plainText(row);
 }
 
 int groupOf(const QString &key) {
@@ -85,14 +85,14 @@ public:
     const int row = rowAtEnd(key, RowLength);
     auto &participant = m_store.Teilnehmer[row];
     m_store.RangListe[++m_line] = row;
-    readAthlete(m_store, participant);
+    const LaeuferSatz athlete = LaeuferLesen(m_store, participant.LaeuferNr);
     if (const int group = groupOf(key); group != m_group)
       startGroup(group, participant);
-    takeBestTime(participant);
+    takeBestTime(athlete.Geschlecht, participant);
     setPlace(participant);
     if (participant.KlasseKopf == 1)
       m_store.ErgebnisZeilen << QString() << headLine();
-    m_store.ErgebnisZeilen << resultLine(participant);
+    m_store.ErgebnisZeilen << resultLine(athlete.Name, participant);
   }
 
 private:
@@ -104,12 +104,12 @@ private:
     participant.KlasseKopf = 1;
   }
 
-  void takeBestTime(const TeilnehmerZeile &participant) {
+  void takeBestTime(int sex, const TeilnehmerZeile &participant) {
     if (participant.KlasseNr - 1 < m_store.Rennen.BestzeitAbKlasse)
       return;
-    if (m_store.Laeufer.Geschlecht == 0)
+    if (sex == 0)
       m_store.BestzeitDamen = std::min(m_store.BestzeitDamen, participant.WertSumme);
-    if (m_store.Laeufer.Geschlecht == 1)
+    if (sex == 1)
       m_store.BestzeitHerren = std::min(m_store.BestzeitHerren, participant.WertSumme);
   }
 
@@ -130,12 +130,12 @@ private:
   }
 
   // The running count stands here, not the shared place; this is meant.
-  QString resultLine(const TeilnehmerZeile &participant) const {
+  QString resultLine(const QString &name, const TeilnehmerZeile &participant) const {
     const QString klasse = m_store.Rennen.WertKlassen == 1
                                ? m_store.KlasseGenauName.valueOrEmpty(participant.KlasseGenau)
                                : m_store.GruppeName[participant.GruppeNr];
     const QLatin1Char gap(' ');
-    return rightAligned(plainText(m_place), 4) % QLatin1String(". ") % padded(m_store.Laeufer.Name, 25) %
+    return rightAligned(plainText(m_place), 4) % QLatin1String(". ") % padded(name, 25) %
            rightAligned(plainText(participant.StartNr), 5) % gap % padded(klasse, 12) % gap % values(participant);
   }
 
@@ -169,7 +169,6 @@ void walkFirstRun(Store &store, const QStringList &keys) {
     const int row = rowAtEnd(key, RowLength);
     auto &participant = store.Teilnehmer[row];
     store.RangListe[++line] = row;
-    readAthlete(store, participant);
     if (const int group = groupOf(key); group != lastGroup) {
       lastGroup = group;
       place = 0;
@@ -191,10 +190,13 @@ void ErgebnisRechnen(Store &store, std::optional<int> clubFilter) {
   for (int row = 1; row <= 1000; ++row) {
     auto &participant = store.Teilnehmer[row];
     clearValues(participant);
-    if (!isRanked(store, participant, secondTimesExist, clubFilter))
+    if (!hasResult(participant, secondTimesExist))
       continue;
-    setValues(store, participant);
-    keys.add(rankKey(store, row, participant.WertSumme));
+    const auto athlete = athleteOf(store, participant);
+    if (!athlete || !passes(clubFilter, *athlete, participant))
+      continue;
+    setValues(store.Rennen, *athlete, participant);
+    keys.add(rankKey(store, row, athlete->Name, participant.WertSumme));
   }
   resetPlaces(store);
   ResultWalk walk(store);
@@ -207,10 +209,12 @@ void Rangfolge1(Store &store) {
   for (int row = 1; row <= 1000; ++row) {
     auto &participant = store.Teilnehmer[row];
     participant.WertZeit1 = 0;
-    if (participant.Status1 > 0 || !readAthlete(store, participant))
+    if (participant.Status1 > 0)
       continue;
-    participant.WertZeit1 = withSurcharges(store, participant, participant.Zeit1);
-    keys.add(rankKey(store, row, participant.WertZeit1));
+    if (const auto athlete = athleteOf(store, participant)) {
+      participant.WertZeit1 = withSurcharges(store.Rennen, *athlete, participant, participant.Zeit1);
+      keys.add(rankKey(store, row, athlete->Name, participant.WertZeit1));
+    }
   }
   store.ErgebnisZeilen.clear();
   store.BestzeitDamen = NoBestTime;

@@ -8,8 +8,7 @@
 // keys are sorted once and walked once. What the routines leave is never stored, so every reader runs them anew.
 
 /// Ranks the race by the total. Leaves the valued times, `Rang`, `KlasseKopf`, `RangListe`, the best times and
-/// `ErgebnisZeilen`; all columns of all rows are new. `LaeuferIdx` is left at the last ranked athlete. Laeufer.rec must
-/// be open and the classes assigned.
+/// `ErgebnisZeilen`; all columns of all rows are new. Laeufer.rec must be open and the classes assigned.
 ///
 /// With a `clubFilter` only members of the club with that record number are ranked, and nobody if it is below 1.
 void ErgebnisRechnen(Store &store, std::optional<int> clubFilter = {});

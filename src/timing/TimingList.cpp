@@ -41,14 +41,14 @@ QString keyPrefix(const Store &store, int row, ListMode mode) {
   return secondRunGroup(store, row) + gap + secondRunKey(participant);
 }
 
-QStringList sortedKeys(Store &store, ListMode mode) {
+QStringList sortedKeys(const Store &store, ListMode mode) {
   SortedLines keys;
   for (int row = 1; row <= 1000; ++row) {
     const auto &participant = store.Teilnehmer[row];
     if (mode == ListMode::ZweiterDurchgang && participant.Status1 > 0)
       continue;
-    if (readAthlete(store, participant))
-      keys.add(keyPrefix(store, row, mode) + QLatin1Char(' ') + store.Laeufer.Name + QString(11, QLatin1Char(' ')) +
+    if (const auto athlete = athleteOf(store, participant))
+      keys.add(keyPrefix(store, row, mode) + QLatin1Char(' ') + athlete->Name + QString(11, QLatin1Char(' ')) +
                plainText(row));
   }
   return keys.take();

@@ -35,14 +35,10 @@ protected:
 } // namespace
 
 TEST_F(Beispiel, ReadAndWrittenAgainIsTheSameBytes) {
-  for (store.VereinIdx = 1; store.VereinIdx <= store.VereinAnzahl; ++store.VereinIdx) {
-    VereinLesen(store);
-    VereinSchreiben(store);
-  }
-  for (store.LaeuferIdx = 1; store.LaeuferIdx <= store.LaeuferAnzahl; ++store.LaeuferIdx) {
-    LaeuferLesen(store);
-    LaeuferSchreiben(store);
-  }
+  for (int n = 1; n <= store.VereinAnzahl; ++n)
+    VereinSchreiben(store, n, VereinLesen(store, n));
+  for (int n = 1; n <= store.LaeuferAnzahl; ++n)
+    LaeuferSchreiben(store, n, LaeuferLesen(store, n));
   for (int race = 1; race <= Races; ++race) {
     openRace(race);
     RennenSchreiben(store);

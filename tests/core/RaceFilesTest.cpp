@@ -118,10 +118,9 @@ TEST_F(RaceFiles, APastedLineBreakMovesNoLine) {
 TEST_F(RaceFiles, RemindsOfAthletesWithoutSexOrBirthDate) {
   QStringList reminder;
   test.umgebung.erinnern = [&](const QStringList &lines) { reminder = lines; };
-  LaeuferLeeren(store);
-  store.LaeuferIdx = 2;
-  store.Laeufer.Name = QStringLiteral("HUBER Max");
-  LaeuferSchreiben(store);
+  LaeuferSatz max;
+  max.Name = QStringLiteral("HUBER Max");
+  LaeuferSchreiben(store, 2, max);
   test.enter(1);
   test.enter(2);
   RennDatenSpeichern(store);

@@ -29,16 +29,16 @@ TEST_F(RecordFiles, EveryByteSurvivesReadingAndWriting) {
   for (const auto &[name, bytes] : files)
     test.writeFile(name, bytes);
   store.VereinAnzahl = store.LaeuferAnzahl = store.RennenAnzahl = 1;
-  store.VereinIdx = store.LaeuferIdx = store.RennenIdx = 1;
+  store.RennenIdx = 1;
   alleDateienOeffnen(store);
-  VereinLesen(store);
-  LaeuferLesen(store);
+  const VereinSatz club = VereinLesen(store, 1);
+  const LaeuferSatz athlete = LaeuferLesen(store, 1);
   RennenLesen(store);
   for (const auto &[name, bytes] : files)
     test.writeFile(name, {});
   alleDateienOeffnen(store);
-  VereinSchreiben(store);
-  LaeuferSchreiben(store);
+  VereinSchreiben(store, 1, club);
+  LaeuferSchreiben(store, 1, athlete);
   RennenSchreiben(store);
   for (const auto &[name, bytes] : files)
     EXPECT_EQ(test.file(name), bytes);
@@ -69,14 +69,14 @@ TEST_F(RecordFiles, FieldsLieWhereTheyAreTold) {
 
 TEST_F(RecordFiles, ReadingHoldsValuesInRange) {
   test.addClub(QStringLiteral("SK"));
-  store.LaeuferIdx = store.RennenIdx = 1;
+  store.RennenIdx = 1;
   for (const auto &[sex, expected] : {std::pair(5, 2), {-1, 0}, {1, 1}}) {
-    store.Laeufer.Geschlecht = qint16(sex);
-    store.Laeufer.Verein2 = 12;
-    LaeuferSchreiben(store);
-    LaeuferLesen(store);
-    EXPECT_EQ(store.Laeufer.Geschlecht, expected);
-    EXPECT_EQ(store.Laeufer.Verein2, 0);
+    LaeuferSatz athlete;
+    athlete.Geschlecht = qint16(sex);
+    athlete.Verein2 = 12;
+    LaeuferSchreiben(store, 1, athlete);
+    EXPECT_EQ(LaeuferLesen(store, 1).Geschlecht, expected);
+    EXPECT_EQ(LaeuferLesen(store, 1).Verein2, 0);
   }
   store.Rennen.BestzeitAbKlasse = 18;
   RennenSchreiben(store);
@@ -88,11 +88,11 @@ TEST_F(RecordFiles, ReadingOutsideTheFileBeepsAndEmptiesTheName) {
   test.addClub(QStringLiteral("SK"));
   test.addRace(QStringLiteral("Lauf"));
   for (const auto &[index, kurz] : {std::pair(2, "SK"), {0, ""}, {1, "SK"}}) {
-    store.VereinIdx = store.RennenIdx = index;
-    VereinLesen(store);
+    const VereinSatz club = VereinLesen(store, index);
+    store.RennenIdx = index;
     RennenLesen(store);
-    EXPECT_EQ(trimmedBlanks(store.Verein.VereinKurz), QLatin1String(kurz)) << index;
-    EXPECT_EQ(store.Verein.VereinName.isEmpty() && store.Rennen.RennenName.isEmpty(), index != 1) << index;
+    EXPECT_EQ(trimmedBlanks(club.VereinKurz), QLatin1String(kurz)) << index;
+    EXPECT_EQ(club.VereinName.isEmpty() && store.Rennen.RennenName.isEmpty(), index != 1) << index;
   }
   EXPECT_EQ(test.beeps, 4);
 }
@@ -111,23 +111,20 @@ TEST_F(RecordFiles, NewRaceInheritsTheCriteriaAndNothingElse) {
 }
 
 TEST_F(RecordFiles, WritesBelowOneFaultButForAthletes) {
-  store.VereinIdx = store.LaeuferIdx = store.RennenIdx = 0;
-  LaeuferSchreiben(store);
+  store.RennenIdx = 0;
+  LaeuferSchreiben(store, 0, {});
   EXPECT_EQ(test.file(QStringLiteral("Laeufer.rec")), QByteArray());
-  EXPECT_THROW(VereinSchreiben(store), FileFault);
+  EXPECT_THROW(VereinSchreiben(store, 0, {}), FileFault);
   EXPECT_THROW(RennenSchreiben(store), FileFault);
 }
 
 TEST_F(RecordFiles, RecordNotYetWrittenReadsAsEmptyAndAGapAsZeros) {
-  store.LaeuferAnzahl = store.LaeuferIdx = 1;
-  LaeuferLesen(store);
-  EXPECT_EQ(store.Laeufer.Geschlecht, 2);
+  store.LaeuferAnzahl = 1;
+  const LaeuferSatz athlete = LaeuferLesen(store, 1);
+  EXPECT_EQ(athlete.Geschlecht, 2);
   EXPECT_EQ(test.beeps, 0);
-  store.LaeuferIdx = 3;
-  LaeuferSchreiben(store);
-  store.LaeuferIdx = 2;
-  LaeuferLesen(store);
-  EXPECT_EQ(store.Laeufer.Name, QString(80, QChar(0)));
+  LaeuferSchreiben(store, 3, athlete);
+  EXPECT_EQ(LaeuferLesen(store, 2).Name, QString(80, QChar(0)));
   EXPECT_EQ(LaeuferListeFuellen(store).size(), 2); // the gap counts as named
 }
 
@@ -137,9 +134,9 @@ TEST_F(RecordFiles, CountsAreWrittenWhenTheLastRecordChanges) {
   test.addAthlete(QStringLiteral("B"), 2001, 0);
   EXPECT_EQ(test.file(QStringLiteral("Vext.dat")), " 2 \r\n 0 \r\n 0 \r\n 9 \r\n");
   QFile::remove(store.DatenOrdner + QStringLiteral("Vext.dat"));
-  for (store.LaeuferIdx = 1; store.LaeuferIdx <= 2; ++store.LaeuferIdx) {
-    LaeuferSchreiben(store);
-    EXPECT_EQ(test.hasFile(QStringLiteral("Vext.dat")), store.LaeuferIdx == 2);
+  for (const int n : {1, 2}) {
+    LaeuferSchreiben(store, n, {});
+    EXPECT_EQ(test.hasFile(QStringLiteral("Vext.dat")), n == 2);
   }
 }
 
@@ -149,5 +146,4 @@ TEST_F(RecordFiles, ListsAreInGermanOrderWithTheNumberAtTheEnd) {
   EXPECT_EQ(LaeuferListeFuellen(store),
             QStringList({QStringLiteral("öhler        2"), QStringLiteral("OHLER        3"),
                          QStringLiteral("Öhler        5"), QStringLiteral("Zeller        1")}));
-  EXPECT_EQ(store.LaeuferIdx, 5);
 }

@@ -20,8 +20,8 @@ TEST_F(Start, PlacesAreMirroredBackAndCountsReadAsFarAsTheyGo) {
   storeStarten(store);
   EXPECT_EQ(store.Fenster.FensterLeft[1], 300);
   EXPECT_EQ(store.Fenster.FensterTop[2], 7);
-  EXPECT_EQ(store.LaeuferIdx, 12);
-  EXPECT_EQ(store.VereinIdx, 3);
+  EXPECT_EQ(store.LaeuferAnzahl, 12);
+  EXPECT_EQ(store.VereinAnzahl, 3);
   EXPECT_EQ(store.RennenIdx, 0);
   FensterSpeichern(store);
   const QByteArray file = test.file(QStringLiteral("TopLeft.dat"));

@@ -39,23 +39,18 @@ void require(bool holds) {
 
 void readClubs(Store &store) {
   VereinOeffnen(store);
-  for (store.VereinIdx = store.VereinAnzahl = 1; store.VereinDatei.holds(store.VereinIdx);
-       store.VereinAnzahl = ++store.VereinIdx) {
-    VereinLesen(store);
-    require(toBytes(store.Verein) == store.VereinDatei.read(store.VereinIdx));
-  }
+  for (int &n = store.VereinAnzahl = 1; store.VereinDatei.holds(n); ++n)
+    require(toBytes(VereinLesen(store, n)) == store.VereinDatei.read(n));
 }
 
 // A record read, written and read once more is the same.
 void readAthletes(Store &store) {
   LaeuferOeffnen(store);
-  store.LaeuferIdx = store.LaeuferAnzahl = 1;
-  LaeuferLesen(store);
-  const QByteArray taken = toBytes(store.Laeufer);
-  LaeuferSchreiben(store);
-  LaeuferLesen(store);
-  require(toBytes(store.Laeufer) == taken);
-  require(yearOf(store.Laeufer.Geburtsdatum) >= -10'000);
+  store.LaeuferAnzahl = 1;
+  const LaeuferSatz taken = LaeuferLesen(store, 1);
+  LaeuferSchreiben(store, 1, taken);
+  require(toBytes(LaeuferLesen(store, 1)) == toBytes(taken));
+  require(yearOf(taken.Geburtsdatum) >= -10'000);
   LaeuferListeFuellen(store);
 }
 

@@ -203,10 +203,9 @@ TEST_F(DyingProgram, ARaceFileThatIsNoRaceFileIsLeftAlone) {
 TEST_F(DyingProgram, AnAthleteWithoutSexIsNamed) {
   test.store.Rennen.WertGeschlecht = 1;
   RennenSchreiben(test.store);
-  test.store.LaeuferIdx = 1;
-  LaeuferLesen(test.store);
-  test.store.Laeufer.Geschlecht = 2;
-  LaeuferSchreiben(test.store);
+  LaeuferSatz karl = LaeuferLesen(test.store, 1);
+  karl.Geschlecht = 2;
+  LaeuferSchreiben(test.store, 1, karl);
   const QString report = run(OpenTiming + CloseReport);
   EXPECT_EQ(program.exitCode(), 70);
   EXPECT_TRUE(report.contains(QStringLiteral("BERGER Karl"))) << report.toStdString();

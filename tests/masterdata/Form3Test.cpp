@@ -15,11 +15,7 @@ protected:
       test.addAthlete(QLatin1String(name), 1990, sex);
     open();
   }
-  const LaeuferSatz &record(int n) {
-    store.LaeuferIdx = n;
-    LaeuferLesen(store);
-    return store.Laeufer;
-  }
+  LaeuferSatz record(int n) { return LaeuferLesen(store, n); }
 };
 
 } // namespace
@@ -52,9 +48,9 @@ TEST_F(Form3Test, EachFieldIsStoredOnceWhenItIsLeft) {
     key(arrow);
     EXPECT_EQ(record(1).Geschlecht, sex);
   }
-  EXPECT_EQ(store.Laeufer.OesvNr.trimmed() + text("Text4"), QStringLiteral("471101.01.1983"));
-  EXPECT_EQ(store.Laeufer.LaeuferPunkte, 2.5F);
-  EXPECT_EQ(store.Laeufer.Verein2, 2);
+  EXPECT_EQ(record(1).OesvNr.trimmed() + text("Text4"), QStringLiteral("471101.01.1983"));
+  EXPECT_EQ(record(1).LaeuferPunkte, 2.5F);
+  EXPECT_EQ(record(1).Verein2, 2);
   type("Text5", "1000000000000000"); // would be shown as 1E+15 and read as 1
   find("Text4")->setFocus();
   EXPECT_EQ(text("Text5"), QStringLiteral("2,5"));
@@ -83,9 +79,9 @@ TEST_F(Form3Test, FieldsStayTogetherAndAClubIsToldWhole) {
 TEST_F(Form3Test, WritesOnlyIntoTheAthleteShown) {
   openWith({"A", "B", "C"});
   form->zeigen(2);
-  store.LaeuferIdx = 3;
+  record(3);
   type("Text2", "ZZ");
-  store.LaeuferIdx = 1;
+  record(1);
   key(Qt::Key_Tab);
   EXPECT_EQ(lines("List1").join(QLatin1Char('|')), QStringLiteral("A        1|C        3|ZZ        2"));
   EXPECT_EQ(find<LineList>("List1")->chosenLine(), 2);

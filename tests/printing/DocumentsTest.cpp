@@ -41,9 +41,9 @@ protected:
     QDir::setCurrent(test.folder.path()); // for the logo
     store.OrganisationName = QStringLiteral("Schiklub Übelbach");
     test.addClub(QStringLiteral("SK Alm"));
-    test.addClub(QStringLiteral("Turnverein Bergheim an der Enge"));
-    store.Verein.VereinKurz.clear();
-    VereinSchreiben(store);
+    VereinSatz longName;
+    longName.VereinName = QStringLiteral("Turnverein Bergheim an der Enge");
+    VereinSchreiben(store, 2, longName);
     test.addClub(QStringLiteral("Schiunion Oberes Inntal Nord"));
     test.addRace(QStringLiteral("Vereinsmeisterschaft im Riesentorlauf der Sektion Hinterberg"));
     store.Rennen.RennenOrt = QStringLiteral("Hinterberg");
@@ -88,8 +88,10 @@ protected:
   }
   void printLists() {
     Ergebnisliste(store, druck, {});
-    for (const auto print : {Teilnehmerliste, AlphabetischeListe, StartlisteZweiterDurchgang, NichtInDerWertung})
-      print(store, druck);
+    Teilnehmerliste(store, druck);
+    AlphabetischeListe(store, druck);
+    StartlisteZweiterDurchgang(store, druck);
+    NichtInDerWertung(store, druck);
   }
 
   TestStore test;

@@ -9,7 +9,7 @@ namespace {
 class Form6Test : public ScreenTest<Form6> {
 protected:
   Form6Test() {
-    store.VereinIdx = test.addClub(QStringLiteral("SC Alm"));
+    test.addClub(QStringLiteral("SC Alm"));
     test.addRace(QStringLiteral("Lauf"));
   }
 

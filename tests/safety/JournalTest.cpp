@@ -71,10 +71,9 @@ TEST_F(JournalOfARace, EachChangedValueIsALine) {
        "10:42:07;1;28;WEIßKIRCHNER Antonia;Zeit 1;1:02,38 (62,384);|"
        "10:42:07;1;28;WEIßKIRCHNER Antonia;Status 2;dis;ok|"},
       {[&] {
-         store.LaeuferIdx = 2;
-         LaeuferLesen(store);
-         store.Laeufer.Verein1 = 2, store.Laeufer.Geschlecht = 0;
-         LaeuferSchreiben(store);
+         LaeuferSatz karl = LaeuferLesen(store, 2);
+         karl.Verein1 = 2, karl.Geschlecht = 0;
+         LaeuferSchreiben(store, 2, karl);
          journal.written({store.LaeuferDatei.path()});
        },
        "10:42:07;;;BERGER Karl;Geschlecht;m;w|10:42:07;;;BERGER Karl;Verein 1;SC Ötz;'=SC|"},

@@ -99,19 +99,19 @@ public:
   QStringList lines;
 };
 
-void addRegisters(Facts &facts, Store &store) {
-  for (store.VereinIdx = 1; store.VereinIdx <= store.VereinAnzahl; ++store.VereinIdx) {
-    VereinLesen(store);
-    const QString who = QStringLiteral("Verein %1").arg(store.VereinIdx);
-    facts.add(who, trimmedBlanks(store.Verein.VereinName));
-    facts.add(who + QStringLiteral(" kurz"), trimmedBlanks(store.Verein.VereinKurz));
+void addRegisters(Facts &facts, const Store &store) {
+  for (int n = 1; n <= store.VereinAnzahl; ++n) {
+    const VereinSatz club = VereinLesen(store, n);
+    const QString who = QStringLiteral("Verein %1").arg(n);
+    facts.add(who, trimmedBlanks(club.VereinName));
+    facts.add(who + QStringLiteral(" kurz"), trimmedBlanks(club.VereinKurz));
   }
-  for (store.LaeuferIdx = 1; store.LaeuferIdx <= store.LaeuferAnzahl; ++store.LaeuferIdx) {
-    LaeuferLesen(store);
-    const QString who = QStringLiteral("Läufer %1").arg(store.LaeuferIdx);
-    facts.add(who, store.Laeufer.Name);
-    facts.add(who + QStringLiteral(" geboren"), store.Laeufer.Geburtsdatum);
-    facts.add(who + QStringLiteral(" Geschlecht"), store.Laeufer.Geschlecht);
+  for (int n = 1; n <= store.LaeuferAnzahl; ++n) {
+    const LaeuferSatz athlete = LaeuferLesen(store, n);
+    const QString who = QStringLiteral("Läufer %1").arg(n);
+    facts.add(who, athlete.Name);
+    facts.add(who + QStringLiteral(" geboren"), athlete.Geburtsdatum);
+    facts.add(who + QStringLiteral(" Geschlecht"), athlete.Geschlecht);
   }
 }
 

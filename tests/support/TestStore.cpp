@@ -16,22 +16,20 @@ void TestStore::takeOver(const QString &from) {
 }
 
 int TestStore::addClub(const QString &name) {
-  VereinLeeren(store);
-  store.Verein.VereinName = store.Verein.VereinKurz = name;
-  store.VereinIdx = store.VereinAnzahl + 1;
-  VereinSchreiben(store);
-  return store.VereinIdx;
+  VereinSatz club;
+  club.VereinName = club.VereinKurz = name;
+  VereinSchreiben(store, store.VereinAnzahl + 1, club);
+  return store.VereinAnzahl;
 }
 
 int TestStore::addAthlete(const QString &name, int year, int sex, int club) {
-  LaeuferLeeren(store);
-  store.Laeufer.Name = name;
-  store.Laeufer.Geburtsdatum = toDays(QDate(year, 7, 1));
-  store.Laeufer.Geschlecht = qint16(sex);
-  store.Laeufer.Verein1 = qint16(club);
-  store.LaeuferIdx = store.LaeuferAnzahl + 1;
-  LaeuferSchreiben(store);
-  return store.LaeuferIdx;
+  LaeuferSatz athlete;
+  athlete.Name = name;
+  athlete.Geburtsdatum = toDays(QDate(year, 7, 1));
+  athlete.Geschlecht = qint16(sex);
+  athlete.Verein1 = qint16(club);
+  LaeuferSchreiben(store, store.LaeuferAnzahl + 1, athlete);
+  return store.LaeuferAnzahl;
 }
 
 int TestStore::addRace(const QString &name) {
