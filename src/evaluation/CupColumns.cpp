@@ -1,8 +1,9 @@
 #include "evaluation/CupColumns.h"
 
+#include "core/RecordFiles.h"
 #include "core/ValueFormats.h"
+#include "platform/Dates.h"
 #include "platform/Numbers.h"
-#include "printing/ListRows.h"
 #include "printing/PrintHelpers.h"
 
 #include <algorithm>
@@ -15,8 +16,40 @@ constexpr double WidePitch = 28;
 constexpr double NarrowLeft = 107, NarrowRight = 253, TotalRight = 270;
 constexpr double HeadSize = 11, CellSize = 9, SmallestSize = 7, SizeStep = 0.5;
 
-QString roundHead(int round) {
-  return plainText(round) + QStringLiteral(". Lauf");
+using Column = Spalte<CupRow>;
+using enum Ausrichtung;
+
+QString clubText(const Store &store, const LaeuferSatz &athlete) {
+  // The second club is passed over, and the club of the race plays no part; this is meant.
+  for (const int club : {int(athlete.Verein1), int(athlete.Verein3)})
+    if (club != 0 && club <= store.VereinAnzahl)
+      return trimmedBlanks(VereinLesen(store, club).VereinKurz);
+  return {};
+}
+
+/// The time, the status or "-".
+QString timeText(const Store &store, int person, int round) {
+  if (const int status = store.CupStatus(person, round); status > 0)
+    return store.StatusText[status];
+  const double time = store.CupZeit(person, round);
+  return time == 0 ? QStringLiteral("-") : ZeitText(time);
+}
+
+Column roundTime(const Store &store, int round) {
+  const double x = WidePitch * round;
+  return {plainText(round) + QStringLiteral(". Lauf"),
+          82 + x,
+          Zeit,
+          CellSize,
+          [&store, round](const CupRow &row) { return timeText(store, row.person, round); },
+          85 + x};
+}
+
+Column roundPoints(const Store &store, int round) {
+  return {QStringLiteral("Pkte"), 100 + WidePitch * round, Links, CellSize, [&store, round](const CupRow &row) {
+            return store.CupStreich(row.person, round) == 1 ? PrintItem(QStringLiteral("X"))
+                                                            : PrintItem(store.CupPunkte(row.person, round));
+          }};
 }
 
 // How much lower a text of the smaller size begins to stand on the line of the larger one.
@@ -27,8 +60,27 @@ double toBaseline(double size, double smallerSize) {
 
 } // namespace
 
+CupSpalten cupPersonSpalten(const Store &store) {
+  const auto place = [](const CupRow &row) { return row.place; };
+  const auto name = [](const CupRow &row) { return trimmedBlanks(row.athlete.Name); };
+  const auto club = [&store](const CupRow &row) { return clubText(store, row.athlete); };
+  const auto year = [](const CupRow &row) { return yearOf(row.athlete.Geburtsdatum); };
+  return {inBold(Column(QStringLiteral("Rang"), 25, Links, CellSize, place, 22)),
+          {QStringLiteral("Name / Klasse"), 36, Links, CellSize, name},
+          withoutHead(Column(QStringLiteral("Verein"), 36, Links, CellSize, club)),
+          {QStringLiteral("Jahrg."), 96, Links, CellSize, year}};
+}
+
+CupSpalten cupRundenSpalten(const Store &store) {
+  CupSpalten columns;
+  for (int round = 1; round <= store.CupRunden; ++round)
+    columns << roundTime(store, round) << roundPoints(store, round);
+  const auto total = [&store](const CupRow &row) { return store.CupPunkte(row.person, 0); };
+  return columns << Column(QStringLiteral("Ges. Pkte"), 265, Links, CellSize, total, 255);
+}
+
 CupColumns::CupColumns(const Store &store, Druckschicht &druck, const QList<int> &persons)
-    : m_store(store), m_druck(druck), m_size(CellSize) {
+    : m_store(store), m_druck(druck), m_columns(cupRundenSpalten(store)), m_size(CellSize) {
   if (narrow())
     fitSize(persons);
 }
@@ -52,73 +104,69 @@ void CupColumns::fitSize(const QList<int> &persons) {
 
 // Two blanks keep a time from the one before.
 double CupColumns::widestCell(const QList<int> &persons) const {
-  double widest = double(m_druck.TextWidth(roundHead(m_store.CupRunden)));
+  double widest = double(m_druck.TextWidth(time(m_store.CupRunden).kopf));
   for (const int person : persons)
     for (int round = 1; round <= m_store.CupRunden; ++round)
-      widest = std::max(widest, double(m_druck.TextWidth(timeText(person, round))));
+      widest = std::max(widest, double(m_druck.TextWidth(timeText(m_store, person, round))));
   return widest + double(m_druck.TextWidth(QStringLiteral("  ")));
+}
+
+double CupColumns::rightOf(int round) const {
+  return NarrowLeft + pitch() * round;
 }
 
 void CupColumns::printHeads(double y) const {
   if (narrow())
     return printNarrowHeads(y);
-  for (int round = 1; round <= m_store.CupRunden; ++round) {
-    Zelle(m_druck, 85 + WidePitch * round, y, roundHead(round));
-    Zelle(m_druck, 100 + WidePitch * round, y, QStringLiteral("Pkte"));
-  }
+  ::printHeads(m_druck, m_columns, y);
 }
 
 void CupColumns::printNarrowHeads(double y) const {
   const double top = y + toBaseline(HeadSize, m_size);
   m_druck.FontSize = m_size;
   for (int round = 1; round <= m_store.CupRunden; ++round) {
-    printRightAligned(NarrowLeft + pitch() * round, top, roundHead(round));
-    printRightAligned(NarrowLeft + pitch() * round, top + SecondLine, QStringLiteral("Pkte"));
+    printRightAligned(rightOf(round), top, time(round).kopf);
+    printRightAligned(rightOf(round), top + SecondLine, points(round).kopf);
   }
   m_druck.FontSize = HeadSize;
+  ::printHeads(m_druck, CupSpalten{m_columns.last()}, y);
 }
 
-void CupColumns::printRounds(int person, double y) const {
+void CupColumns::printRounds(const CupRow &row, double y) const {
   if (narrow())
-    return printNarrow(person, y);
-  for (int round = 1; round <= m_store.CupRunden; ++round)
-    printWide(person, round, y);
-  Zelle(m_druck, 265, y, m_store.CupPunkte(person, 0));
+    return printNarrow(row, y);
+  for (int round = 1; round <= m_store.CupRunden; ++round) {
+    printWideTime(row, round, y);
+    printCell(m_druck, points(round), row, y);
+  }
+  printCell(m_druck, m_columns.last(), row, y);
 }
 
-// A status stands further right than a time.
-void CupColumns::printWide(int person, int round, double y) const {
-  const double time = m_store.CupZeit(person, round);
-  if (m_store.CupStatus(person, round) > 0)
-    Zelle(m_druck, 91 + WidePitch * round, y, timeText(person, round));
+// A status stands further right than a time, and only a time is right-aligned.
+void CupColumns::printWideTime(const CupRow &row, int round, double y) const {
+  constexpr double statusShift = 9;
+  const auto &column = time(round);
+  if (m_store.CupStatus(row.person, round) > 0)
+    Zelle(m_druck, column.zelleX + statusShift, y, column.zelle(row));
+  else if (m_store.CupZeit(row.person, round) == 0)
+    Zelle(m_druck, column.zelleX, y, column.zelle(row));
   else
-    Zelle(m_druck, 82 + WidePitch * round, y, time == 0 ? timeText(person, round) : ZeitDruckText(m_druck, time));
-  const int points = m_store.CupPunkte(person, round);
-  Zelle(m_druck, 100 + WidePitch * round, y, isStruck(person, round) ? PrintItem(QStringLiteral("X")) : points);
+    printCell(m_druck, column, row, y);
 }
 
-void CupColumns::printNarrow(int person, double y) const {
+void CupColumns::printNarrow(const CupRow &row, double y) const {
   const double top = y + toBaseline(CellSize, m_size);
   m_druck.FontSize = m_size;
   for (int round = 1; round <= m_store.CupRunden; ++round) {
-    const double right = NarrowLeft + pitch() * round;
-    const QString points = plainText(m_store.CupPunkte(person, round));
-    printRightAligned(right, top, timeText(person, round));
-    printRightAligned(right, top + SecondLine, isStruck(person, round) ? QStringLiteral("X") : points);
+    printRightAligned(rightOf(round), top, cellText(time(round), row));
+    printRightAligned(rightOf(round), top + SecondLine, cellText(points(round), row));
   }
   m_druck.FontSize = CellSize;
-  printRightAligned(TotalRight, y + SecondLine, plainText(m_store.CupPunkte(person, 0)));
+  printRightAligned(TotalRight, y + SecondLine, cellText(m_columns.last(), row));
 }
 
 void CupColumns::printRightAligned(double right, double y, const QString &text) const {
   m_druck.CurrentX = float(right);
   m_druck.CurrentY = float(y);
   RechtsDrucken(m_druck, text);
-}
-
-QString CupColumns::timeText(int person, int round) const {
-  if (const int status = m_store.CupStatus(person, round); status > 0)
-    return m_store.StatusText[status];
-  const double time = m_store.CupZeit(person, round);
-  return time == 0 ? QStringLiteral("-") : ZeitText(time);
 }

@@ -1,11 +1,23 @@
 #pragma once
 
 #include "core/Store.h"
-#include "printing/Druckschicht.h"
+#include "printing/Spalten.h"
 
-/// The columns of the rounds and of the total on the list of a cup. Up to five rounds have 28 mm each, with the points
-/// behind the time. More share the width that is there: a person then takes two lines, the points under the times, all
-/// in the largest size at which the longest time of this cup fits.
+/// A person on the list of a cup.
+struct CupRow {
+  int person, place;
+  LaeuferSatz athlete;
+};
+using CupSpalten = QList<Spalte<CupRow>>;
+
+/// Place, name, club and year of birth of a person.
+CupSpalten cupPersonSpalten(const Store &store);
+/// Time and points of each round in turn, then the total.
+CupSpalten cupRundenSpalten(const Store &store);
+
+/// The columns of the rounds and of the total on paper. Up to five rounds have 28 mm each, with the points behind the
+/// time. More share the width that is there: a person then takes two lines, the points under the times, all in the
+/// largest size at which the longest time of this cup fits.
 class CupColumns {
 public:
   /// From the first line of a person to the second, millimetres.
@@ -18,24 +30,26 @@ public:
   int lines() const { return narrow() ? 2 : 1; }
   void printHeads(double y) const;
   /// Time, or what stands for it, and points of a person in all rounds, then the total. Leaves font size 9.
-  void printRounds(int person, double y) const;
+  void printRounds(const CupRow &row, double y) const;
 
 private:
+  const Spalte<CupRow> &time(int round) const { return m_columns[2 * round - 2]; }
+  const Spalte<CupRow> &points(int round) const { return m_columns[2 * round - 1]; }
   bool narrow() const;
   void fitSize(const QList<int> &persons);
   double widestCell(const QList<int> &persons) const;
   double pitch() const;
+  /// Where the columns of a round end.
+  double rightOf(int round) const;
   void printNarrowHeads(double y) const;
-  void printWide(int person, int round, double y) const;
-  void printNarrow(int person, double y) const;
+  void printWideTime(const CupRow &row, int round, double y) const;
+  void printNarrow(const CupRow &row, double y) const;
   /// So that the text ends at `right`.
   void printRightAligned(double right, double y, const QString &text) const;
-  /// The time, the status or "-".
-  QString timeText(int person, int round) const;
-  bool isStruck(int person, int round) const { return m_store.CupStreich(person, round) == 1; }
 
   const Store &m_store;
   Druckschicht &m_druck;
+  CupSpalten m_columns;
   /// Points.
   double m_size;
 };

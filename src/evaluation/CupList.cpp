@@ -5,16 +5,17 @@
 #include "evaluation/CupScoring.h"
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
-#include "printing/ListRows.h"
 #include "printing/PrintHelpers.h"
 
-#include <optional>
+#include <algorithm>
 
 namespace {
 
 constexpr unsigned FrameColor = 0x505050;
 constexpr int NameAndClub = 38; // characters
-constexpr double PageEnd = 160, RowHeight = 4;
+/// The columns of a person.
+enum PersonColumn { Rang, Name, Club, Jahrgang };
+constexpr double HeadY = 32, PageEnd = 160, RowHeight = 4;
 // Rows are counted in tenths: a heading takes 2.7 of them.
 constexpr int Row = 10, BehindHeading = 17, NearlyEmpty = 100, NoRoomForClass = 300, LastRow = 380;
 
@@ -29,7 +30,7 @@ class CupPrinter {
 public:
   CupPrinter(const Store &store, Druckschicht &druck, const CupListe &liste)
       : m_store(store), m_druck(druck), m_liste(liste), m_persons(personsOf(liste.schluessel)),
-        m_columns(store, druck, m_persons) {
+        m_person(cupPersonSpalten(store)), m_columns(store, druck, m_persons) {
     printHead();
   }
 
@@ -42,6 +43,7 @@ public:
   }
 
 private:
+  const Spalte<CupRow> &column(PersonColumn which) const { return m_person[which]; }
   double y() const { return 40 + m_row * RowHeight / Row; }
 
   void printPerson(int person) {
@@ -87,48 +89,33 @@ private:
   }
 
   void printRow(int person, int place) {
-    m_druck.FontSize = 9;
-    m_druck.FontBold = true;
-    Zelle(m_druck, 25, y(), place);
+    const CupRow row{person, place, LaeuferLesen(m_store, m_store.CupLaeufer[person])};
+    printCell(m_druck, column(Rang), row, y());
     m_druck.FontBold = false;
-    const LaeuferSatz athlete = LaeuferLesen(m_store, m_store.CupLaeufer[person]);
-    printNameAndClub(athlete);
-    Zelle(m_druck, 96, y(), yearOf(athlete.Geburtsdatum));
-    m_columns.printRounds(person, y());
+    printNameAndClub(row);
+    printCell(m_druck, column(Jahrgang), row, y());
+    m_columns.printRounds(row, y());
     m_druck.DrawWidth = 2;
     m_druck.Box(23, y() + 2 - 2.4, 272, y() + 2 + 1.6 + RowHeight * (m_columns.lines() - 1), FrameColor);
   }
 
-  void printNameAndClub(const LaeuferSatz &athlete) {
-    const QString name = trimmedBlanks(athlete.Name);
+  // In one line both share the room.
+  void printNameAndClub(const CupRow &row) {
+    const QString name = cellText(column(Name), row), club = cellText(column(Club), row);
+    m_druck.FontSize = column(Name).groesse;
     if (m_columns.lines() == 1)
-      return printInOneLine(name, clubText(athlete, NameAndClub - int(name.size())));
-    Zelle(m_druck, 36, y(), name);
-    Zelle(m_druck, 36, y() + CupColumns::SecondLine, clubText(athlete, NameAndClub));
+      return printInOneLine(name, club.left(std::max(0, NameAndClub - int(name.size()))));
+    Zelle(m_druck, column(Name).zelleX, y(), name);
+    Zelle(m_druck, column(Club).zelleX, y() + CupColumns::SecondLine, club.left(NameAndClub));
   }
 
   void printInOneLine(const QString &name, const QString &club) {
-    m_druck.CurrentX = 36;
+    m_druck.CurrentX = float(column(Name).zelleX);
     m_druck.CurrentY = float(y());
     m_druck.Print(name, Druckschicht::End::Continued);
     if (!club.isEmpty())
       m_druck.Print(QStringLiteral(", ") + club, Druckschicht::End::Continued);
     m_druck.Print(QStringLiteral(" "));
-  }
-
-  QString clubText(const LaeuferSatz &athlete, int room) const {
-    const auto club = clubOfAthlete(athlete);
-    if (!club || room <= 0)
-      return {};
-    return trimmedBlanks(VereinLesen(m_store, *club).VereinKurz).left(room);
-  }
-
-  // The second club is passed over, and the club of the race plays no part; this is meant.
-  std::optional<int> clubOfAthlete(const LaeuferSatz &athlete) const {
-    for (const int club : {int(athlete.Verein1), int(athlete.Verein3)})
-      if (club != 0 && club <= m_store.VereinAnzahl)
-        return club;
-    return {};
   }
 
   void printHead() {
@@ -143,11 +130,9 @@ private:
     m_druck.DrawWidth = 1;
     m_druck.FontItalic = false;
     LogoDrucken(m_druck, 205, 11);
-    text(22, 32, 11, QStringLiteral("Rang"));
-    text(36, 32, 11, QStringLiteral("Name / Klasse"));
-    text(96, 32, 11, QStringLiteral("Jahrg."));
-    m_columns.printHeads(32);
-    text(255, 32, 11, QStringLiteral("Ges. Pkte"));
+    m_druck.FontSize = 11;
+    printHeads(m_druck, m_person, HeadY);
+    m_columns.printHeads(HeadY);
   }
 
   void printTitle() {
@@ -167,6 +152,7 @@ private:
   Druckschicht &m_druck;
   const CupListe &m_liste;
   QList<int> m_persons;
+  CupSpalten m_person;
   CupColumns m_columns;
   CupPlatz m_places;
   int m_klasse = -1, m_page = 0;

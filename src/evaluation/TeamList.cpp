@@ -1,10 +1,10 @@
 #include "evaluation/TeamList.h"
 
 #include "core/RecordFiles.h"
+#include "core/ValueFormats.h"
 #include "core/WebAdresse.h"
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
-#include "printing/ListRows.h"
 #include "printing/PrintHelpers.h"
 
 namespace {
@@ -13,7 +13,7 @@ constexpr int ValueLength = 10, RowLength = 6;
 constexpr unsigned Grey = 0xD0D0D0;
 /// What each missing member added to the value.
 constexpr double MissingMember = 100000;
-constexpr double PageEnd = 240;
+constexpr double HeadY = 43, PageEnd = 240;
 // Rows are counted in tenths, as members stand a little below the grid of the bands.
 constexpr int Row = 10, BandStep = 20, BandGap = 3, LastEarlyRow = 100;
 
@@ -29,9 +29,9 @@ Names namesOf(const Wertung &wertung) {
     names = {QStringLiteral("Mannschaftswertung"), QStringLiteral("Mannschaft"), {}};
   if (wertung.einheit == Einheit::Gruppe)
     names = {QStringLiteral("Gruppenwertung"), QStringLiteral("Gruppe"), {}};
-  names.value = wertung.art == WertungsArt::Bestzeit       ? QStringLiteral("Bestzeit:")
-                : wertung.art == WertungsArt::Durchschnitt ? QStringLiteral("Durchschnittszeit:")
-                                                           : QStringLiteral("Zeitsumme:");
+  names.value = wertung.art == WertungsArt::Bestzeit       ? QStringLiteral("Bestzeit")
+                : wertung.art == WertungsArt::Durchschnitt ? QStringLiteral("Durchschnittszeit")
+                                                           : QStringLiteral("Zeitsumme");
   return names;
 }
 
@@ -41,43 +41,47 @@ QString kindOf(const Wertung &wertung) {
   return wertung.art == WertungsArt::Bestzeit ? QStringLiteral("Bestzeit") : QStringLiteral("Durchschnitt");
 }
 
+QString nameOf(const Store &store, Einheit einheit, int unit) {
+  if (einheit != Einheit::Verein)
+    return einheitName(store, einheit, unit);
+  const VereinSatz club = VereinLesen(store, store.WertVerein[unit]);
+  return trimmedBlanks(club.VereinKurz) + QStringLiteral("     ") + trimmedBlanks(club.VereinName);
+}
+
+Spalte<ListRow> timeColumn(const char *head, double headAt, double x, double TeilnehmerZeile::*time) {
+  return {QString::fromUtf8(head),
+          x,
+          Ausrichtung::Zeit,
+          8,
+          [time](const ListRow &row) { return ZeitText(row.participant.*time); },
+          headAt};
+}
+
 class TeamPrinter {
 public:
   TeamPrinter(const Store &store, Druckschicht &druck, const TeamListe &liste)
-      : m_store(store), m_druck(druck), m_liste(liste), m_names(namesOf(liste.wertung)) {
+      : m_store(store), m_druck(druck), m_liste(liste), m_names(namesOf(liste.wertung)),
+        m_units(einheitSpalten(store, liste.wertung)), m_members(mitgliederSpalten(store)) {
     printHead();
   }
 
-  void printUnit(int place, const QString &line) {
+  void printUnit(const EinheitRow &unit) {
     advance(BandStep);
     m_druck.FilledBox(20, y() - 0.5, 190, y() + 4.5, Grey);
-    m_druck.FontSize = 10;
-    m_druck.FontBold = true;
-    Zelle(m_druck, 20, y(), place);
-    Zelle(m_druck, 38, y(), unitName(einheitAmEnde(line)));
-    Zelle(m_druck, 100, y(), m_names.value + ZeitDruckText(m_druck, valueOf(line)));
+    printCells(m_druck, m_units, unit, y());
     m_row += BandGap;
   }
 
   void printMember(const QString &line) {
     advance(Row);
     const int row = rowAtEnd(line, RowLength);
-    const auto &participant = m_store.Teilnehmer[row];
-    m_druck.FontSize = 8;
     m_druck.FontBold = m_store.WertGezaehlt[row] == 1;
-    Zelle(m_druck, 60, y(), trimmedBlanks(LaeuferLesen(m_store, participant.LaeuferNr).Name));
-    printTime(100, participant.WertSumme);
-    if (m_store.Rennen.ZweiDurchgaenge != 0) {
-      printTime(138, participant.Zeit1);
-      printTime(175, participant.Zeit2);
-    }
+    printCells(m_druck, m_members, listRow(m_store, row), y());
     m_druck.FontBold = false;
   }
 
 private:
   double y() const { return 42 + m_row * 0.45; }
-
-  void printTime(double x, double seconds) { Zelle(m_druck, x, y(), ZeitDruckText(m_druck, seconds)); }
 
   void advance(int step) {
     m_row += step;
@@ -86,20 +90,6 @@ private:
     m_row = Row;
     m_druck.NewPage();
     printHead();
-  }
-
-  QString unitName(int unit) {
-    if (m_liste.wertung.einheit != Einheit::Verein)
-      return einheitName(m_store, m_liste.wertung.einheit, unit);
-    const VereinSatz club = VereinLesen(m_store, m_store.WertVerein[unit]);
-    return trimmedBlanks(club.VereinKurz) + QStringLiteral("     ") + trimmedBlanks(club.VereinName);
-  }
-
-  static double valueOf(const QString &line) {
-    double value = regionalNumber(QStringView(line).left(ValueLength)).value_or(0);
-    while (value >= MissingMember)
-      value -= MissingMember;
-    return value;
   }
 
   void printHead() {
@@ -132,14 +122,9 @@ private:
 
   void printColumnHeads() {
     m_druck.FontBold = true;
-    text(20, 43, 10, QStringLiteral("Rang"));
-    text(38, 43, 10, m_names.column);
-    text(60, 43, 10, QStringLiteral("Läufer"));
-    text(108, 43, 10, QStringLiteral("Zeit"));
-    if (m_store.Rennen.ZweiDurchgaenge != 0) {
-      text(144, 43, 10, QStringLiteral("1.DG"));
-      text(181, 43, 10, QStringLiteral("2.DG"));
-    }
+    m_druck.FontSize = 10;
+    printHeads(m_druck, m_units, HeadY);
+    printHeads(m_druck, m_members, HeadY);
     m_druck.FontBold = false;
   }
 
@@ -152,6 +137,8 @@ private:
   Druckschicht &m_druck;
   const TeamListe &m_liste;
   Names m_names;
+  QList<Spalte<EinheitRow>> m_units;
+  ListColumns m_members;
   int m_page = 0;
   /// Tenths of a row.
   int m_row = 0;
@@ -159,12 +146,42 @@ private:
 
 } // namespace
 
+EinheitRow einheitRow(int place, const QString &line) {
+  double value = regionalNumber(QStringView(line).left(ValueLength)).value_or(0);
+  while (value >= MissingMember)
+    value -= MissingMember;
+  return {place, einheitAmEnde(line), value};
+}
+
+QList<Spalte<EinheitRow>> einheitSpalten(const Store &store, const Wertung &wertung) {
+  using Column = Spalte<EinheitRow>;
+  using enum Ausrichtung;
+  const Names names = namesOf(wertung);
+  const auto place = [](const EinheitRow &row) { return row.place; };
+  const auto name = [&store, wertung](const EinheitRow &row) { return nameOf(store, wertung.einheit, row.einheit); };
+  const auto value = [](const EinheitRow &row) { return ZeitText(row.value); };
+  Column values = withoutHead(Column(names.value, 100, Zeit, 10, value));
+  values.davor = names.value + QLatin1Char(':');
+  return {inBold(Column(QStringLiteral("Rang"), 20, Links, 10, place)),
+          inBold(Column(names.column, 38, Links, 10, name)), inBold(values)};
+}
+
+ListColumns mitgliederSpalten(const Store &store) {
+  const auto name = [](const ListRow &row) { return trimmedBlanks(row.athlete.Name); };
+  ListColumns columns{{QStringLiteral("Läufer"), 60, Ausrichtung::Links, 8, name},
+                      timeColumn("Zeit", 108, 100, &TeilnehmerZeile::WertSumme)};
+  if (store.Rennen.ZweiDurchgaenge != 0)
+    columns << timeColumn("1.DG", 144, 138, &TeilnehmerZeile::Zeit1)
+            << timeColumn("2.DG", 181, 175, &TeilnehmerZeile::Zeit2);
+  return columns;
+}
+
 void Mannschaftsliste(const Store &store, Druckschicht &druck, const TeamListe &liste,
                       const std::function<QStringList(int line)> &mitglieder) {
   Dokumentanfang(store, druck, QStringLiteral("Mannschaftsliste"));
   TeamPrinter printer(store, druck, liste);
   for (int line = 0; line < liste.einheiten.size(); ++line) {
-    printer.printUnit(line + 1, liste.einheiten[line]);
+    printer.printUnit(einheitRow(line + 1, liste.einheiten[line]));
     for (const QString &member : mitglieder(line))
       printer.printMember(member);
   }

@@ -2,6 +2,7 @@
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
 #include "printing/Documents.h"
+#include "printing/ListColumns.h"
 #include "printing/PrintHelpers.h"
 
 namespace {

@@ -23,8 +23,6 @@ using UrkundenText = std::array<QString, 3>;
 /// The certificate of one participant row, from what the last ranking left.
 void Urkunde(const Store &store, Druckschicht &druck, int row, const std::optional<UrkundenText> &text);
 
-/// The remark for the best time by the choice of the print screen (1 to 4) and the sex; a null text if none fits.
-QString Bestzeittext(int choice, int sex);
 /// What certificate and title page begin with: organisation, logo, line and the name of the race.
 void Deckkopf(const Store &store, Druckschicht &druck);
 

@@ -1,6 +1,7 @@
 #include "printing/ListRows.h"
 
 #include "core/Participants.h"
+#include "core/RecordFiles.h"
 #include "platform/Numbers.h"
 
 namespace {
@@ -10,10 +11,9 @@ constexpr unsigned BandColor = 0xC0C0C0;
 
 } // namespace
 
-void Zelle(Druckschicht &druck, double x, double y, const PrintItem &item) {
-  druck.CurrentX = float(x);
-  druck.CurrentY = float(y);
-  druck.Print(item);
+ListRow listRow(const Store &store, int row) {
+  const auto &participant = store.Teilnehmer[row];
+  return {row, participant, LaeuferLesen(store, participant.LaeuferNr)};
 }
 
 QString Klassentext(const Store &store, const TeilnehmerZeile &participant) {
@@ -31,10 +31,6 @@ QString Vereinstext(const Store &store, const LaeuferSatz &athlete, const Teilne
     return {};
   const QString kurz = trimmedBlanks(club->VereinKurz);
   return kurz.isEmpty() && orLong ? trimmedBlanks(club->VereinName) : kurz;
-}
-
-QString rechtsbuendig(int number, int width) {
-  return rightAligned(plainText(number), width);
 }
 
 int abschnittOf(const QString &line) {

@@ -3,26 +3,28 @@
 #include "core/Store.h"
 #include "printing/Druckschicht.h"
 
-// What the lists of participants share: the grid of their rows, the cells, and the texts of class and club.
+// What the lists of participants share: the grid of their rows and the texts of class and club.
 
 /// Height of row r of a list page, millimetres.
 constexpr double gitterY(double row) {
   return 40 + row * 4.5;
 }
 
-/// Prints one cell of a row; the line ends, so `CurrentY` stands one line height below.
-void Zelle(Druckschicht &druck, double x, double y, const PrintItem &item);
+/// A participant as the lists show him: his row and his record.
+struct ListRow {
+  int row;
+  const TeilnehmerZeile &participant;
+  LaeuferSatz athlete;
+};
+ListRow listRow(const Store &store, int row);
 
 /// The exact class of a participant, or his group in a race that is evaluated by groups.
 QString Klassentext(const Store &store, const TeilnehmerZeile &participant);
-/// Head of the column with that text.
+/// Head of the column of class or group.
 QString Klassenspalte(const Store &store);
 
 /// Short name of the participant's club; with `orLong` the long one if there is no short one.
 QString Vereinstext(const Store &store, const LaeuferSatz &athlete, const TeilnehmerZeile &participant, bool orLong);
-
-/// Right-aligned number of three or four characters; a longer one loses its front.
-QString rechtsbuendig(int number, int width);
 
 /// The class or group that a sort line begins with.
 int abschnittOf(const QString &line);

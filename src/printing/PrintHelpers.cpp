@@ -49,14 +49,18 @@ void RechtsDrucken(Druckschicht &druck, const PrintItem &item) {
   druck.CurrentX = end;
 }
 
-QString ZeitDruckText(const Druckschicht &druck, double seconds) {
+QString inTimeColumn(const Druckschicht &druck, const QString &time) {
   constexpr float field = 14;
-  QString text = ZeitText(seconds);
+  QString text = time;
   const float missing = std::max(0.0F, field - druck.TextWidth(text)), blank = druck.TextWidth(QStringLiteral(" "));
   text.prepend(QString(int(missing / blank), QLatin1Char(' '))); // the last one or two are measured
   while (druck.TextWidth(text) < field)
     text.prepend(QLatin1Char(' '));
   return text;
+}
+
+QString ZeitDruckText(const Druckschicht &druck, double seconds) {
+  return inTimeColumn(druck, ZeitText(seconds));
 }
 
 void TitelAnpassen(Druckschicht &druck, const QString &title, double limit) {

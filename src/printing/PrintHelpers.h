@@ -21,7 +21,9 @@ void DreiviertelDrucken(Druckschicht &druck, const QString &text);
 /// Prints the item so that it ends at `CurrentX`, which stays; the line ends.
 void RechtsDrucken(Druckschicht &druck, const PrintItem &item);
 
-/// A time for its column: blanks in front until it is 14 mm wide in the present font.
+/// A text for the column of a time: blanks in front until it is 14 mm wide in the present font.
+QString inTimeColumn(const Druckschicht &druck, const QString &time);
+/// A time for its column.
 QString ZeitDruckText(const Druckschicht &druck, double seconds);
 
 /// Sets size 24, or the largest whole size below at which the title is no wider than `limit` millimetres; 1 at least.

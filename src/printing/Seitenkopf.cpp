@@ -35,15 +35,11 @@ void paintPictures(Druckschicht &druck) {
   druck.PaintPicture(druck.LoadPicture(QStringLiteral(":/kopf2.jpg")), 4, 10, 15.5, 20);
 }
 
-void printColumnHeads(Druckschicht &druck, const Listenkopf &kopf, const QList<Spaltenkopf> &spalten) {
+void printColumnHeads(Druckschicht &druck, const Listenkopf &kopf, const ListColumns &spalten) {
   druck.FontItalic = false;
   druck.FontSize = kopf.spaltenGroesse;
   druck.FontBold = true;
-  for (const Spaltenkopf &spalte : spalten) {
-    druck.CurrentX = float(spalte.x);
-    druck.CurrentY = float(kopf.spaltenY);
-    druck.Print(spalte.text);
-  }
+  printHeads(druck, spalten, kopf.spaltenY);
   druck.FontBold = false;
 }
 
@@ -80,8 +76,8 @@ const Listenkopf &Listenkoepfe::nichtInDerWertung() {
 }
 
 // Italic stays on down to the date: that is meant.
-void Seitenkopf(const Store &store, Druckschicht &druck, const Listenkopf &kopf, const QList<Spaltenkopf> &spalten,
-                int &seite, const QString &zusatz) {
+void Seitenkopf(const Store &store, Druckschicht &druck, const Listenkopf &kopf, const ListColumns &spalten, int &seite,
+                const QString &zusatz) {
   ++seite;
   printTitle(store, druck, kopf);
   printAt(druck, 22, 22, 18, kopf.name + zusatz);

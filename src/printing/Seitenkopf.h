@@ -1,7 +1,6 @@
 #pragma once
 
-#include "core/Store.h"
-#include "printing/Druckschicht.h"
+#include "printing/ListColumns.h"
 
 /// What a list prints as the head of each page.
 struct Listenkopf {
@@ -16,12 +15,6 @@ struct Listenkopf {
   double seiteGroesse = 8;
 };
 
-/// The head of a column and where it stands.
-struct Spaltenkopf {
-  double x;
-  QString text;
-};
-
 /// The six lists of the print screen.
 namespace Listenkoepfe {
 const Listenkopf &ergebnisliste();
@@ -34,5 +27,5 @@ const Listenkopf &nichtInDerWertung();
 
 /// Prints the head of the next page and raises the page number, which starts at 0. `zusatz` follows the list's name.
 /// Leaves size `spaltenGroesse`, neither bold nor italic, line width 1.
-void Seitenkopf(const Store &store, Druckschicht &druck, const Listenkopf &kopf, const QList<Spaltenkopf> &spalten,
-                int &seite, const QString &zusatz = {});
+void Seitenkopf(const Store &store, Druckschicht &druck, const Listenkopf &kopf, const ListColumns &spalten, int &seite,
+                const QString &zusatz = {});
