@@ -50,7 +50,7 @@ void writePeople(Store &store) {
     const int number = store.LaeuferAnzahl + 1;
     LaeuferSatz laeufer;
     laeufer.Name = utf8(person.name);
-    laeufer.Geschlecht = qint16(person.geschlecht);
+    laeufer.Geschlecht = person.geschlecht;
     const int day = int(store.umgebung.zufallszahl() * 365);
     if (person.jahrgang != 0)
       laeufer.Geburtsdatum = toDays(QDate(person.jahrgang, 1, 1).addDays(day));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/Records.h"
+
 #include <array>
 
 // Clubs, people and races of the example event; all of them are invented.
@@ -37,12 +39,12 @@ constexpr Club Clubs[] = {
      "Oberdorf 4, 9997 Obermoosen", "0991 / 2525", "usc@obermoosen.example"},
 };
 
-enum Sex { Weiblich = 0, Maennlich = 1, Unbekannt = 2 };
+constexpr qint16 Weiblich = Sex::Female, Maennlich = Sex::Male, Unbekannt = Sex::NotSet;
 
 /// Birth year 0 = not known; clubs are record numbers, 0 = none.
 struct Person {
   const char *name;
-  Sex geschlecht;
+  qint16 geschlecht;
   int jahrgang;
   std::array<int, 3> vereine;
 

@@ -74,7 +74,7 @@ void KlassenZuordnen(Store &store) {
   LaeuferOeffnen(store);
   store.KlasseAnzahl.fill(0);
   store.KlasseAnzahlOk.fill(0);
-  for (int row = 1; row <= 1000; ++row) {
+  for (const int row : store.Teilnehmer.rows()) {
     const int record = store.Teilnehmer[row].LaeuferNr;
     if (record < 1)
       continue;

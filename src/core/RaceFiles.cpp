@@ -1,20 +1,23 @@
 #include "core/RaceFiles.h"
 
 #include "core/Classes.h"
+#include "core/ParticipantFile.h"
 #include "core/RecordFiles.h"
 #include "platform/Files.h"
 #include "platform/Numbers.h"
 #include "platform/TextFile.h"
 
+#include <algorithm>
+#include <concepts>
+
 namespace {
 
-constexpr int ReserveLines = 7;
 constexpr double UnknownBirthDate = 2;
 using Names = Tabelle<QString, 0, 100>;
 
 // Everything but `KlasseGenau` and the results of the ranking.
 void clearParticipants(Store &store) {
-  for (int row = 1; row <= 1000; ++row) {
+  for (const int row : store.Teilnehmer.rows()) {
     const TeilnehmerZeile before = store.Teilnehmer[row];
     auto &line = store.Teilnehmer[row];
     line = TeilnehmerZeile();
@@ -29,37 +32,38 @@ void clearParticipants(Store &store) {
     store.KlasseGenauName[row].clear();
 }
 
+void readColumn(TextReader &file, int &column) {
+  file.numberInto(column);
+}
+void readColumn(TextReader &file, qint16 &column) {
+  file.numberInto(column);
+}
+void readColumn(TextReader &file, float &column) {
+  file.leadingInto(column);
+}
+void readColumn(TextReader &file, double &column) {
+  file.regionalLineInto(column);
+}
+
 void readParticipant(TextReader &file, TeilnehmerZeile &row) {
-  for (int *column : {&row.LaeuferNr, &row.StartNr, &row.KlasseNr, &row.VereinNr, &row.GruppeNr, &row.Bezahlt})
-    file.numberInto(*column);
-  file.leadingInto(row.Punkte);
-  file.regionalLineInto(row.Zeit1);
-  file.numberInto(row.ZeitReserve);
-  file.numberInto(row.Status1);
-  if (row.Status1 > 3)
-    row.Status1 = 0;
-  file.numberInto(row.Gast);
-  file.numberInto(row.MannschaftNr);
-  if (row.MannschaftNr < 0)
-    row.MannschaftNr = 0;
-  file.regionalLineInto(row.Zeit2);
-  file.numberInto(row.Status2);
-  file.numberInto(row.Boarder);
-  file.numberInto(row.KlasseGenau);
+  forEachColumn([&](auto column) { readColumn(file, row.*column); });
+  if (row.Status1 > Status::Dis)
+    row.Status1 = Status::Ok;
+  row.MannschaftNr = std::max<qint16>(row.MannschaftNr, 0);
   for (int i = 0; i < ReserveLines && !file.atEnd(); ++i)
     file.field();
 }
 
 void readParticipants(Store &store) {
   auto file = TextReader::ifThere(raceFileName(store, 'R', store.AktRennen));
-  for (int row = 1; file && row <= 1000 && !file->atEnd(); ++row)
+  for (int row = 1; file && row <= store.Teilnehmer.last() && !file->atEnd(); ++row)
     readParticipant(*file, store.Teilnehmer[row]);
 }
 
 void readNames(const QString &path, Names &names) {
   names.fill({});
   auto file = TextReader::ifThere(path);
-  for (int row = 1; file && row <= 100; ++row)
+  for (int row = 1; file && row <= names.last(); ++row)
     file->lineInto(names[row]);
 }
 
@@ -86,13 +90,13 @@ void loadClasses(Store &store) {
 
 QStringList missingAthleteData(const Store &store) {
   QStringList lines;
-  for (int row = 1; row <= 1000; ++row) {
+  for (const int row : store.Teilnehmer.rows()) {
     const int record = store.Teilnehmer[row].LaeuferNr;
     if (record == 0)
       continue;
     const LaeuferSatz athlete = LaeuferLesen(store, record);
     const QString who = plainText(record) + QStringLiteral("   ") + athlete.Name;
-    if (athlete.Geschlecht == 2)
+    if (athlete.Geschlecht == Sex::NotSet)
       lines << who + QStringLiteral(" m/w ?");
     if (athlete.Geburtsdatum == UnknownBirthDate)
       lines << who + QStringLiteral(" Geburtsdatum ?");
@@ -100,23 +104,22 @@ QStringList missingAthleteData(const Store &store) {
   return lines;
 }
 
+void writeColumn(TextWriter &file, int value) {
+  file.number(value);
+}
+void writeColumn(TextWriter &file, std::floating_point auto value) {
+  file.decimal(value);
+}
+
 void writeParticipant(TextWriter &file, const TeilnehmerZeile &row) {
-  for (const int column : {row.LaeuferNr, row.StartNr, row.KlasseNr, row.VereinNr, row.GruppeNr, row.Bezahlt})
-    file.number(column);
-  file.decimal(row.Punkte);
-  file.decimal(row.Zeit1);
-  for (const int column : {row.ZeitReserve, row.Status1, row.Gast, int(row.MannschaftNr)})
-    file.number(column);
-  file.decimal(row.Zeit2);
-  for (const int column : {row.Status2, int(row.Boarder), int(row.KlasseGenau)})
-    file.number(column);
+  forEachColumn([&](auto column) { writeColumn(file, row.*column); });
   for (int i = 0; i < ReserveLines; ++i)
     file.text({});
 }
 
 QByteArray nameFile(const Names &names) {
   TextWriter file;
-  for (int row = 1; row <= 100; ++row)
+  for (const int row : names.rows())
     file.text(names[row]);
   return file.bytes();
 }
@@ -181,7 +184,7 @@ QList<RaceFile> wholeRace(const Store &store) {
 
 QByteArray participantFile(const Store &store) {
   TextWriter file;
-  for (int row = 1; row <= 1000; ++row)
+  for (const int row : store.Teilnehmer.rows())
     if (store.Teilnehmer[row].LaeuferNr != 0)
       writeParticipant(file, store.Teilnehmer[row]);
   return file.bytes();

@@ -96,7 +96,7 @@ LaeuferSatz LaeuferLesen(const Store &store, int n) {
   laeufer.Name = trimmedBlanks(laeufer.Name);
   for (qint16 *verein : {&laeufer.Verein1, &laeufer.Verein2, &laeufer.Verein3})
     dropMissingClub(*verein, store);
-  laeufer.Geschlecht = std::clamp<qint16>(laeufer.Geschlecht, 0, 2);
+  laeufer.Geschlecht = std::clamp<qint16>(laeufer.Geschlecht, Sex::Female, Sex::NotSet);
   return laeufer;
 }
 
@@ -145,6 +145,12 @@ void LaeuferSchreiben(Store &store, int n, const LaeuferSatz &laeufer) {
 void RennenSchreiben(Store &store) {
   write(store, store.RennenDatei, store.RennenIdx, toBytes(store.Rennen));
   raiseCount(store, store.RennenIdx, store.RennenAnzahl);
+}
+
+void rennsatzSpeichern(Store &store) {
+  store.RennenIdx = store.AktRennen;
+  if (store.AktRennen > 0)
+    RennenSchreiben(store);
 }
 
 VereinSatz VereinLeeren(const Store &store) {

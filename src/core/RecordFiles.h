@@ -35,6 +35,8 @@ void VereinSchreiben(Store &store, int n, const VereinSatz &verein);
 void LaeuferSchreiben(Store &store, int n, const LaeuferSatz &laeufer);
 /// The same for the race in work, at `RennenIdx`; below 1 it is a FileFault.
 void RennenSchreiben(Store &store);
+/// The race in work becomes the record of the open race. The first race may be open as number 0, which has none.
+void rennsatzSpeichern(Store &store);
 
 /// A club without texts. The four unnamed bytes are those of the club of the last call.
 VereinSatz VereinLeeren(const Store &store);

@@ -14,6 +14,11 @@ struct VereinSatz {
   QByteArray VereinReserve;
 };
 
+/// What `Geschlecht` holds.
+namespace Sex {
+enum : qint16 { Female = 0, Male = 1, NotSet = 2 };
+}
+
 /// An athlete; 349 bytes on disk.
 struct LaeuferSatz {
   /// "FAMILIENNAME Vorname".
@@ -22,8 +27,7 @@ struct LaeuferSatz {
   qint16 Verein1 = 0, Verein2 = 0, Verein3 = 0;
   /// Days since 30 December 1899; 2.0 (1 January 1900) = not known.
   double Geburtsdatum = 2;
-  /// 1 = male, 0 = female, 2 = not set.
-  qint16 Geschlecht = 2;
+  qint16 Geschlecht = Sex::NotSet;
   QString OesvNr;
   float LaeuferPunkte = 0;
   QByteArray LaeuferReserve;

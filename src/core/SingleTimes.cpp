@@ -17,29 +17,29 @@ bool hatSingleTimes(const Store &store) {
   return fileExists(timesFile(store));
 }
 
-QByteArray singleTimesBytes(const Store &store) {
+QByteArray singleTimesBytes(const CupTabellen &cup) {
   TextWriter file;
   for (int round = 1; round <= 10; ++round)
-    file.text(store.ZeitsummeRennenKurz[round]);
-  for (int row = 1; row <= 1000; ++row) {
-    file.number(store.CupLaeufer[row]);
+    file.text(cup.ZeitsummeRennenKurz[round]);
+  for (const int row : cup.CupLaeufer.rows()) {
+    file.number(cup.CupLaeufer[row]);
     for (int round = 0; round <= 10; ++round)
-      file.text(QLatin1Char(' ') + fileText(store.CupZeit(row, round)) + QLatin1Char(' '));
+      file.text(QLatin1Char(' ') + fileText(cup.CupZeit(row, round)) + QLatin1Char(' '));
   }
   return file.bytes();
 }
 
 void singleTimesSpeichern(const Store &store) {
-  replaceFile(timesFile(store), singleTimesBytes(store));
+  replaceFile(timesFile(store), singleTimesBytes(store.cup));
 }
 
 void singleTimesLaden(Store &store) {
   TextReader file(readFile(timesFile(store)), timesFile(store));
   for (int round = 1; round <= 10; ++round)
-    file.lineInto(store.ZeitsummeRennenKurz[round]);
-  for (int row = 1; row <= 1000 && !file.atEnd(); ++row) {
-    file.numberInto(store.CupLaeufer[row]);
+    file.lineInto(store.cup.ZeitsummeRennenKurz[round]);
+  for (int row = 1; row <= store.cup.CupLaeufer.last() && !file.atEnd(); ++row) {
+    file.numberInto(store.cup.CupLaeufer[row]);
     for (int round = 0; round <= 10; ++round)
-      file.regionalLineInto(store.CupZeit(row, round));
+      file.regionalLineInto(store.cup.CupZeit(row, round));
   }
 }

@@ -7,7 +7,7 @@
 /// Whether the open race has a Z file, and so is a combined one.
 bool hatSingleTimes(const Store &store);
 /// All 1000 blocks from `ZeitsummeRennenKurz`, `CupLaeufer` and `CupZeit`.
-QByteArray singleTimesBytes(const Store &store);
+QByteArray singleTimesBytes(const CupTabellen &cup);
 /// Replaces the Z file of the open race whole.
 void singleTimesSpeichern(const Store &store);
 /// Reads the Z file of the open race into these tables; a file that ends early leaves the rest as it was.

@@ -26,10 +26,10 @@ void fillBuiltInTables(Store &store) {
   for (const auto &season : SeasonClasses)
     store.StdKlasse[row++] = {QString::fromUtf8(season.name), qint16(season.von + int(store.JahrOffset)),
                               qint16(season.bis + int(store.JahrOffset))};
-  store.StatusText[0] = QStringLiteral("ok");
-  store.StatusText[1] = QStringLiteral("naS");
-  store.StatusText[2] = QStringLiteral("niZ");
-  store.StatusText[3] = QStringLiteral("dis");
+  store.StatusText[Status::Ok] = QStringLiteral("ok");
+  store.StatusText[Status::NaS] = QStringLiteral("naS");
+  store.StatusText[Status::NiZ] = QStringLiteral("niZ");
+  store.StatusText[Status::Dis] = QStringLiteral("dis");
 }
 
 } // namespace

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "core/CupTabellen.h"
+#include "core/MannschaftsTabellen.h"
+#include "core/Rangliste.h"
 #include "core/Records.h"
 #include "platform/RecordFile.h"
 #include "platform/Tabelle.h"
@@ -10,6 +13,11 @@
 #include <functional>
 
 struct RaceImage;
+
+/// What `Status1` and `Status2` hold, the row of `StatusText`; a file may hold other numbers.
+namespace Status {
+enum { Ok = 0, NaS = 1, NiZ = 2, Dis = 3 };
+}
 
 /// A row of the participant table; in use when `LaeuferNr` is not 0.
 struct TeilnehmerZeile {
@@ -30,14 +38,13 @@ struct TeilnehmerZeile {
   double Zeit1 = 0;
   /// Stored and reloaded, never used.
   int ZeitReserve = 0;
-  /// Index into `StatusText`.
-  int Status1 = 0;
+  int Status1 = Status::Ok;
   /// 0 or 1.
   int Gast = 0;
   /// Row of `MannschaftName`, 0 = none.
   qint16 MannschaftNr = 0;
   double Zeit2 = 0;
-  int Status2 = 0;
+  int Status2 = Status::Ok;
   /// 0 or 1.
   qint16 Boarder = 0;
   /// Exact class, 0 to 159: (class − 1) × 8 + male + 2 × guest + 4 × boarder.
@@ -119,50 +126,10 @@ struct Store {
   /// Names, rows 1 to 100; row 0 stays empty.
   Tabelle<QString, 0, 100> MannschaftName{"MannschaftName"}, GruppeName{"GruppeName"};
 
-  // What the ranking leaves behind.
-  /// Entry k is the participant row on line k of the ranking.
-  Tabelle<int, 1, 1000> RangListe{"RangListe"};
-  /// Seconds; 99999 or more if nobody qualifies.
-  double BestzeitDamen = 99999, BestzeitHerren = 99999;
-  /// The listing of the provisional result, `Form13.List2`.
-  QStringList ErgebnisZeilen;
-
-  // What the evaluation of clubs, teams and groups leaves behind; a unit is one of them, numbered 1 to 100.
-  /// Record number of the club a row starts for; rows without a club keep what they had.
-  Tabelle<int, 1, 1000> VereinRecNr{"VereinRecNr"};
-  /// Record number of the club with unit number k; 0 = free.
-  Tabelle<int, 1, 100> WertVerein{"WertVerein"};
-  /// Unit number of the row's club; 0 = none.
-  Tabelle<int, 1, 1000> WertVereinIdx{"WertVereinIdx"};
-  /// `Geschlecht`, copied for the filter.
-  Tabelle<qint16, 1, 1000> TnGeschlecht{"TnGeschlecht"};
-  /// Value of unit k in seconds, the lower the better.
-  Tabelle<double, 1, 100> WertErgebnis{"WertErgebnis"};
-  /// 1 = the time of this row went into a "Zeitsumme der besten".
-  Tabelle<qint16, 1, 1000> WertGezaehlt{"WertGezaehlt"};
-
-  // What a cup or a time sum leaves behind: entries are persons of a cup, or participant rows of a time sum; rounds 1
-  // to 10.
-  /// Points for place n.
-  Tabelle<qint16, 1, 100> CupPunkteTabelle{"CupPunkteTabelle"};
-  /// Record number of the athlete; 0 ends the table.
-  Tabelle<int, 1, 1000> CupLaeufer{"CupLaeufer"};
-  /// `KlasseGenau` in the first race in which the person was found.
-  Tabelle<int, 1, 1000> CupKlasse{"CupKlasse"};
-  Tabelle<QString, 0, 159> CupKlasseName{"CupKlasseName"};
-  int CupRunden = 0;
-  /// Place in the round, 99 = not in that race.
-  Tabelle2<int, 1, 1000, 1, 10> CupRang{"CupRang"};
-  /// Seconds, 0 = absent. Round 0 of a time sum holds the sum.
-  Tabelle2<double, 1, 1000, 0, 10> CupZeit{"CupZeit"};
-  /// Status of the run, 1 if absent. Round 0 of a time sum holds the status of the sum.
-  Tabelle2<int, 1, 1000, 0, 10> CupStatus{"CupStatus"};
-  /// 1 = struck.
-  Tabelle2<int, 1, 1000, 1, 10> CupStreich{"CupStreich"};
-  /// Points; round 0 holds the total.
-  Tabelle2<int, 1, 1000, 0, 10> CupPunkte{"CupPunkte"};
-  /// `RennenKurz` of the race of each round of a time sum.
-  Tabelle<QString, 1, 10> ZeitsummeRennenKurz{"ZeitsummeRennenKurz"};
+  // What the evaluations of the open race, or of a series of races, leave behind.
+  Rangliste rangliste;
+  MannschaftsTabellen mannschaften;
+  CupTabellen cup;
 
   // Built-in tables, set once at the start.
   Tabelle<StandardKlasse, 1, 20> StdKlasse{"StdKlasse"};

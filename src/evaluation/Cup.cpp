@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr int Absent = 1, PlaceOfAbsent = 99;
+constexpr int PlaceOfAbsent = 99;
 /// A handful of second times is no race.
 constexpr int SecondTimesOfARound = 5;
 constexpr int NumberLength = 5; // with the leading blank
@@ -29,10 +29,10 @@ QString cupFile(const Store &store) {
 /// Gathers the persons of the loaded races.
 class Persons {
 public:
-  explicit Persons(Store &store) : m_store(store) { m_store.CupLaeufer.fill(0); }
+  explicit Persons(Store &store) : m_store(store) { m_store.cup.CupLaeufer.fill(0); }
 
   void takeRace() {
-    for (int row = 1; row <= 1000; ++row)
+    for (const int row : m_store.Teilnehmer.rows())
       if (const auto athlete = athleteOf(m_store, m_store.Teilnehmer[row]); athlete && !m_known.contains(athlete->Name))
         add(athlete->Name, m_store.Teilnehmer[row]);
   }
@@ -43,8 +43,8 @@ private:
   void add(const QString &name, const TeilnehmerZeile &participant) {
     m_known.insert(name);
     m_names.append(name);
-    m_store.CupLaeufer[int(m_names.size())] = participant.LaeuferNr;
-    m_store.CupKlasse[int(m_names.size())] = participant.KlasseGenau;
+    m_store.cup.CupLaeufer[int(m_names.size())] = participant.LaeuferNr;
+    m_store.cup.CupKlasse[int(m_names.size())] = participant.KlasseGenau;
   }
 
   Store &m_store;
@@ -66,20 +66,20 @@ QStringList gatherPersons(Store &store, const QList<int> &races) {
 
 int secondTimes(const Store &store) {
   int count = 0;
-  for (int row = 1; row <= 1000; ++row)
+  for (const int row : store.Teilnehmer.rows())
     count += store.Teilnehmer[row].Zeit2 > 0;
   return count;
 }
 
 void takeRound(Store &store) {
   const QHash<int, int> rows = zeilenDerLaeufer(store);
-  const int round = ++store.CupRunden;
-  for (int person = 1; person <= 1000 && store.CupLaeufer[person] != 0; ++person) {
-    const int row = rows.value(store.CupLaeufer[person]);
+  const int round = ++store.cup.CupRunden;
+  for (int person = 1; person <= store.cup.CupLaeufer.last() && store.cup.CupLaeufer[person] != 0; ++person) {
+    const int row = rows.value(store.cup.CupLaeufer[person]);
     const auto &participant = store.Teilnehmer[row];
-    store.CupStatus(person, round) = row == 0 ? Absent : participant.Status1;
-    store.CupZeit(person, round) = row == 0 ? 0 : participant.WertZeit1;
-    store.CupRang(person, round) = row == 0 ? PlaceOfAbsent : participant.Rang;
+    store.cup.CupStatus(person, round) = row == 0 ? Status::NaS : participant.Status1;
+    store.cup.CupZeit(person, round) = row == 0 ? 0 : participant.WertZeit1;
+    store.cup.CupRang(person, round) = row == 0 ? PlaceOfAbsent : participant.Rang;
   }
 }
 
@@ -103,15 +103,15 @@ CupErgebnis cupAuswerten(Store &store, const QList<int> &races, qint64 streichre
   CupErgebnis result;
   result.namen = gatherPersons(store, races);
   const Kriterien kriterien = kriterienMerken(store);
-  store.CupRunden = 0;
+  store.cup.CupRunden = 0;
   for (qsizetype line = races.size(); line-- > 0;)
     takeRounds(store, races[line], kriterien);
   const int persons = int(result.namen.size());
-  result.gestrichen = int(std::min<qint64>(std::abs(streichresultate), store.CupRunden));
-  resultateStreichen(store, persons, result.gestrichen);
-  punkteVergeben(store, persons);
-  result.schluessel = cupSchluessel(store, result.namen);
-  result.zeilen = cupZeilen(store, result.schluessel, result.namen);
+  result.gestrichen = int(std::min<qint64>(std::abs(streichresultate), store.cup.CupRunden));
+  resultateStreichen(store.cup, persons, result.gestrichen);
+  punkteVergeben(store.cup, persons);
+  result.schluessel = cupSchluessel(store.cup, result.namen);
+  result.zeilen = cupZeilen(store.cup, result.schluessel, result.namen);
   return result;
 }
 
@@ -122,44 +122,44 @@ QStringList teilnehmerZeilen(const QStringList &names) {
   return lines.take();
 }
 
-QStringList punkteZeilen(const Store &store, bool auchNegative) {
+QStringList punkteZeilen(const CupTabellen &cup, bool auchNegative) {
   QStringList lines;
-  for (int place = 1; place <= 100; ++place)
-    if (const int points = store.CupPunkteTabelle[place]; points > 0 || (auchNegative && points != 0))
+  for (const int place : cup.CupPunkteTabelle.rows())
+    if (const int points = cup.CupPunkteTabelle[place]; points > 0 || (auchNegative && points != 0))
       lines << QStringLiteral("Platz") + spacedText(place) + QStringLiteral(": ") + spacedText(points) +
                    QStringLiteral(" P.");
   return lines;
 }
 
 CupAuswahl cupLaden(Store &store) {
-  store.CupPunkteTabelle.fill(0);
+  store.cup.CupPunkteTabelle.fill(0);
   int place = 0;
   for (const qint16 points : UsualPoints)
-    store.CupPunkteTabelle[++place] = points;
+    store.cup.CupPunkteTabelle[++place] = points;
   CupAuswahl auswahl;
   auto file = TextReader::ifThere(cupFile(store));
   if (!file)
     return auswahl;
   file->lineInto(auswahl.bezeichnung);
-  for (place = 1; place <= 100; ++place)
-    file->numberInto(store.CupPunkteTabelle[place]);
+  for (const int row : store.cup.CupPunkteTabelle.rows())
+    file->numberInto(store.cup.CupPunkteTabelle[row]);
   while (!file->atEnd())
     file->numberInto(auswahl.rennen.emplaceBack(0));
   return auswahl;
 }
 
-QByteArray cupBytes(const Store &store, const CupAuswahl &auswahl) {
+QByteArray cupBytes(const CupTabellen &cup, const CupAuswahl &auswahl) {
   TextWriter file;
   file.text(trimmedBlanks(auswahl.bezeichnung));
-  for (int place = 1; place <= 100; ++place)
-    file.number(store.CupPunkteTabelle[place]);
+  for (const int place : cup.CupPunkteTabelle.rows())
+    file.number(cup.CupPunkteTabelle[place]);
   for (const int race : auswahl.rennen)
     file.number(race);
   return file.bytes();
 }
 
 void cupSpeichern(const Store &store, const CupAuswahl &auswahl) {
-  replaceFile(cupFile(store), cupBytes(store, auswahl));
+  replaceFile(cupFile(store), cupBytes(store.cup, auswahl));
 }
 
 int rennenDesCups(const QString &line) {

@@ -27,7 +27,7 @@ CupErgebnis cupAuswerten(Store &store, const QList<int> &races, qint64 streichre
 QStringList teilnehmerZeilen(const QStringList &names);
 
 /// Lines of the points table: the places with more than 0 points; with `auchNegative` all that are not 0.
-QStringList punkteZeilen(const Store &store, bool auchNegative);
+QStringList punkteZeilen(const CupTabellen &cup, bool auchNegative);
 
 /// What Cup.dat holds beside the points table.
 struct CupAuswahl {
@@ -37,7 +37,7 @@ struct CupAuswahl {
 /// Sets the points table from Cup.dat, or as usual where there is none.
 CupAuswahl cupLaden(Store &store);
 /// The content of Cup.dat.
-QByteArray cupBytes(const Store &store, const CupAuswahl &auswahl);
+QByteArray cupBytes(const CupTabellen &cup, const CupAuswahl &auswahl);
 /// Replaces Cup.dat whole.
 void cupSpeichern(const Store &store, const CupAuswahl &auswahl);
 /// Number that Cup.dat holds for a line of the race list.

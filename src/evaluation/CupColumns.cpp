@@ -29,9 +29,9 @@ QString clubText(const Store &store, const LaeuferSatz &athlete) {
 
 /// The time, the status or "-".
 QString timeText(const Store &store, int person, int round) {
-  if (const int status = store.CupStatus(person, round); status > 0)
+  if (const int status = store.cup.CupStatus(person, round); status > Status::Ok)
     return store.StatusText[status];
-  const double time = store.CupZeit(person, round);
+  const double time = store.cup.CupZeit(person, round);
   return time == 0 ? QStringLiteral("-") : ZeitText(time);
 }
 
@@ -47,8 +47,8 @@ Column roundTime(const Store &store, int round) {
 
 Column roundPoints(const Store &store, int round) {
   return {QStringLiteral("Pkte"), 100 + WidePitch * round, Links, CellSize, [&store, round](const CupRow &row) {
-            return store.CupStreich(row.person, round) == 1 ? PrintItem(QStringLiteral("X"))
-                                                            : PrintItem(store.CupPunkte(row.person, round));
+            return store.cup.CupStreich(row.person, round) == 1 ? PrintItem(QStringLiteral("X"))
+                                                                : PrintItem(store.cup.CupPunkte(row.person, round));
           }};
 }
 
@@ -73,9 +73,9 @@ CupSpalten cupPersonSpalten(const Store &store) {
 
 CupSpalten cupRundenSpalten(const Store &store) {
   CupSpalten columns;
-  for (int round = 1; round <= store.CupRunden; ++round)
+  for (int round = 1; round <= store.cup.CupRunden; ++round)
     columns << roundTime(store, round) << roundPoints(store, round);
-  const auto total = [&store](const CupRow &row) { return store.CupPunkte(row.person, 0); };
+  const auto total = [&store](const CupRow &row) { return store.cup.CupPunkte(row.person, 0); };
   return columns << Column(QStringLiteral("Ges. Pkte"), 265, Links, CellSize, total, 255);
 }
 
@@ -86,11 +86,11 @@ CupColumns::CupColumns(const Store &store, Druckschicht &druck, const QList<int>
 }
 
 bool CupColumns::narrow() const {
-  return m_store.CupRunden > WideRounds;
+  return m_store.cup.CupRunden > WideRounds;
 }
 
 double CupColumns::pitch() const {
-  return (NarrowRight - NarrowLeft) / m_store.CupRunden;
+  return (NarrowRight - NarrowLeft) / m_store.cup.CupRunden;
 }
 
 void CupColumns::fitSize(const QList<int> &persons) {
@@ -104,9 +104,9 @@ void CupColumns::fitSize(const QList<int> &persons) {
 
 // Two blanks keep a time from the one before.
 double CupColumns::widestCell(const QList<int> &persons) const {
-  double widest = double(m_druck.TextWidth(time(m_store.CupRunden).kopf));
+  double widest = double(m_druck.TextWidth(time(m_store.cup.CupRunden).kopf));
   for (const int person : persons)
-    for (int round = 1; round <= m_store.CupRunden; ++round)
+    for (int round = 1; round <= m_store.cup.CupRunden; ++round)
       widest = std::max(widest, double(m_druck.TextWidth(timeText(m_store, person, round))));
   return widest + double(m_druck.TextWidth(QStringLiteral("  ")));
 }
@@ -124,7 +124,7 @@ void CupColumns::printHeads(double y) const {
 void CupColumns::printNarrowHeads(double y) const {
   const double top = y + toBaseline(HeadSize, m_size);
   m_druck.FontSize = m_size;
-  for (int round = 1; round <= m_store.CupRunden; ++round) {
+  for (int round = 1; round <= m_store.cup.CupRunden; ++round) {
     printRightAligned(rightOf(round), top, time(round).kopf);
     printRightAligned(rightOf(round), top + SecondLine, points(round).kopf);
   }
@@ -135,7 +135,7 @@ void CupColumns::printNarrowHeads(double y) const {
 void CupColumns::printRounds(const CupRow &row, double y) const {
   if (narrow())
     return printNarrow(row, y);
-  for (int round = 1; round <= m_store.CupRunden; ++round) {
+  for (int round = 1; round <= m_store.cup.CupRunden; ++round) {
     printWideTime(row, round, y);
     printCell(m_druck, points(round), row, y);
   }
@@ -146,9 +146,9 @@ void CupColumns::printRounds(const CupRow &row, double y) const {
 void CupColumns::printWideTime(const CupRow &row, int round, double y) const {
   constexpr double statusShift = 9;
   const auto &column = time(round);
-  if (m_store.CupStatus(row.person, round) > 0)
+  if (m_store.cup.CupStatus(row.person, round) > Status::Ok)
     Zelle(m_druck, column.zelleX + statusShift, y, column.zelle(row));
-  else if (m_store.CupZeit(row.person, round) == 0)
+  else if (m_store.cup.CupZeit(row.person, round) == 0)
     Zelle(m_druck, column.zelleX, y, column.zelle(row));
   else
     printCell(m_druck, column, row, y);
@@ -157,7 +157,7 @@ void CupColumns::printWideTime(const CupRow &row, int round, double y) const {
 void CupColumns::printNarrow(const CupRow &row, double y) const {
   const double top = y + toBaseline(CellSize, m_size);
   m_druck.FontSize = m_size;
-  for (int round = 1; round <= m_store.CupRunden; ++round) {
+  for (int round = 1; round <= m_store.cup.CupRunden; ++round) {
     printRightAligned(rightOf(round), top, cellText(time(round), row));
     printRightAligned(rightOf(round), top + SecondLine, cellText(points(round), row));
   }

@@ -22,7 +22,7 @@ constexpr int Row = 10, BehindHeading = 17, NearlyEmpty = 100, NoRoomForClass = 
 QList<int> personsOf(const QStringList &keys) {
   QList<int> persons;
   for (const QString &key : keys)
-    persons.append(cupPerson(key));
+    persons.append(numberAtEnd(key));
   return persons;
 }
 
@@ -47,9 +47,9 @@ private:
   double y() const { return 40 + m_row * RowHeight / Row; }
 
   void printPerson(int person) {
-    if (m_store.CupKlasse[person] != m_klasse)
-      startClass(m_store.CupKlasse[person]);
-    printRow(person, m_places.naechster(m_store.CupPunkte(person, 0)));
+    if (m_store.cup.CupKlasse[person] != m_klasse)
+      startClass(m_store.cup.CupKlasse[person]);
+    printRow(person, m_places.naechster(m_store.cup.CupPunkte(person, 0)));
     m_row += Row * m_columns.lines();
   }
 
@@ -70,7 +70,7 @@ private:
     m_druck.CurrentY = float(y());
     m_druck.FontSize = 12;
     m_druck.FontBold = true;
-    m_druck.Print(m_store.CupKlasseName.valueOrEmpty(m_klasse), end);
+    m_druck.Print(m_store.cup.CupKlasseName.valueOrEmpty(m_klasse), end);
   }
 
   void breakPage() {
@@ -80,7 +80,7 @@ private:
 
   void continueOnNewPage(int nextPerson) {
     breakPage();
-    if (m_store.CupKlasse[nextPerson] != m_klasse)
+    if (m_store.cup.CupKlasse[nextPerson] != m_klasse)
       return;
     printClassName(Druckschicht::End::Continued);
     m_druck.FontBold = false;
@@ -89,7 +89,7 @@ private:
   }
 
   void printRow(int person, int place) {
-    const CupRow row{person, place, LaeuferLesen(m_store, m_store.CupLaeufer[person])};
+    const CupRow row{person, place, LaeuferLesen(m_store, m_store.cup.CupLaeufer[person])};
     printCell(m_druck, column(Rang), row, y());
     m_druck.FontBold = false;
     printNameAndClub(row);

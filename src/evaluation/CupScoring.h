@@ -1,6 +1,8 @@
 #pragma once
 
-#include "core/Store.h"
+#include "core/CupTabellen.h"
+
+#include <QStringList>
 
 // The scoring rules of a cup, on the tables of persons and rounds: places, times and statuses must stand there.
 // `persons` is the number of persons, `names` their names, the first of person 1.
@@ -8,15 +10,13 @@
 /// Strikes `count` results of each person: first what was not finished or not started, the last round first, then the
 /// worst place, of equal places the slowest run. A result without a time is not struck for its place, so that a stroke
 /// may come to nothing.
-void resultateStreichen(Store &store, int persons, int count);
+void resultateStreichen(CupTabellen &cup, int persons, int count);
 
 /// Points of each result that is not struck, by the table, and the total of each person.
-void punkteVergeben(Store &store, int persons);
+void punkteVergeben(CupTabellen &cup, int persons);
 
 /// One sorted line for each person: class, highest total first, name; ends in the person.
-QStringList cupSchluessel(const Store &store, const QStringList &names);
-/// The person at the end of such a line.
-int cupPerson(const QString &key);
+QStringList cupSchluessel(const CupTabellen &cup, const QStringList &names);
 
 /// Counts the places of a list of persons that comes class by class. Equal totals share a place, and the next different
 /// total has its running place.
@@ -32,4 +32,4 @@ private:
 };
 
 /// The result: a head line for each class, then its persons with place, points of each round and total.
-QStringList cupZeilen(const Store &store, const QStringList &keys, const QStringList &names);
+QStringList cupZeilen(const CupTabellen &cup, const QStringList &keys, const QStringList &names);

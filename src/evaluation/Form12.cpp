@@ -90,7 +90,7 @@ void Form12::evaluate() {
 }
 
 void Form12::showMembers(int line) {
-  const int unit = einheitAmEnde(ui->List2->lines()[line]);
+  const int unit = numberAtEnd(ui->List2->lines()[line]);
   ui->List5->fill(mitgliederZeilen(m_store, wertung(), unit, MitgliederOrdnung(ui->Combo1->currentIndex())));
 }
 

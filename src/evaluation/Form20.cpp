@@ -41,8 +41,8 @@ void Form20::load() {
     if (cup.rennen.contains(rennenDesCups(lines[line])))
       ui->List1->setMarked(line, true);
   ui->Command1->setEnabled(!ui->List1->marked().isEmpty());
-  ui->List2->fill(punkteZeilen(m_store, false));
-  m_atOpening = cupBytes(m_store, auswahl());
+  ui->List2->fill(punkteZeilen(m_store.cup, false));
+  m_atOpening = cupBytes(m_store.cup, auswahl());
 }
 
 void Form20::connectControls() {
@@ -51,7 +51,7 @@ void Form20::connectControls() {
   connect(ui->Text2, &QLineEdit::textChanged, this, &Form20::pointsChanged);
   onReturn(ui->Text1, [this] { ui->Text2->setFocus(Qt::TabFocusReason); });
   onReturn(ui->Text2, [this] { nextPlace(); });
-  onLeave(ui->Text2, [this] { ui->List2->fill(punkteZeilen(m_store, true)); });
+  onLeave(ui->Text2, [this] { ui->List2->fill(punkteZeilen(m_store.cup, true)); });
   ui->Text3->installEventFilter(this);
   connect(ui->Command1, &QPushButton::clicked, this, &Form20::evaluate);
   connect(ui->Command2, &QPushButton::clicked, this, &Form20::print);
@@ -84,14 +84,14 @@ void Form20::placeChanged() {
   ui->Text2->setEnabled(true);
   if (const QString held = plainText(place()); ui->Text1->text() != held)
     ui->Text1->setText(held);
-  const int points = m_store.CupPunkteTabelle[place()];
+  const int points = m_store.cup.CupPunkteTabelle[place()];
   ui->Text2->setText(points == 0 ? QString() : plainText(points));
 }
 
 void Form20::pointsChanged() {
   lockPrint();
   if (const auto points = shortNumber(ui->Text2->text()))
-    m_store.CupPunkteTabelle[place()] = *points;
+    m_store.cup.CupPunkteTabelle[place()] = *points;
   else
     m_store.umgebung.piep();
 }
@@ -135,7 +135,7 @@ CupAuswahl Form20::auswahl() const {
 }
 
 QList<SavedFile> Form20::unsaved() const {
-  const QByteArray now = cupBytes(m_store, auswahl());
+  const QByteArray now = cupBytes(m_store.cup, auswahl());
   return now == m_atOpening ? QList<SavedFile>() : QList<SavedFile>{{QStringLiteral("Cup.dat"), now}};
 }
 

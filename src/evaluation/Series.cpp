@@ -22,15 +22,15 @@ void rennenLaden(Store &store, int race) {
 }
 
 void zweitenLaufStreichen(Store &store) {
-  for (int row = 1; row <= 1000; ++row) {
+  for (const int row : store.Teilnehmer.rows()) {
     store.Teilnehmer[row].Zeit2 = 0;
-    store.Teilnehmer[row].Status2 = 0;
+    store.Teilnehmer[row].Status2 = Status::Ok;
   }
   store.TabellenRennen = -1; // no longer what the files of the race keep
 }
 
 void zweitenLaufVorziehen(Store &store) {
-  for (int row = 1; row <= 1000; ++row) {
+  for (const int row : store.Teilnehmer.rows()) {
     auto &participant = store.Teilnehmer[row];
     participant.Zeit1 = participant.Zeit2;
     participant.Status1 = participant.Status2;
@@ -51,12 +51,12 @@ void werten(Store &store, const Kriterien &kriterien) {
 
 void klassenNamenMerken(Store &store) {
   for (int klasse = 0; klasse <= 159; ++klasse)
-    store.CupKlasseName[klasse] = store.KlasseGenauName[klasse];
+    store.cup.CupKlasseName[klasse] = store.KlasseGenauName[klasse];
 }
 
 QHash<int, int> zeilenDerLaeufer(const Store &store) {
   QHash<int, int> rows;
-  for (int row = 1; row <= 1000; ++row)
+  for (const int row : store.Teilnehmer.rows())
     if (const int athlete = store.Teilnehmer[row].LaeuferNr; athlete != 0)
       rows[athlete] = row;
   return rows;

@@ -12,10 +12,8 @@
 namespace {
 
 constexpr int Units = 100;
-constexpr int NameLength = 20, UnitLength = 6, TimeLength = 10, RowLength = 4;
+constexpr int NameLength = 20, TimeLength = 10;
 constexpr double NoTime = 99999999;
-/// What each missing member of a "Zeitsumme der besten" costs, so that incomplete units stand behind complete ones.
-constexpr double MissingMember = 100000;
 
 QString blanks(int count) {
   return QString(count, QLatin1Char(' '));
@@ -23,7 +21,7 @@ QString blanks(int count) {
 
 // A row without a club of its own keeps what it had: that is meant.
 void findClubs(Store &store) {
-  for (int row = 1; row <= 1000; ++row) {
+  for (const int row : store.Teilnehmer.rows()) {
     const auto &participant = store.Teilnehmer[row];
     if (participant.LaeuferNr == 0)
       continue;
@@ -31,36 +29,37 @@ void findClubs(Store &store) {
     if (participant.VereinNr < 1 || participant.VereinNr > 3)
       continue;
     const int club = startClub(athlete, participant);
-    store.VereinRecNr[row] = club >= 1 && club <= store.VereinAnzahl ? club : 0;
+    store.mannschaften.VereinRecNr[row] = club >= 1 && club <= store.VereinAnzahl ? club : 0;
   }
 }
 
 /// Number of the unit that is this club; 0 if it has none.
-int unitOfClub(const Store &store, int club) {
+int unitOfClub(const MannschaftsTabellen &tables, int club) {
   for (int k = 1; k <= Units; ++k)
-    if (store.WertVerein[k] == club)
+    if (tables.WertVerein[k] == club)
       return k;
   return 0;
 }
 
-void numberClubs(Store &store) {
-  store.WertVerein.fill(0);
+void numberClubs(MannschaftsTabellen &tables) {
+  tables.WertVerein.fill(0);
   int last = 0;
-  for (int row = 1; row <= 1000; ++row) {
-    const int club = store.VereinRecNr[row];
-    if (club <= 0 || unitOfClub(store, club) != 0)
+  for (const int row : tables.VereinRecNr.rows()) {
+    const int club = tables.VereinRecNr[row];
+    if (club <= 0 || unitOfClub(tables, club) != 0)
       continue;
     last = std::min(last + 1, Units);
-    store.WertVerein[last] = club;
+    tables.WertVerein[last] = club;
   }
 }
 
 void assignUnits(Store &store) {
-  store.WertVereinIdx.fill(0);
-  for (int row = 1; row <= 1000; ++row) {
+  auto &tables = store.mannschaften;
+  tables.WertVereinIdx.fill(0);
+  for (const int row : store.Teilnehmer.rows()) {
     const auto &participant = store.Teilnehmer[row];
-    if (participant.LaeuferNr != 0 && participant.VereinNr != 0 && store.VereinRecNr[row] != 0)
-      store.WertVereinIdx[row] = unitOfClub(store, store.VereinRecNr[row]);
+    if (participant.LaeuferNr != 0 && participant.VereinNr != 0 && tables.VereinRecNr[row] != 0)
+      tables.WertVereinIdx[row] = unitOfClub(tables, tables.VereinRecNr[row]);
   }
 }
 
@@ -68,12 +67,12 @@ bool isRanked(const TeilnehmerZeile &participant) {
   return participant.WertSumme != 0 && participant.LaeuferNr != 0 && statusSum(participant) <= 0;
 }
 
-bool passes(const Store &store, int row, WertungsFilter filter) {
+bool passes(const MannschaftsTabellen &tables, int row, WertungsFilter filter) {
   switch (filter) {
   case WertungsFilter::NurMaennlich:
-    return store.TnGeschlecht[row] != 0;
+    return tables.TnGeschlecht[row] != Sex::Female;
   case WertungsFilter::NurWeiblich:
-    return store.TnGeschlecht[row] != 1;
+    return tables.TnGeschlecht[row] != Sex::Male;
   default:
     return true;
   }
@@ -81,8 +80,8 @@ bool passes(const Store &store, int row, WertungsFilter filter) {
 
 QList<int> countingRows(const Store &store, WertungsFilter filter) {
   QList<int> rows;
-  for (int row = 1; row <= 1000; ++row)
-    if (isRanked(store.Teilnehmer[row]) && passes(store, row, filter))
+  for (const int row : store.Teilnehmer.rows())
+    if (isRanked(store.Teilnehmer[row]) && passes(store.mannschaften, row, filter))
       rows.append(row);
   return rows;
 }
@@ -90,7 +89,7 @@ QList<int> countingRows(const Store &store, WertungsFilter filter) {
 int unitOfRow(const Store &store, Einheit einheit, int row) {
   switch (einheit) {
   case Einheit::Verein:
-    return store.WertVereinIdx[row];
+    return store.mannschaften.WertVereinIdx[row];
   case Einheit::Mannschaft:
     return store.Teilnehmer[row].MannschaftNr;
   case Einheit::Gruppe:
@@ -108,7 +107,7 @@ bool countsFor(const Store &store, Einheit einheit, int row, int unit) {
 bool exists(const Store &store, Einheit einheit, int unit) {
   switch (einheit) {
   case Einheit::Verein:
-    return store.WertVerein[unit] != 0;
+    return store.mannschaften.WertVerein[unit] != 0;
   case Einheit::Mannschaft:
     return !store.MannschaftName[unit].isEmpty();
   case Einheit::Gruppe:
@@ -122,33 +121,34 @@ bool exists(const Store &store, Einheit einheit, int unit) {
 void prepareFilter(Store &store, WertungsFilter filter) {
   if (filter == WertungsFilter::Gemischt)
     return;
-  store.WertGezaehlt.fill(0);
-  for (int row = 1; row <= 1000; ++row) {
+  store.mannschaften.WertGezaehlt.fill(0);
+  for (const int row : store.Teilnehmer.rows()) {
     const auto &participant = store.Teilnehmer[row];
     if (isRanked(participant))
-      store.TnGeschlecht[row] = LaeuferLesen(store, participant.LaeuferNr).Geschlecht;
+      store.mannschaften.TnGeschlecht[row] = LaeuferLesen(store, participant.LaeuferNr).Geschlecht;
   }
 }
 
 void takeBestTimes(Store &store, const Wertung &wertung) {
-  store.WertErgebnis.fill(NoTime);
+  store.mannschaften.WertErgebnis.fill(NoTime);
   for (const int row : countingRows(store, wertung.filter))
     if (const int unit = unitOfRow(store, wertung.einheit, row); unit != 0)
-      store.WertErgebnis[unit] = std::min(store.WertErgebnis[unit], store.Teilnehmer[row].WertSumme);
+      store.mannschaften.WertErgebnis[unit] =
+          std::min(store.mannschaften.WertErgebnis[unit], store.Teilnehmer[row].WertSumme);
 }
 
 void takeAverages(Store &store, const Wertung &wertung) {
-  store.WertErgebnis.fill(0);
+  store.mannschaften.WertErgebnis.fill(0);
   Tabelle<int, 1, Units> counted("WertAnzahl");
   for (const int row : countingRows(store, wertung.filter)) {
     if (const int unit = unitOfRow(store, wertung.einheit, row); unit != 0) {
-      store.WertErgebnis[unit] += store.Teilnehmer[row].WertSumme;
+      store.mannschaften.WertErgebnis[unit] += store.Teilnehmer[row].WertSumme;
       ++counted[unit];
     }
   }
   for (int k = 1; k <= Units; ++k)
     if (counted[k] > 0)
-      store.WertErgebnis[k] /= counted[k];
+      store.mannschaften.WertErgebnis[k] /= counted[k];
 }
 
 // The times are added as they are listed, rounded to hundredths.
@@ -157,13 +157,13 @@ double sumOfBest(Store &store, const QStringList &times, int wanted) {
   double sum = 0;
   for (const QString &line : best) {
     sum += regionalNumber(QStringView(line).left(TimeLength)).value_or(0);
-    store.WertGezaehlt[rowAtEnd(line, RowLength)] = 1;
+    store.mannschaften.WertGezaehlt[numberAtEnd(line)] = 1;
   }
   return sum + double(wanted - best.size()) * MissingMember;
 }
 
 void takeSumsOfBest(Store &store, const Wertung &wertung, const std::function<void(const QStringList &)> &workList) {
-  store.WertErgebnis.fill(0);
+  store.mannschaften.WertErgebnis.fill(0);
   const QList<int> rows = countingRows(store, wertung.filter);
   for (int k = 1; k <= Units; ++k) {
     if (!exists(store, wertung.einheit, k))
@@ -173,7 +173,7 @@ void takeSumsOfBest(Store &store, const Wertung &wertung, const std::function<vo
       if (countsFor(store, wertung.einheit, row, k))
         lines.add(WertText10(store.Teilnehmer[row].WertSumme) + blanks(10) + plainText(row));
     const QStringList times = lines.take();
-    store.WertErgebnis[k] = sumOfBest(store, times, wertung.anzahlBeste);
+    store.mannschaften.WertErgebnis[k] = sumOfBest(store, times, wertung.anzahlBeste);
     workList(times);
   }
 }
@@ -181,7 +181,7 @@ void takeSumsOfBest(Store &store, const Wertung &wertung, const std::function<vo
 QStringList unitLines(const Store &store, Einheit einheit) {
   SortedLines lines;
   for (int k = 1; k <= Units; ++k) {
-    const double value = store.WertErgebnis[k];
+    const double value = store.mannschaften.WertErgebnis[k];
     if (value != NoTime && value != 0)
       lines.add(WertText10(value) + QLatin1Char(' ') + einheitName(store, einheit, k).left(NameLength) + blanks(5) +
                 spacedText(k));
@@ -191,7 +191,7 @@ QStringList unitLines(const Store &store, Einheit einheit) {
 
 // A club has those members too that only an earlier race put there.
 bool isMember(const Store &store, Einheit einheit, int row, int unit) {
-  return einheit == Einheit::Verein ? store.VereinRecNr[row] == store.WertVerein[unit]
+  return einheit == Einheit::Verein ? store.mannschaften.VereinRecNr[row] == store.mannschaften.WertVerein[unit]
                                     : countsFor(store, einheit, row, unit);
 }
 
@@ -209,17 +209,17 @@ QString memberPrefix(const TeilnehmerZeile &participant, MitgliederOrdnung ordnu
 } // namespace
 
 void wertungVorbereiten(Store &store) {
-  store.WertGezaehlt.fill(0);
+  store.mannschaften.WertGezaehlt.fill(0);
   findClubs(store);
   ErgebnisRechnen(store);
-  numberClubs(store);
+  numberClubs(store.mannschaften);
   assignUnits(store);
 }
 
 QStringList vereinsZeilen(const Store &store) {
   QStringList lines;
   for (int k = 1; k <= Units; ++k)
-    if (store.WertVerein[k] != 0)
+    if (store.mannschaften.WertVerein[k] != 0)
       lines << trimmedBlanks(einheitName(store, Einheit::Verein, k));
   return lines;
 }
@@ -228,7 +228,7 @@ QStringList mannschaftsZeilen(const Store &store) {
   QStringList lines;
   for (int k = 1; k <= Units; ++k) {
     int members = 0;
-    for (int row = 1; row <= 1000; ++row)
+    for (const int row : store.Teilnehmer.rows())
       members += store.Teilnehmer[row].MannschaftNr == k;
     if (members != 0 && exists(store, Einheit::Mannschaft, k))
       lines << rightAligned(plainText(members), 3) + QLatin1Char(' ') + store.MannschaftName[k] + blanks(12) +
@@ -263,14 +263,10 @@ QStringList teamWertung(Store &store, const Wertung &wertung,
   return unitLines(store, wertung.einheit);
 }
 
-int einheitAmEnde(const QString &line) {
-  return rowAtEnd(line, UnitLength);
-}
-
 QString einheitName(const Store &store, Einheit einheit, int unit) {
   switch (einheit) {
   case Einheit::Verein:
-    return VereinLesen(store, store.WertVerein[unit]).VereinKurz;
+    return VereinLesen(store, store.mannschaften.WertVerein[unit]).VereinKurz;
   case Einheit::Mannschaft:
     return store.MannschaftName[unit];
   case Einheit::Gruppe:

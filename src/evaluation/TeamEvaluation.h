@@ -15,6 +15,10 @@ enum class WertungsFilter { Gemischt, NurMaennlich, NurWeiblich };
 /// In the order of `Form12.Combo1`.
 enum class MitgliederOrdnung { NachZeit, Alphabetisch, NachKlassen };
 
+/// What each missing member of a "Zeitsumme der besten" costs, seconds, so that incomplete units stand behind complete
+/// ones.
+inline constexpr double MissingMember = 100000;
+
 struct Wertung {
   Einheit einheit = Einheit::Verein;
   WertungsArt art = WertungsArt::Bestzeit;
@@ -40,8 +44,6 @@ QStringList teamWertung(
     Store &store, const Wertung &wertung,
     const std::function<void(const QStringList &)> &arbeitsliste = [](const QStringList &) {});
 
-/// Unit number at the end of such a line.
-int einheitAmEnde(const QString &line);
 /// Name of a unit as stored: of a club the short name, with its padding.
 QString einheitName(const Store &store, Einheit einheit, int unit);
 /// The ranked members of a unit in order, each line with its row at the end.

@@ -9,10 +9,8 @@
 
 namespace {
 
-constexpr int ValueLength = 10, RowLength = 6;
+constexpr int ValueLength = 10;
 constexpr unsigned Grey = 0xD0D0D0;
-/// What each missing member added to the value.
-constexpr double MissingMember = 100000;
 constexpr double HeadY = 43, PageEnd = 240;
 // Rows are counted in tenths, as members stand a little below the grid of the bands.
 constexpr int Row = 10, BandStep = 20, BandGap = 3, LastEarlyRow = 100;
@@ -44,7 +42,7 @@ QString kindOf(const Wertung &wertung) {
 QString nameOf(const Store &store, Einheit einheit, int unit) {
   if (einheit != Einheit::Verein)
     return einheitName(store, einheit, unit);
-  const VereinSatz club = VereinLesen(store, store.WertVerein[unit]);
+  const VereinSatz club = VereinLesen(store, store.mannschaften.WertVerein[unit]);
   return trimmedBlanks(club.VereinKurz) + QStringLiteral("     ") + trimmedBlanks(club.VereinName);
 }
 
@@ -74,8 +72,8 @@ public:
 
   void printMember(const QString &line) {
     advance(Row);
-    const int row = rowAtEnd(line, RowLength);
-    m_druck.FontBold = m_store.WertGezaehlt[row] == 1;
+    const int row = numberAtEnd(line);
+    m_druck.FontBold = m_store.mannschaften.WertGezaehlt[row] == 1;
     printCells(m_druck, m_members, listRow(m_store, row), y());
     m_druck.FontBold = false;
   }
@@ -150,7 +148,7 @@ EinheitRow einheitRow(int place, const QString &line) {
   double value = regionalNumber(QStringView(line).left(ValueLength)).value_or(0);
   while (value >= MissingMember)
     value -= MissingMember;
-  return {place, einheitAmEnde(line), value};
+  return {place, numberAtEnd(line), value};
 }
 
 QList<Spalte<EinheitRow>> einheitSpalten(const Store &store, const Wertung &wertung) {

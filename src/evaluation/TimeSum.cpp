@@ -15,35 +15,33 @@
 
 namespace {
 
-constexpr int Disqualified = 3;
-
 // The table is not emptied first: entries behind the last row keep what an earlier cup or time sum left; meant.
 void takeBaseRace(Store &store, int race) {
   rennenLaden(store, race);
   rennsatzLesen(store);
   klassenNamenMerken(store);
-  for (int row = 1; row <= 1000; ++row) {
+  for (const int row : store.Teilnehmer.rows()) {
     const auto &participant = store.Teilnehmer[row];
     if (participant.LaeuferNr == 0)
       continue;
-    store.CupLaeufer[row] = participant.LaeuferNr;
-    store.CupKlasse[row] = participant.KlasseGenau;
+    store.cup.CupLaeufer[row] = participant.LaeuferNr;
+    store.cup.CupKlasse[row] = participant.KlasseGenau;
   }
 }
 
 void addTime(Store &store, int entry, const TeilnehmerZeile &participant) {
-  store.CupZeit(entry, 0) += participant.WertZeit1;
-  store.CupZeit(entry, store.CupRunden) = participant.WertZeit1;
-  if (participant.Status1 > 0 || participant.Zeit1 == 0)
-    store.CupStatus(entry, 0) = Disqualified;
+  store.cup.CupZeit(entry, 0) += participant.WertZeit1;
+  store.cup.CupZeit(entry, store.cup.CupRunden) = participant.WertZeit1;
+  if (participant.Status1 > Status::Ok || participant.Zeit1 == 0)
+    store.cup.CupStatus(entry, 0) = Status::Dis;
 }
 
 void addTimes(Store &store) {
   const QHash<int, int> rows = zeilenDerLaeufer(store);
-  for (int entry = 1; entry <= 1000 && store.CupLaeufer[entry] != 0; ++entry) {
-    const auto row = rows.constFind(store.CupLaeufer[entry]);
+  for (int entry = 1; entry <= store.cup.CupLaeufer.last() && store.cup.CupLaeufer[entry] != 0; ++entry) {
+    const auto row = rows.constFind(store.cup.CupLaeufer[entry]);
     if (row == rows.constEnd())
-      store.CupStatus(entry, 0) = Disqualified;
+      store.cup.CupStatus(entry, 0) = Status::Dis;
     else
       addTime(store, entry, store.Teilnehmer[*row]);
   }
@@ -55,19 +53,19 @@ void addRound(Store &store, int race, const Kriterien &kriterien) {
   rennenLaden(store, race);
   zweitenLaufStreichen(store);
   werten(store, kriterien);
-  ++store.CupRunden;
+  ++store.cup.CupRunden;
   addTimes(store);
   rennsatzLesen(store);
-  store.ZeitsummeRennenKurz[store.CupRunden] = store.Rennen.RennenKurz;
+  store.cup.ZeitsummeRennenKurz[store.cup.CupRunden] = store.Rennen.RennenKurz;
 }
 
 // The tables hold the base race, which was loaded last.
 void putSums(Store &store) {
   zweitenLaufStreichen(store);
-  for (int row = 1; row <= 1000; ++row) {
+  for (const int row : store.Teilnehmer.rows()) {
     auto &participant = store.Teilnehmer[row];
-    participant.Status1 = store.CupStatus(row, 0);
-    participant.Zeit1 = store.CupZeit(row, 0);
+    participant.Status1 = store.cup.CupStatus(row, 0);
+    participant.Zeit1 = store.cup.CupZeit(row, 0);
     participant.ZeitReserve = 0;
   }
 }
@@ -84,7 +82,7 @@ void writeRace(Store &store, int number) {
   race.ZweiDurchgaenge = 0;
   store.RennenIdx = store.AktRennen = number;
   auto files = raceFiles(store);
-  files.append({'Z', singleTimesBytes(store)});
+  files.append({'Z', singleTimesBytes(store.cup)});
   store.vorDemErsetzen(replacingImage(store, number, files, race));
   RennenSchreiben(store);
   RennDatenSpeichern(store);
@@ -108,10 +106,10 @@ int zeitsummeNummer(const QStringList &races) {
 }
 
 void zeitsummeErzeugen(Store &store, const QList<int> &races, int number) {
-  store.CupZeit.fill(0);
-  store.CupStatus.fill(0);
-  store.ZeitsummeRennenKurz.fill({});
-  store.CupRunden = 0;
+  store.cup.CupZeit.fill(0);
+  store.cup.CupStatus.fill(0);
+  store.cup.ZeitsummeRennenKurz.fill({});
+  store.cup.CupRunden = 0;
   takeBaseRace(store, races.first());
   const Kriterien kriterien = kriterienMerken(store);
   for (qsizetype line = races.size(); line-- > 0;)

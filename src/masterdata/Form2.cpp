@@ -45,7 +45,7 @@ void Form2::connectButtons() {
       showAndFill(*n);
   });
   connect(ui->List1, &LineList::chosen, this, [this](int line) {
-    const int number = rowAtEnd(ui->List1->lines()[line], 6);
+    const int number = numberAtEnd(ui->List1->lines()[line]);
     if (isClub(m_store, number))
       VereinZeigen(number);
   });

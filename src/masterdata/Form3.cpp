@@ -63,7 +63,7 @@ void Form3::connectNavigation() {
     if (!looksUndated(ui->Text4->text()))
       zeigen(m_store.LaeuferAnzahl);
   });
-  connect(ui->List1, &LineList::chosen, this, [this](int line) { zeigen(rowAtEnd(ui->List1->lines()[line], 6)); });
+  connect(ui->List1, &LineList::chosen, this, [this](int line) { zeigen(numberAtEnd(ui->List1->lines()[line])); });
   connect(ui->Command1, &QPushButton::clicked, this, &Form3::close);
 }
 
@@ -77,8 +77,8 @@ void Form3::connectFields() {
   });
   onLeave(ui->Text4, [this] { ui->Text4->setText(storeBirthDate(m_store, m_shown, ui->Text4->text())); });
   onLeave(ui->Text5, [this] { storePoints(); });
-  connect(ui->Option1, &QRadioButton::clicked, this, [this] { setSex(1); });
-  connect(ui->Option2, &QRadioButton::clicked, this, [this] { setSex(0); });
+  connect(ui->Option1, &QRadioButton::clicked, this, [this] { setSex(Sex::Male); });
+  connect(ui->Option2, &QRadioButton::clicked, this, [this] { setSex(Sex::Female); });
   connectClub(ui->Combo1, &LaeuferSatz::Verein1);
   connectClub(ui->Combo2, &LaeuferSatz::Verein2);
   connectClub(ui->Combo3, &LaeuferSatz::Verein3);
@@ -152,8 +152,8 @@ void Form3::LaeuferZeigen(int n) {
 // The Tab key arrives at the one that is chosen, else at the first: the same keys give the same sex, whoever was
 // entered before.
 void Form3::showSex(int sex) {
-  const bool female = sex == 0;
-  setChosen(ui->Option1, sex == 1);
+  const bool female = sex == Sex::Female;
+  setChosen(ui->Option1, sex == Sex::Male);
   setChosen(ui->Option2, female);
   ui->Option1->setFocusPolicy(female ? Qt::ClickFocus : Qt::StrongFocus);
   ui->Option2->setFocusPolicy(female ? Qt::StrongFocus : Qt::ClickFocus);

@@ -129,8 +129,9 @@ std::optional<qint16> shortNumber(QStringView text) {
   return number == qint16(number) ? std::optional(qint16(number)) : std::nullopt;
 }
 
-int rowAtEnd(QStringView line, int length) {
-  return int(wholeNumber(line.right(length)));
+int numberAtEnd(QStringView line) {
+  constexpr int mostDigits = 6;
+  return int(wholeNumber(line.sliced(line.lastIndexOf(QLatin1Char(' ')) + 1).right(mostDigits)));
 }
 
 std::optional<double> regionalNumber(QStringView text) {

@@ -14,8 +14,9 @@ double leadingNumber(QStringView text);
 qint64 wholeNumber(QStringView text);
 /// The same where a field is 16-bit; nothing if the number is outside −32768 to 32767.
 std::optional<qint16> shortNumber(QStringView text);
-/// The number at the end of a list line: the leading number of its last `length` characters.
-int rowAtEnd(QStringView line, int length);
+/// The number that a list line ends with, a row or a record: the leading number of what stands behind its last blank,
+/// six characters at most.
+int numberAtEnd(QStringView line);
 /// Decimal comma, optional exponent ("1E+15"), blanks around; nothing if the text is anything else, or empty.
 std::optional<double> regionalNumber(QStringView text);
 

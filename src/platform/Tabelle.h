@@ -6,6 +6,28 @@
 #include <array>
 #include <vector>
 
+/// The whole numbers from `first` to `last`, to be walked over.
+class Numbered {
+public:
+  class Iterator {
+  public:
+    explicit constexpr Iterator(int at) : m_at(at) {}
+    constexpr int operator*() const { return m_at; }
+    constexpr Iterator &operator++() { return ++m_at, *this; }
+    constexpr bool operator==(const Iterator &) const = default;
+
+  private:
+    int m_at;
+  };
+
+  constexpr Numbered(int first, int last) : m_first(first), m_last(last) {}
+  constexpr Iterator begin() const { return Iterator(m_first); }
+  constexpr Iterator end() const { return Iterator(m_last + 1); }
+
+private:
+  int m_first, m_last;
+};
+
 /// A table of fixed bounds `First` to `Last`, both inclusive. An index outside is a RangeFault that names the table.
 template <typename T, int First, int Last> class Tabelle {
 public:
@@ -19,6 +41,8 @@ public:
 
   void fill(const T &value) { std::fill(m_rows.begin(), m_rows.end(), value); }
   static constexpr int last() { return Last; }
+  /// The numbers of the rows, without a row 0.
+  static constexpr Numbered rows() { return {std::max(First, 1), Last}; }
 
 private:
   std::size_t position(int index) const {

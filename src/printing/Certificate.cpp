@@ -44,7 +44,7 @@ void printHeading(const Store &store, Druckschicht &druck) {
 QString timeLine(const Store &store, const Druckschicht &druck, const TeilnehmerZeile &participant, int sex) {
   QString line = QStringLiteral("Zeit: ") + ZeitDruckText(druck, participant.WertSumme);
   const double sum = participant.WertSumme;
-  if (sum != 0 && (sum == store.BestzeitDamen || sum == store.BestzeitHerren))
+  if (sum != 0 && (sum == store.rangliste.BestzeitDamen || sum == store.rangliste.BestzeitHerren))
     line += QStringLiteral("   ") + Bestzeittext(store.Rennen.BestzeitText, sex);
   return line +
          (store.Rennen.WertKlassen == 0

@@ -59,7 +59,7 @@ void StartlisteZweiterDurchgang(Store &store, Druckschicht &druck) {
   CountedPages pages(store, druck, kopf, startlistenSpalten(store));
   int lastSection = 0;
   for (const QString &line : lines) {
-    const int row = sortierReihe(line);
+    const int row = numberAtEnd(line);
     if (store.Teilnehmer[row].StartNr == 0)
       break;
     if (const int section = abschnittOf(line); section != lastSection) {
@@ -82,7 +82,7 @@ void NichtInDerWertung(const Store &store, Druckschicht &druck) {
   if (!lines.isEmpty()) {
     CountedPages pages(store, druck, kopf, nichtGewertetSpalten(store));
     for (const QString &line : lines) {
-      const int row = sortierReihe(line);
+      const int row = numberAtEnd(line);
       if (store.Teilnehmer[row].StartNr == 0)
         break;
       pages.printRow(row);

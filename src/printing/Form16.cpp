@@ -55,9 +55,6 @@ void Form16::storeDate() {
     m_store.umgebung.piep();
 }
 
-// The first race may be open as number 0, which has no record.
 void Form16::closing() {
-  m_store.RennenIdx = m_store.AktRennen;
-  if (m_store.AktRennen > 0)
-    RennenSchreiben(m_store);
+  rennsatzSpeichern(m_store);
 }

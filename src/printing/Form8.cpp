@@ -117,7 +117,7 @@ void Form8::printCertificates(Druckschicht &druck) {
     text = UrkundenText{ui->Text1->text(), ui->Text2->text(), ui->Text3->text()};
   const QList<int> marked = ui->List2->marked();
   printSeries(marked.size(), [&](qsizetype i) {
-    const int row = rowAtEnd(ui->List2->lines().at(marked[i]), 4);
+    const int row = numberAtEnd(ui->List2->lines().at(marked[i]));
     Urkunde(m_store, druck, row, text);
     return shownText(LaeuferLesen(m_store, m_store.Teilnehmer[row].LaeuferNr).Name);
   });
@@ -137,7 +137,5 @@ void Form8::keepBanners() {
 
 void Form8::closing() {
   keepBanners();
-  m_store.RennenIdx = m_store.AktRennen;
-  if (m_store.AktRennen != 0)
-    RennenSchreiben(m_store);
+  rennsatzSpeichern(m_store);
 }

@@ -32,8 +32,9 @@ Column yearColumn(const char *head, double x) {
 }
 
 Column sexColumn(double x) {
-  return {QStringLiteral("m/w"), x, Links, 9,
-          [](const ListRow &row) { return row.athlete.Geschlecht == 1 ? QStringLiteral("m") : QStringLiteral("w"); }};
+  return {QStringLiteral("m/w"), x, Links, 9, [](const ListRow &row) {
+            return row.athlete.Geschlecht == Sex::Male ? QStringLiteral("m") : QStringLiteral("w");
+          }};
 }
 
 Column placeColumn() {
@@ -51,14 +52,14 @@ Column timeColumn(const char *head, double headAt, double x, double TeilnehmerZe
 }
 
 Column singleTimeColumn(const Store &store, int race, double x) {
-  return {store.ZeitsummeRennenKurz[race], x, Zeit, 9,
-          [&store, race](const ListRow &row) { return ZeitText(store.CupZeit(row.row, race)); }};
+  return {store.cup.ZeitsummeRennenKurz[race], x, Zeit, 9,
+          [&store, race](const ListRow &row) { return ZeitText(store.cup.CupZeit(row.row, race)); }};
 }
 
-bool hasBestTime(const Store &store, const ListRow &row) {
+bool hasBestTime(const Rangliste &rangliste, const ListRow &row) {
   const int sex = row.athlete.Geschlecht;
-  return (sex != 0 || row.participant.WertSumme == store.BestzeitDamen) &&
-         (sex != 1 || row.participant.WertSumme == store.BestzeitHerren);
+  return (sex != Sex::Female || row.participant.WertSumme == rangliste.BestzeitDamen) &&
+         (sex != Sex::Male || row.participant.WertSumme == rangliste.BestzeitHerren);
 }
 
 // The time alone decides; a person without sex gets the remark too, and where no text fits the last one again. This is
@@ -66,7 +67,7 @@ bool hasBestTime(const Store &store, const ListRow &row) {
 Column remarkColumn(const Store &store) {
   const int choice = store.Rennen.BestzeitText;
   const auto remark = [&store, choice, last = QString()](const ListRow &row) mutable {
-    if (choice == 0 || !hasBestTime(store, row))
+    if (choice == 0 || !hasBestTime(store.rangliste, row))
       return QString();
     if (const QString text = Bestzeittext(choice, row.athlete.Geschlecht); !text.isNull())
       last = text;
@@ -167,16 +168,17 @@ ListColumns nichtGewertetSpalten(const Store &store) {
 }
 
 QString Bestzeittext(int choice, int sex) {
-  const bool known = sex == 0 || sex == 1;
+  const bool known = sex == Sex::Female || sex == Sex::Male;
   switch (choice) {
   case 1:
     return QStringLiteral("Bestzeit");
   case 2:
     return QStringLiteral("Tagesbestzeit");
   case 3:
-    return known ? (sex == 0 ? QStringLiteral("Ortsmeisterin") : QStringLiteral("Ortsmeister")) : QString();
+    return known ? (sex == Sex::Female ? QStringLiteral("Ortsmeisterin") : QStringLiteral("Ortsmeister")) : QString();
   case 4:
-    return known ? (sex == 0 ? QStringLiteral("Vereinsmeisterin") : QStringLiteral("Vereinsmeister")) : QString();
+    return known ? (sex == Sex::Female ? QStringLiteral("Vereinsmeisterin") : QStringLiteral("Vereinsmeister"))
+                 : QString();
   default:
     return {};
   }

@@ -19,7 +19,7 @@ public:
   void print(const QStringList &lines) {
     printHead();
     for (const QString &line : lines) {
-      const int row = sortierReihe(line);
+      const int row = numberAtEnd(line);
       auto &participant = m_store.Teilnehmer[row];
       markSection(participant, line);
       if (participant.StartNr == 0)
@@ -88,7 +88,7 @@ void AlphabetischeListe(const Store &store, Druckschicht &druck) {
   const QStringList lines = SortierListe(store, [](int, const LaeuferSatz &athlete) { return athlete.Name; });
   printHead();
   for (const QString &line : lines) {
-    const int row = sortierReihe(line);
+    const int row = numberAtEnd(line);
     if (store.Teilnehmer[row].StartNr == 0)
       break;
     if (seiteVoll(druck, ++zeilenNr, RowLimit)) {

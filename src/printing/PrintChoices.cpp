@@ -18,8 +18,8 @@ QString ranglisteZeile(const Store &store, int row) {
 
 QStringList ranglisteZeilen(const Store &store) {
   QStringList lines;
-  for (int place = 1; place <= 1000; ++place) {
-    const int row = store.RangListe[place];
+  for (const int place : store.rangliste.RangListe.rows()) {
+    const int row = store.rangliste.RangListe[place];
     const TeilnehmerZeile &participant = store.Teilnehmer[row];
     if (participant.StartNr != 0 && statusSum(participant) <= 0)
       lines.append(ranglisteZeile(store, row));

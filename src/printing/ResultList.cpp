@@ -22,15 +22,16 @@ public:
   void print() {
     Dokumentanfang(m_store, m_druck, listHead().name);
     printHead();
-    for (int k = 1; k <= 1000; ++k) {
-      const auto &participant = m_store.Teilnehmer[m_store.RangListe[k]];
+    for (const int place : m_store.rangliste.RangListe.rows()) {
+      const int row = m_store.rangliste.RangListe[place];
+      const auto &participant = m_store.Teilnehmer[row];
       if (participant.StartNr == 0)
         break;
       if (statusSum(participant) > 0)
         continue;
       if (participant.KlasseKopf != 0)
         startSection(participant);
-      printRow(m_store.RangListe[k]);
+      printRow(row);
     }
     m_druck.EndDoc();
   }

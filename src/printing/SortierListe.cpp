@@ -6,7 +6,7 @@
 
 QStringList SortierListe(const Store &store, const std::function<QString(int row, const LaeuferSatz &athlete)> &key) {
   SortedLines lines;
-  for (int row = 1; row <= 1000; ++row) {
+  for (const int row : store.Teilnehmer.rows()) {
     const auto athlete = athleteOf(store, store.Teilnehmer[row]);
     if (!athlete)
       continue;
@@ -15,8 +15,4 @@ QStringList SortierListe(const Store &store, const std::function<QString(int row
       lines.add(text + QStringLiteral("   ") + plainText(row));
   }
   return lines.take();
-}
-
-int sortierReihe(const QString &line) {
-  return rowAtEnd(line, 4);
 }

@@ -8,5 +8,3 @@
 /// an athlete or with an empty name are left out, and so are those whose key is a null text. The order is that of the
 /// sorted lists: German, ignoring case, equal keys by row number at the end of the line.
 QStringList SortierListe(const Store &store, const std::function<QString(int row, const LaeuferSatz &athlete)> &key);
-/// The participant row at the end of a line.
-int sortierReihe(const QString &line);

@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr int NaS = 1, NiZ = 2, Dis = 3;
-
 struct Counts {
   int amStart = 0, disqualifiziert = 0, nichtImZiel = 0;
   int imZiel() const { return amStart - disqualifiziert - nichtImZiel; }
@@ -19,16 +17,16 @@ struct Counts {
 // Nobody is moved from one count to another: a row with two different statuses counts in both; this is meant.
 Counts countField(const Store &store) {
   Counts counts;
-  for (int row = 1; row <= 1000; ++row) {
+  for (const int row : store.Teilnehmer.rows()) {
     const auto &participant = store.Teilnehmer[row];
     if (participant.StartNr == 0)
       continue;
     const auto has = [&participant](int status) {
       return participant.Status1 == status || participant.Status2 == status;
     };
-    counts.amStart += !has(NaS);
-    counts.disqualifiziert += has(Dis);
-    counts.nichtImZiel += has(NiZ);
+    counts.amStart += !has(Status::NaS);
+    counts.disqualifiziert += has(Status::Dis);
+    counts.nichtImZiel += has(Status::NiZ);
   }
   return counts;
 }

@@ -58,9 +58,6 @@ void Form14::setSurcharge(QLineEdit *text, double &field) {
   });
 }
 
-// A race that is not in the register yet, number 0, has no record to write.
 void Form14::closing() {
-  m_store.RennenIdx = m_store.AktRennen;
-  if (m_store.AktRennen > 0)
-    RennenSchreiben(m_store);
+  rennsatzSpeichern(m_store);
 }

@@ -36,7 +36,7 @@ void Form5::connectAthletes() {
     fillAthletes();
   });
   connect(ui->Command5, &QPushButton::clicked, this, [this] { Q_EMIT neuaufnahme(ui->Text1->text()); });
-  connect(ui->List1, &LineList::chosen, this, [this](int line) { showAthlete(rowAtEnd(ui->List1->lines()[line], 6)); });
+  connect(ui->List1, &LineList::chosen, this, [this](int line) { showAthlete(numberAtEnd(ui->List1->lines()[line])); });
   connect(ui->List1, &LineList::doubleChosen, this, [this] { openAthlete(); });
   onReturn(ui->List1, [this] { openAthlete(); });
   connect(ui->Command2, &QPushButton::clicked, this, &Form5::add);
@@ -86,14 +86,14 @@ void Form5::showAthlete(int record) {
 }
 
 void Form5::showParticipant(const QString &line) {
-  ui->Label5->setText(shownText(LaeuferLesen(m_store, rowAtEnd(line, 6)).Name));
+  ui->Label5->setText(shownText(LaeuferLesen(m_store, numberAtEnd(line)).Name));
   ui->Label7->setText(plainText(rowOfLine(line)));
   ui->Command3->setEnabled(true);
 }
 
 void Form5::openAthlete() {
   if (const int line = ui->List1->chosenLine(); line >= 0)
-    Q_EMIT athletGewaehlt(rowAtEnd(ui->List1->lines()[line], 6));
+    Q_EMIT athletGewaehlt(numberAtEnd(ui->List1->lines()[line]));
 }
 
 void Form5::openParticipant() {

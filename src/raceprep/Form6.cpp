@@ -12,7 +12,6 @@
 
 namespace {
 
-constexpr int RowWidth = 6; // of the row at the end of a line
 constexpr unsigned InUse = 0xFF0000;
 
 const auto NothingChosen = QStringLiteral("???");
@@ -147,7 +146,7 @@ void Form6::fillList() {
 }
 
 void Form6::showLine(int line) {
-  showParticipant(rowAtEnd(ui->List1->lines()[line], RowWidth));
+  showParticipant(numberAtEnd(ui->List1->lines()[line]));
 }
 
 void Form6::showParticipant(int row) {
@@ -173,9 +172,9 @@ void Form6::showAthlete(const LaeuferSatz &athlete) {
   m_named = !athlete.Name.isEmpty();
   ui->Label2->setText(shownText(athlete.Name));
   ui->Label8->setText(plainText(yearOf(athlete.Geburtsdatum)));
-  if (athlete.Geschlecht == 1)
+  if (athlete.Geschlecht == Sex::Male)
     Look::setGround(ui->Label2, FarbTabelle::BlassCyan);
-  else if (athlete.Geschlecht == 0)
+  else if (athlete.Geschlecht == Sex::Female)
     Look::setGround(ui->Label2, FarbTabelle::BlassRot);
 }
 

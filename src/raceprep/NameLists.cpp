@@ -10,7 +10,7 @@ int nameNumber(const QString &text) {
 
 QStringList nameLines(const Tabelle<QString, 0, 100> &names) {
   QStringList lines;
-  for (int number = 1; number <= names.last(); ++number)
+  for (const int number : names.rows())
     if (!names[number].isEmpty())
       lines.append(plainText(number) + QLatin1Char(' ') + names[number]);
   return lines;

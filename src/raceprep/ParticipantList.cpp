@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int LastRow = 1000;
+constexpr int LastRow = decltype(Store::Teilnehmer)::last();
 constexpr int ClubTextLength = 20;
 constexpr int RecordDigits = 6, RowDigits = 4;
 
@@ -52,7 +52,7 @@ QStringList athleteLines(const Store &store, const QString &beginning) {
 
 QStringList TeilnehmerlisteFuellen(const Store &store, const QString &beginning, int order) {
   SortedLines lines;
-  for (int row = 1; row <= LastRow; ++row) {
+  for (const int row : store.Teilnehmer.rows()) {
     const int record = store.Teilnehmer[row].LaeuferNr;
     if (record == 0)
       continue;
@@ -64,7 +64,7 @@ QStringList TeilnehmerlisteFuellen(const Store &store, const QString &beginning,
 }
 
 int rowOfLine(QStringView line) {
-  return rowAtEnd(line.chopped(std::min<qsizetype>(RecordDigits, line.size())), RowDigits);
+  return int(wholeNumber(line.chopped(std::min<qsizetype>(RecordDigits, line.size())).right(RowDigits)));
 }
 
 AthleteClubs clubsOfAthlete(const Store &store, const LaeuferSatz &athlete) {
@@ -83,7 +83,7 @@ AthleteClubs clubsOfAthlete(const Store &store, const LaeuferSatz &athlete) {
 }
 
 bool isParticipant(const Store &store, int athlete) {
-  for (int row = 1; row <= LastRow; ++row)
+  for (const int row : store.Teilnehmer.rows())
     if (store.Teilnehmer[row].LaeuferNr == athlete)
       return true;
   return false;

@@ -14,7 +14,7 @@ enum ListOrder { ByName = 0, ByEntry = 1, LatestFirst = 2 };
 /// in four digits of the table row and six of the record number. The orders by entry sort unpadded digits as text on
 /// purpose: 1, 10, 100, 2.
 QStringList TeilnehmerlisteFuellen(const Store &store, const QString &beginning, int order);
-/// The table row in a line of `Form5.List2`.
+/// The table row in a line of `Form5.List2`; the record number is the number at its end.
 int rowOfLine(QStringView line);
 
 /// The clubs of an athlete as they are shown, how many they are, and the last of his slots (1 to 3) that holds

@@ -1,5 +1,6 @@
 #include "raceprep/RaceCopy.h"
 
+#include "core/ParticipantFile.h"
 #include "core/RaceFiles.h"
 #include "core/RecordFiles.h"
 #include "platform/Numbers.h"
@@ -11,42 +12,48 @@
 namespace {
 
 constexpr int HighestNumber = 30000;
-constexpr int ReserveLines = 7;
 
-// What the copy leaves out is 0, as a number line each.
-void writeNumbers(TextWriter &file, std::initializer_list<int> columns) {
-  for (const int column : columns)
-    file.number(column);
-}
+/// Writes the columns of a row as copies have them: without results these and start number and fee are 0, as a number
+/// line each; with them some have no blanks around. The last column is the order number and not the exact class as in
+/// every other R file. This is meant.
+class ColumnCopy {
+public:
+  ColumnCopy(TextWriter &file, const TeilnehmerZeile &row, bool withResults)
+      : m_file(file), m_row(row), m_withResults(withResults) {}
 
-void writeWithResults(TextWriter &file, const TeilnehmerZeile &row) {
-  writeNumbers(file, {row.LaeuferNr, row.StartNr, row.KlasseNr, row.VereinNr, row.GruppeNr, row.Bezahlt});
-  file.decimal(row.Punkte);
-  for (const double column : {row.Zeit1, double(row.ZeitReserve), double(row.Status1)})
-    file.decimal(column);
-  writeNumbers(file, {row.Gast, row.MannschaftNr});
-  file.decimal(row.Zeit2);
-  file.text(plainText(row.Status2));
-}
+  void operator()(int TeilnehmerZeile::*column) const {
+    using Row = TeilnehmerZeile;
+    const bool bare = column == &Row::ZeitReserve || column == &Row::Status1 || column == &Row::Status2;
+    if (bare && m_withResults)
+      m_file.text(plainText(m_row.*column));
+    else if (bare || column == &Row::StartNr || column == &Row::Bezahlt)
+      m_file.number(m_withResults ? m_row.*column : 0);
+    else
+      m_file.number(m_row.*column);
+  }
+  void operator()(qint16 TeilnehmerZeile::*column) const {
+    m_file.number(column == &TeilnehmerZeile::KlasseGenau ? m_row.KlasseReihe : m_row.*column);
+  }
+  void operator()(auto TeilnehmerZeile::*column) const {
+    if (m_withResults)
+      m_file.decimal(m_row.*column);
+    else
+      m_file.number(0);
+  }
 
-void writeClean(TextWriter &file, const TeilnehmerZeile &row) {
-  writeNumbers(file, {row.LaeuferNr, 0, row.KlasseNr, row.VereinNr, row.GruppeNr, 0});
-  writeNumbers(file, {0, 0, 0, 0});
-  writeNumbers(file, {row.Gast, row.MannschaftNr, 0, 0});
-}
+private:
+  TextWriter &m_file;
+  const TeilnehmerZeile &m_row;
+  bool m_withResults;
+};
 
-// The last column is the order number and not the exact class as in every other R file; this is meant.
 QByteArray copiedParticipants(const Store &store, bool withResults) {
   TextWriter file;
-  for (int i = 1; i <= 1000; ++i) {
+  for (const int i : store.Teilnehmer.rows()) {
     const TeilnehmerZeile &row = store.Teilnehmer[i];
     if (row.LaeuferNr == 0)
       continue;
-    if (withResults)
-      writeWithResults(file, row);
-    else
-      writeClean(file, row);
-    writeNumbers(file, {row.Boarder, row.KlasseReihe});
+    forEachColumn(ColumnCopy(file, row, withResults));
     for (int line = 0; line < ReserveLines; ++line)
       file.text({});
   }

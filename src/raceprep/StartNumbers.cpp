@@ -10,7 +10,6 @@
 namespace {
 
 constexpr int NumberWidth = 5;
-constexpr int RowWidth = 5;
 constexpr int KeyWidth = 3;
 constexpr int RowsOfDeletion = 50;
 
@@ -18,7 +17,7 @@ constexpr int RowsOfDeletion = 50;
 // each of them.
 template <typename Wanted, typename Draw> QStringList numberingLines(const Store &store, Wanted wanted, Draw draw) {
   SortedLines lines;
-  for (int row = 1; row <= store.Teilnehmer.last(); ++row) {
+  for (const int row : store.Teilnehmer.rows()) {
     const auto &participant = store.Teilnehmer[row];
     if (!wanted(participant))
       continue;
@@ -44,7 +43,7 @@ void handOut(Store &store, const QStringList &lines, qint64 number, qint64 reser
     key = line.left(KeyWidth);
     if (!fitsColumn(number))
       return store.umgebung.piep();
-    store.Teilnehmer[rowAtEnd(line, RowWidth)].StartNr = int(number);
+    store.Teilnehmer[numberAtEnd(line)].StartNr = int(number);
   }
 }
 
@@ -52,7 +51,7 @@ void handOut(Store &store, const QStringList &lines, qint64 number, qint64 reser
 
 QStringList NummernlisteFuellen(const Store &store) {
   SortedLines lines;
-  for (int row = 1; row <= store.Teilnehmer.last(); ++row)
+  for (const int row : store.Teilnehmer.rows())
     if (const auto athlete = athleteOf(store, store.Teilnehmer[row]))
       lines.add(rightAligned(plainText(store.Teilnehmer[row].StartNr), NumberWidth) + QStringLiteral("  ") +
                 athlete->Name + QStringLiteral("          ") + plainText(row));
@@ -82,7 +81,7 @@ qint64 ersteNummer(const QString &text) {
 }
 
 bool startNrVergeben(const Store &store, int startNr) {
-  for (int row = 1; row <= store.Teilnehmer.last(); ++row)
+  for (const int row : store.Teilnehmer.rows())
     if (store.Teilnehmer[row].StartNr == startNr)
       return true;
   return false;
@@ -96,6 +95,6 @@ bool startNummernVorhanden(const Store &store) {
 }
 
 void startNummernLoeschen(Store &store) {
-  for (int row = 1; row <= store.Teilnehmer.last(); ++row)
+  for (const int row : store.Teilnehmer.rows())
     store.Teilnehmer[row].StartNr = 0;
 }

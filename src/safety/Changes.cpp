@@ -241,7 +241,7 @@ QString Registers::clubOf(int athlete, int choice) const {
 RaceTables tablesOf(const Store &store) {
   RaceTables tables;
   tables.race = store.AktRennen;
-  for (int row = 1; row <= 1000; ++row)
+  for (const int row : store.Teilnehmer.rows())
     if (store.Teilnehmer[row].LaeuferNr != 0)
       tables.participants.append(store.Teilnehmer[row]);
   addNames(tables, "Mannschaft", store.MannschaftName, tables.teams);

@@ -14,5 +14,5 @@ Form13::Form13(Desk &desk, Store &store)
 Form13::~Form13() = default;
 
 void Form13::zeigen() {
-  ui->List2->fill(m_store.ErgebnisZeilen);
+  ui->List2->fill(m_store.rangliste.ErgebnisZeilen);
 }

@@ -165,7 +165,7 @@ ListMode Form7::mode() const {
 }
 
 void Form7::lineChosen(int line) {
-  m_store.TnIdx = participantRow(ui->List2->lines()[line]);
+  m_store.TnIdx = numberAtEnd(ui->List2->lines()[line]);
   setInputsEnabled(m_store.TnIdx != 0);
   if (m_store.TnIdx == 0)
     return;
@@ -180,7 +180,7 @@ void Form7::lineChosen(int line) {
 
 void Form7::returnInList() {
   const int line = ui->List2->chosenLine();
-  if (line >= 0 && participantRow(ui->List2->lines()[line]) != 0)
+  if (line >= 0 && numberAtEnd(ui->List2->lines()[line]) != 0)
     focusTime();
 }
 
@@ -199,8 +199,9 @@ void Form7::showPerson(const TeilnehmerZeile &participant) {
   ui->Label2->setText(shownText(athlete.Name));
   ui->Label14->setText(plainText(yearOf(athlete.Geburtsdatum)));
   ui->Label16->setText(m_store.KlasseName[participant.KlasseNr]);
-  if (athlete.Geschlecht < 2) // of a person without sex the colour stays that of the last one; meant
-    Look::setGround(ui->Label2, QColor(athlete.Geschlecht == 1 ? FarbTabelle::BlassCyan : FarbTabelle::BlassRot));
+  if (athlete.Geschlecht != Sex::NotSet) // of a person without sex the colour stays that of the last one; meant
+    Look::setGround(ui->Label2,
+                    QColor(athlete.Geschlecht == Sex::Male ? FarbTabelle::BlassCyan : FarbTabelle::BlassRot));
   ui->Label19->setText(club ? shownText(trimmedBlanks(club->VereinKurz)) : QString());
   showPair(ui->Label21, ui->Label22, participant.MannschaftNr != 0, m_store.MannschaftName[participant.MannschaftNr]);
   showPair(ui->Label24, ui->Label23, participant.GruppeNr != 0, m_store.GruppeName[participant.GruppeNr]);

@@ -14,7 +14,6 @@
 namespace {
 
 constexpr int GroupLength = 3;
-constexpr int RowLength = 4;
 constexpr auto ValueMask = "0####.#0";
 constexpr double NoBestTime = 99999;
 constexpr double NoBestTimeFirstRun = 999999; // men only, with one digit more; meant
@@ -22,7 +21,7 @@ constexpr int ReversedPlaces = 15;
 constexpr double ReversalPoint = 50000; // seconds
 
 bool anySecondTime(const Store &store) {
-  for (int row = 1; row <= 1000; ++row)
+  for (const int row : store.Teilnehmer.rows())
     if (store.Teilnehmer[row].Zeit2 > 0)
       return true;
   return false;
@@ -47,7 +46,7 @@ double withSurcharges(const RennenSatz &race, const LaeuferSatz &athlete, const 
                       double seconds) {
   if (participant.Gast == 1)
     seconds += race.ZuschlagGast;
-  if (athlete.Geschlecht == 1)
+  if (athlete.Geschlecht == Sex::Male)
     seconds += race.ZuschlagMann;
   return seconds;
 }
@@ -82,17 +81,17 @@ public:
   explicit ResultWalk(Store &store) : m_store(store) {}
 
   void take(const QString &key) {
-    const int row = rowAtEnd(key, RowLength);
+    const int row = numberAtEnd(key);
     auto &participant = m_store.Teilnehmer[row];
-    m_store.RangListe[++m_line] = row;
+    m_store.rangliste.RangListe[++m_line] = row;
     const LaeuferSatz athlete = LaeuferLesen(m_store, participant.LaeuferNr);
     if (const int group = groupOf(key); group != m_group)
       startGroup(group, participant);
     takeBestTime(athlete.Geschlecht, participant);
     setPlace(participant);
     if (participant.KlasseKopf == 1)
-      m_store.ErgebnisZeilen << QString() << headLine();
-    m_store.ErgebnisZeilen << resultLine(athlete.Name, participant);
+      m_store.rangliste.ErgebnisZeilen << QString() << headLine();
+    m_store.rangliste.ErgebnisZeilen << resultLine(athlete.Name, participant);
   }
 
 private:
@@ -107,10 +106,10 @@ private:
   void takeBestTime(int sex, const TeilnehmerZeile &participant) {
     if (participant.KlasseNr - 1 < m_store.Rennen.BestzeitAbKlasse)
       return;
-    if (sex == 0)
-      m_store.BestzeitDamen = std::min(m_store.BestzeitDamen, participant.WertSumme);
-    if (sex == 1)
-      m_store.BestzeitHerren = std::min(m_store.BestzeitHerren, participant.WertSumme);
+    if (sex == Sex::Female)
+      m_store.rangliste.BestzeitDamen = std::min(m_store.rangliste.BestzeitDamen, participant.WertSumme);
+    if (sex == Sex::Male)
+      m_store.rangliste.BestzeitHerren = std::min(m_store.rangliste.BestzeitHerren, participant.WertSumme);
   }
 
   // A shared place is decided by the first run alone, also with two runs and with points; this is meant.
@@ -155,10 +154,10 @@ private:
 };
 
 void resetPlaces(Store &store) {
-  store.RangListe.fill(0);
-  for (int row = 1; row <= 1000; ++row)
+  store.rangliste.RangListe.fill(0);
+  for (const int row : store.Teilnehmer.rows())
     store.Teilnehmer[row].Rang = 0;
-  store.BestzeitDamen = store.BestzeitHerren = NoBestTime;
+  store.rangliste.BestzeitDamen = store.rangliste.BestzeitHerren = NoBestTime;
 }
 
 // The last time is not reset at a new group, and a group that begins with it begins with place 1 all the same; meant.
@@ -166,9 +165,9 @@ void walkFirstRun(Store &store, const QStringList &keys) {
   int line = 0, lastGroup = -1, place = 0;
   double lastTime = 0;
   for (const QString &key : keys) {
-    const int row = rowAtEnd(key, RowLength);
+    const int row = numberAtEnd(key);
     auto &participant = store.Teilnehmer[row];
-    store.RangListe[++line] = row;
+    store.rangliste.RangListe[++line] = row;
     if (const int group = groupOf(key); group != lastGroup) {
       lastGroup = group;
       place = 0;
@@ -184,10 +183,10 @@ void walkFirstRun(Store &store, const QStringList &keys) {
 } // namespace
 
 void ErgebnisRechnen(Store &store, std::optional<int> clubFilter) {
-  store.ErgebnisZeilen.clear();
+  store.rangliste.ErgebnisZeilen.clear();
   SortedLines keys;
   const bool secondTimesExist = anySecondTime(store);
-  for (int row = 1; row <= 1000; ++row) {
+  for (const int row : store.Teilnehmer.rows()) {
     auto &participant = store.Teilnehmer[row];
     clearValues(participant);
     if (!hasResult(participant, secondTimesExist))
@@ -206,19 +205,19 @@ void ErgebnisRechnen(Store &store, std::optional<int> clubFilter) {
 
 void Rangfolge1(Store &store) {
   SortedLines keys;
-  for (int row = 1; row <= 1000; ++row) {
+  for (const int row : store.Teilnehmer.rows()) {
     auto &participant = store.Teilnehmer[row];
     participant.WertZeit1 = 0;
-    if (participant.Status1 > 0)
+    if (participant.Status1 > Status::Ok)
       continue;
     if (const auto athlete = athleteOf(store, participant)) {
       participant.WertZeit1 = withSurcharges(store.Rennen, *athlete, participant, participant.Zeit1);
       keys.add(rankKey(store, row, athlete->Name, participant.WertZeit1));
     }
   }
-  store.ErgebnisZeilen.clear();
-  store.BestzeitDamen = NoBestTime;
-  store.BestzeitHerren = NoBestTimeFirstRun;
+  store.rangliste.ErgebnisZeilen.clear();
+  store.rangliste.BestzeitDamen = NoBestTime;
+  store.rangliste.BestzeitHerren = NoBestTimeFirstRun;
   walkFirstRun(store, keys.take());
 }
 

@@ -7,7 +7,6 @@
 
 namespace {
 
-constexpr int RowLength = 5;
 constexpr auto TimeMask = "0####.#0";
 
 QString startNumber(const TeilnehmerZeile &participant) {
@@ -43,9 +42,9 @@ QString keyPrefix(const Store &store, int row, ListMode mode) {
 
 QStringList sortedKeys(const Store &store, ListMode mode) {
   SortedLines keys;
-  for (int row = 1; row <= 1000; ++row) {
+  for (const int row : store.Teilnehmer.rows()) {
     const auto &participant = store.Teilnehmer[row];
-    if (mode == ListMode::ZweiterDurchgang && participant.Status1 > 0)
+    if (mode == ListMode::ZweiterDurchgang && participant.Status1 > Status::Ok)
       continue;
     if (const auto athlete = athleteOf(store, participant))
       keys.add(keyPrefix(store, row, mode) + QLatin1Char(' ') + athlete->Name + QString(11, QLatin1Char(' ')) +
@@ -89,7 +88,7 @@ QStringList ZeitlisteFuellen(Store &store, ListMode mode) {
   QStringList lines;
   qint64 lastClass = -1;
   for (const QString &key : sortedKeys(store, mode)) {
-    const auto &participant = store.Teilnehmer[participantRow(key)];
+    const auto &participant = store.Teilnehmer[numberAtEnd(key)];
     const qint64 klasse = wholeNumber(QStringView(key).left(3));
     if (byClass && klasse != lastClass)
       lines << headLine(store, participant);
@@ -97,8 +96,4 @@ QStringList ZeitlisteFuellen(Store &store, ListMode mode) {
     lines << lineOf(key, participant, mode);
   }
   return lines;
-}
-
-int participantRow(QStringView line) {
-  return rowAtEnd(line, RowLength);
 }

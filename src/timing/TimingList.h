@@ -8,11 +8,8 @@
 enum class ListMode { Startnummer, Zeiten, KlasseStartnummer, KlasseZeit, ZweiterDurchgang };
 
 /// Ranks the race (ZweiterDurchgang: its first run) and gives the lines of the participants' list. A participant's line
-/// ends in eleven blanks and his row; where classes stand together, a head line of dashes precedes each. Rows without
-/// the status "ok" in the first run are left out of ZweiterDurchgang.
+/// ends in eleven blanks and his row; where classes stand together, a head line of dashes precedes each, which ends in
+/// no number. Rows without the status "ok" in the first run are left out of ZweiterDurchgang.
 ///
 /// ZweiterDurchgang of a race by groups ends in a RangeFault if a row above 100 is listed.
 QStringList ZeitlisteFuellen(Store &store, ListMode mode);
-
-/// The participant row of a line, 0 for a head line.
-int participantRow(QStringView line);

@@ -24,13 +24,13 @@ protected:
   /// That many persons of the classes 0 and 8, all with the same total.
   QStringList people(int first, int second) {
     QStringList names;
-    store.CupRunden = 1;
+    store.cup.CupRunden = 1;
     for (int person = 1; person <= first + second; ++person) {
-      store.CupLaeufer[person] = 1;
-      store.CupKlasse[person] = person <= first ? 0 : 8;
+      store.cup.CupLaeufer[person] = 1;
+      store.cup.CupKlasse[person] = person <= first ? 0 : 8;
       names << QStringLiteral("Name %1").arg(person, 3);
     }
-    return cupSchluessel(store, names);
+    return cupSchluessel(store.cup, names);
   }
 
   TestStore test;
@@ -62,10 +62,10 @@ TEST_F(CupListTest, pagesBreakByRowAndByClass) {
 // With hours, of one round more than fit as told up to the most there can be.
 TEST_F(CupListTest, manyRoundsStayReadableAndInsideTheFrame) {
   const QStringList keys = people(30, 0);
-  for (store.CupRunden = 6; store.CupRunden <= 10; ++store.CupRunden) {
-    for (int round = 1; round <= store.CupRunden; ++round) {
-      store.CupZeit(1, round) = 36000 + round;
-      store.CupPunkte(1, round) = 100;
+  for (store.cup.CupRunden = 6; store.cup.CupRunden <= 10; ++store.cup.CupRunden) {
+    for (int round = 1; round <= store.cup.CupRunden; ++round) {
+      store.cup.CupZeit(1, round) = 36000 + round;
+      store.cup.CupPunkte(1, round) = 100;
     }
     print(keys);
     double right = 0;
@@ -79,7 +79,7 @@ TEST_F(CupListTest, manyRoundsStayReadableAndInsideTheFrame) {
           right = end;
         }
       }
-    EXPECT_GT(right, 240) << store.CupRunden;
+    EXPECT_GT(right, 240) << store.cup.CupRunden;
     EXPECT_EQ(printed.pages.size(), 2);
   }
 }

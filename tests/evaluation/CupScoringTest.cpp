@@ -13,11 +13,11 @@ struct Round {
 constexpr int Absent = 99;
 
 void setRuns(Store &store, int person, const QList<Round> &runs) {
-  store.CupRunden = int(runs.size());
-  for (int round = 1; round <= store.CupRunden; ++round) {
-    store.CupRang(person, round) = runs[round - 1].rang;
-    store.CupZeit(person, round) = runs[round - 1].zeit;
-    store.CupStatus(person, round) = runs[round - 1].status;
+  store.cup.CupRunden = int(runs.size());
+  for (int round = 1; round <= store.cup.CupRunden; ++round) {
+    store.cup.CupRang(person, round) = runs[round - 1].rang;
+    store.cup.CupZeit(person, round) = runs[round - 1].zeit;
+    store.cup.CupStatus(person, round) = runs[round - 1].status;
   }
 }
 
@@ -40,23 +40,23 @@ TEST_F(CupScoringTest, strikes) {
                {"nothing without a time", {{0, 0}, {0, 0}}, 1, ".."}};
   for (const auto &[what, runs, count, expected] : cases) {
     setRuns(store, 1, runs); // what the case before struck is taken back
-    resultateStreichen(store, 1, count);
+    resultateStreichen(store.cup, 1, count);
     std::string struck;
-    for (int round = 1; round <= store.CupRunden; ++round)
-      struck += store.CupStreich(1, round) == 1 ? 'X' : '.';
+    for (int round = 1; round <= store.cup.CupRunden; ++round)
+      struck += store.cup.CupStreich(1, round) == 1 ? 'X' : '.';
     EXPECT_EQ(struck, expected) << what;
   }
 }
 
 TEST_F(CupScoringTest, pointsComeFromTheTableAndNotForStruckOrMissedResults) {
-  store.CupPunkteTabelle[1] = 20;
-  store.CupPunkteTabelle[3] = -2;
-  store.CupPunkteTabelle[99] = store.CupPunkteTabelle[100] = 7;
+  store.cup.CupPunkteTabelle[1] = 20;
+  store.cup.CupPunkteTabelle[3] = -2;
+  store.cup.CupPunkteTabelle[99] = store.cup.CupPunkteTabelle[100] = 7;
   setRuns(store, 1, {{1, 50}, {1, 50}, {3, 50}, {100, 50}, {101, 50}, {0, 0}, {99, 0, 1}});
-  store.CupStreich(1, 2) = 1;
-  punkteVergeben(store, 1);
+  store.cup.CupStreich(1, 2) = 1;
+  punkteVergeben(store.cup, 1);
   QList<int> points;
-  for (int round = 0; round <= store.CupRunden; ++round)
-    points << store.CupPunkte(1, round);
+  for (int round = 0; round <= store.cup.CupRunden; ++round)
+    points << store.cup.CupPunkte(1, round);
   EXPECT_EQ(points, (QList<int>{25, 20, 0, -2, 7, 0, 0, 0}));
 }

@@ -18,14 +18,14 @@ TEST_F(CupTest, threeRacesWorkedOutByHand) {
   EXPECT_EQ(result.schluessel.first(), QStringLiteral("  09949 ADAM Ada       5"));
   EXPECT_EQ(result.schluessel.last(), QStringLiteral("  89939 FUCHS Lea       6"));
   EXPECT_EQ(result.zeilen, cup.lines);
-  EXPECT_EQ(store.CupRang(5, 4), 99);
-  EXPECT_EQ(store.CupZeit(1, 3), 31);
+  EXPECT_EQ(store.cup.CupRang(5, 4), 99);
+  EXPECT_EQ(store.cup.CupZeit(1, 3), 31);
 }
 
 TEST_F(CupTest, aSmallerCupKeepsNobodyOfTheOneBefore) {
   cupAuswerten(store, {1}, 0);
   cupAuswerten(store, {3}, 0);
-  EXPECT_EQ(store.CupLaeufer[5], 0);
+  EXPECT_EQ(store.cup.CupLaeufer[5], 0);
 }
 
 TEST_F(CupTest, theLastMarkedRaceGivesCriteriaAndTheFirstTheClass) {
@@ -35,11 +35,11 @@ TEST_F(CupTest, theLastMarkedRaceGivesCriteriaAndTheFirstTheClass) {
   RennDatenSpeichern(store);
   addResults(test, QStringLiteral("Klassen"), {{young, 50}, {1, 49}}, [](RennenSatz &race) { race.ZuschlagMann = 2; });
   cupAuswerten(store, {5, 4}, 0); // by groups: one ranking, no surcharge
-  EXPECT_EQ(store.CupRang(1, 2), 2);
-  EXPECT_EQ(store.CupZeit(1, 2), 50);
-  EXPECT_EQ(store.CupKlasse[1], 8);
+  EXPECT_EQ(store.cup.CupRang(1, 2), 2);
+  EXPECT_EQ(store.cup.CupZeit(1, 2), 50);
+  EXPECT_EQ(store.cup.CupKlasse[1], 8);
   cupAuswerten(store, {4}, 0);
-  EXPECT_EQ(store.CupKlasse[1], 0);
+  EXPECT_EQ(store.cup.CupKlasse[1], 0);
 }
 
 TEST_F(CupTest, aClassBehindTheTableHasNoNameAndKeepsItsOrder) {
@@ -57,8 +57,8 @@ TEST_F(CupTest, aNameIsOnePersonAndTheFirstOneGetsTheResults) {
   addResults(test, QStringLiteral("Namen"), {{nobody, 1}, {twin, 40}, {1, 39}, {lower, 41}, {twin, 42}});
   const CupErgebnis result = cupAuswerten(store, {4}, 0);
   EXPECT_EQ(result.namen, (QStringList{QStringLiteral("ADAM Ada"), QStringLiteral("adam ada")}));
-  EXPECT_EQ(store.CupLaeufer[1], twin);
-  EXPECT_EQ(store.CupZeit(1, 1), 42) << "of two rows the last";
+  EXPECT_EQ(store.cup.CupLaeufer[1], twin);
+  EXPECT_EQ(store.cup.CupZeit(1, 1), 42) << "of two rows the last";
 }
 
 TEST_F(CupTest, moreThanTenRoundsAreARangeFaultAndNoRaceIsTakenForTheWorkingTables) {
@@ -68,10 +68,10 @@ TEST_F(CupTest, moreThanTenRoundsAreARangeFaultAndNoRaceIsTakenForTheWorkingTabl
 
 TEST_F(CupTest, cupFile) {
   CupAuswahl chosen = cupLaden(store);
-  store.CupPunkteTabelle[2] = 0;
-  store.CupPunkteTabelle[100] = -7;
-  EXPECT_EQ(punkteZeilen(store, false).size(), 8);
-  EXPECT_EQ(punkteZeilen(store, true).last(), QStringLiteral("Platz 100: -7 P."));
+  store.cup.CupPunkteTabelle[2] = 0;
+  store.cup.CupPunkteTabelle[100] = -7;
+  EXPECT_EQ(punkteZeilen(store.cup, false).size(), 8);
+  EXPECT_EQ(punkteZeilen(store.cup, true).last(), QStringLiteral("Platz 100: -7 P."));
   chosen = {QStringLiteral("  Cup, groß "), {12, 3}};
   cupSpeichern(store, chosen);
   const QByteArray bytes = test.file(QStringLiteral("Cup.dat"));
@@ -81,9 +81,9 @@ TEST_F(CupTest, cupFile) {
   const CupAuswahl read = cupLaden(store);
   EXPECT_EQ(read.bezeichnung, QStringLiteral("Cup, groß"));
   EXPECT_EQ(read.rennen, chosen.rennen);
-  EXPECT_EQ(store.CupPunkteTabelle[100], -7);
+  EXPECT_EQ(store.cup.CupPunkteTabelle[100], -7);
   test.writeFile(QStringLiteral("Cup.dat"), "Kurz\r\n 5 \r\n");
   EXPECT_TRUE(cupLaden(store).rennen.isEmpty());
-  EXPECT_EQ(punkteZeilen(store, true).mid(0, 2),
+  EXPECT_EQ(punkteZeilen(store.cup, true).mid(0, 2),
             (QStringList{QStringLiteral("Platz 1:  5 P."), QStringLiteral("Platz 2:  15 P.")}));
 }

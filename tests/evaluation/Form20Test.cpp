@@ -53,7 +53,7 @@ TEST_F(Form20Test, pointsAreTypedDownTheTable) {
   EXPECT_EQ(lines("List2").last(), QStringLiteral("Platz 9:  2 P."));
   type("Text2", "99999");
   EXPECT_EQ(test.beeps, 1);
-  EXPECT_EQ(store.CupPunkteTabelle[10], 9999);
+  EXPECT_EQ(store.cup.CupPunkteTabelle[10], 9999);
   type("Text1", "300");
   EXPECT_EQ(text("Text1"), QStringLiteral("100"));
 }

@@ -27,5 +27,5 @@ TEST_F(Series, TheSecondRunMovesForwardInEveryRow) {
 TEST_F(Series, EveryExactClassIsRemembered) {
   store.KlasseGenauName[0] = store.KlasseGenauName[159] = QStringLiteral("Klasse");
   klassenNamenMerken(store);
-  EXPECT_EQ(store.CupKlasseName[0] + store.CupKlasseName[159], QStringLiteral("KlasseKlasse"));
+  EXPECT_EQ(store.cup.CupKlasseName[0] + store.cup.CupKlasseName[159], QStringLiteral("KlasseKlasse"));
 }

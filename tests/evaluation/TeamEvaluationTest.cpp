@@ -14,7 +14,7 @@ protected:
   QList<int> gezaehlt() const {
     QList<int> rows;
     for (int row = 1; row <= 1000; ++row)
-      if (store.WertGezaehlt[row] == 1)
+      if (store.mannschaften.WertGezaehlt[row] == 1)
         rows << row;
     return rows;
   }
@@ -54,7 +54,7 @@ TEST_F(TeamEvaluationTest, sumOfTheBestPutsIncompleteUnitsBehind) {
   store.Teilnehmer[1].Zeit1 = 40.004;
   store.Teilnehmer[2].Zeit1 = 80.004;
   teamWertung(store, {Einheit::Mannschaft, WertungsArt::ZeitsummeDerBesten, Gemischt, 2});
-  EXPECT_EQ(store.WertErgebnis[7], 120) << "added as they are listed";
+  EXPECT_EQ(store.mannschaften.WertErgebnis[7], 120) << "added as they are listed";
   wertungVorbereiten(store);
   EXPECT_TRUE(gezaehlt().isEmpty()) << "the next opening marks nobody";
 }
@@ -71,12 +71,12 @@ TEST_F(TeamEvaluationTest, membersInTheirOrders) {
 }
 
 TEST_F(TeamEvaluationTest, rowsKeepTheClubOfAnEarlierRaceButCountForNobody) {
-  store.VereinRecNr[6] = 2;
+  store.mannschaften.VereinRecNr[6] = 2;
   store.Teilnehmer[4].VereinNr = 4; // none here: keeps club 2 and counts for it
   store.Teilnehmer[3].VereinNr = 0;
   wertungVorbereiten(store);
-  EXPECT_EQ(store.WertVereinIdx[4], 2);
-  EXPECT_EQ(store.WertVereinIdx[6], 0);
+  EXPECT_EQ(store.mannschaften.WertVereinIdx[4], 2);
+  EXPECT_EQ(store.mannschaften.WertVereinIdx[6], 0);
   EXPECT_EQ(teamWertung(store, {}).last().left(10), QStringLiteral("     42,00"));
   EXPECT_EQ(mitgliederZeilen(store, {}, 2, Alphabetisch).size(), 3);
 }
@@ -92,10 +92,10 @@ TEST_F(TeamEvaluationTest, furtherClubsTakeTheHundredthNumber) {
   for (int i = 3; i <= 102; ++i)
     race.add(qPrintable(QStringLiteral("LÄUFER %1").arg(i)), 0, test.addClub(QStringLiteral("Klub %1").arg(i)), 0, 50);
   wertungVorbereiten(store);
-  EXPECT_EQ(store.WertVerein[99], 99);
-  EXPECT_EQ(store.WertVerein[100], 102);
-  EXPECT_EQ(store.WertVereinIdx[6 + 98], 0) << "club 100 has lost its number";
-  EXPECT_EQ(store.WertVereinIdx[6 + 100], 100);
+  EXPECT_EQ(store.mannschaften.WertVerein[99], 99);
+  EXPECT_EQ(store.mannschaften.WertVerein[100], 102);
+  EXPECT_EQ(store.mannschaften.WertVereinIdx[6 + 98], 0) << "club 100 has lost its number";
+  EXPECT_EQ(store.mannschaften.WertVereinIdx[6 + 100], 100);
   EXPECT_EQ(vereinsZeilen(store).size(), 100);
 }
 
@@ -108,7 +108,7 @@ TEST_F(TeamEvaluationTest, theLastRowAndTheLastUnitsCount) {
   store.MannschaftName[100] = store.GruppeName[100] = QStringLiteral("Letzte");
   store.Teilnehmer[6].MannschaftNr = 9; // which has no name
   wertungVorbereiten(store);
-  EXPECT_EQ(store.WertVereinIdx[1000], 3);
+  EXPECT_EQ(store.mannschaften.WertVereinIdx[1000], 3);
   EXPECT_EQ(mannschaftsZeilen(store).size(), 3);
   EXPECT_EQ(mannschaftsZeilen(store).last(), QStringLiteral("  2 Letzte             100"));
   EXPECT_EQ(gruppenZeilen(store).last(), QStringLiteral("Letzte"));
@@ -116,6 +116,6 @@ TEST_F(TeamEvaluationTest, theLastRowAndTheLastUnitsCount) {
       {WertungsArt::Bestzeit, 50}, {WertungsArt::Durchschnitt, 60}, {WertungsArt::ZeitsummeDerBesten, 120}};
   for (const auto &[art, value] : values) {
     teamWertung(store, {Einheit::Mannschaft, art, NurMaennlich, 2});
-    EXPECT_EQ(store.WertErgebnis[100], value);
+    EXPECT_EQ(store.mannschaften.WertErgebnis[100], value);
   }
 }

@@ -11,7 +11,7 @@ protected:
     wertungVorbereiten(store);
     const TeamListe liste{wertung, teamWertung(store, wertung)};
     Mannschaftsliste(store, druck, liste, [&](int line) {
-      return mitgliederZeilen(store, wertung, einheitAmEnde(liste.einheiten[line]), MitgliederOrdnung::NachZeit);
+      return mitgliederZeilen(store, wertung, numberAtEnd(liste.einheiten[line]), MitgliederOrdnung::NachZeit);
     });
     return asText(printed);
   }

@@ -21,7 +21,7 @@ protected:
   QList<double> blockOf(int row) const {
     QList<double> times;
     for (int round = 0; round <= 3; ++round)
-      times << store.CupZeit(row, round);
+      times << store.cup.CupZeit(row, round);
     return times;
   }
 
@@ -58,7 +58,7 @@ TEST_F(TimeSumTest, whoIsMissingOrHasNoResultInARaceFallsOut) {
 TEST_F(TimeSumTest, aSumThatNoFileGivesBackIsNoTime) {
   for (const char *name : {"A", "B"})
     addResults(test, QLatin1String(name), {{a, 1e308}, {b, 1}});
-  store.CupStatus(2, 0) = 3; // of an earlier sum
+  store.cup.CupStatus(2, 0) = 3; // of an earlier sum
   zeitsummeErzeugen(store, {2, 1}, 3);
   EXPECT_EQ(generated(), (QList<std::pair<double, int>>{{0, 0}, {2, 0}}));
   singleTimesLaden(store);
@@ -79,7 +79,7 @@ TEST_F(TimeSumTest, surchargesComeFromTheRaceBefore) {
   zeitsummeErzeugen(store, {3, 2, 1}, 5);
   EXPECT_EQ(blockOf(1), (QList<double>{102, 37, 35, 30}));
   zeitsummeErzeugen(store, {2, 1}, 6); // nothing of the larger one is left
-  EXPECT_EQ(store.ZeitsummeRennenKurz[2] + store.ZeitsummeRennenKurz[3], QStringLiteral("B"));
+  EXPECT_EQ(store.cup.ZeitsummeRennenKurz[2] + store.cup.ZeitsummeRennenKurz[3], QStringLiteral("B"));
 }
 
 TEST_F(TimeSumTest, numberOfTheNewRace) {

@@ -19,7 +19,12 @@ TEST(Numbers, WholeNumberRoundsHalvesToEven) {
   EXPECT_EQ(wholeNumber(u"13.5"), 14);
   EXPECT_EQ(wholeNumber(u"13,5"), 13);
   EXPECT_EQ(wholeNumber(u"99999999999999999999"), 1'000'000'000'000'000);
-  EXPECT_EQ(rowAtEnd(u"0007  MAIER Anna           12", 5), 12);
+  for (const auto &[line, number] : {std::pair(u"0007  MAIER Anna           12", 12),
+                                     {u"7 A 1000", 1000},
+                                     {u"A    0007000123", 123},
+                                     {u"--- U8 ---", 0},
+                                     {u"", 0}})
+    EXPECT_EQ(numberAtEnd(line), number);
 }
 
 TEST(Numbers, RegionalNumberTakesAllOrNothing) {

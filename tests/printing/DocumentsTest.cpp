@@ -118,10 +118,10 @@ TEST_F(DocumentsTest, TwoRunsByClasses) {
   Urkunde(store, druck, 5, {});
   printLists();
   Titelblatt(store, druck, {});
-  store.ZeitsummeRennenKurz[1] = QStringLiteral("Slalom");
-  store.ZeitsummeRennenKurz[2] = QStringLiteral("Super-G");
-  store.CupZeit(5, 1) = 15;
-  store.CupZeit(5, 2) = 25;
+  store.cup.ZeitsummeRennenKurz[1] = QStringLiteral("Slalom");
+  store.cup.ZeitsummeRennenKurz[2] = QStringLiteral("Super-G");
+  store.cup.CupZeit(5, 1) = 15;
+  store.cup.CupZeit(5, 2) = 25;
   singleTimesSpeichern(store);
   Ergebnisliste(store, druck, 1);
   EXPECT_EQ(documents, 8);

@@ -188,6 +188,6 @@ QStringList factsOf(const QString &folder) {
   const auto cup = cupLaden(store);
   facts.add(QStringLiteral("Cup"), cup.bezeichnung);
   for (int place = 1; place <= 9; ++place)
-    facts.add(QStringLiteral("Cup %1").arg(place), store.CupPunkteTabelle[place]);
+    facts.add(QStringLiteral("Cup %1").arg(place), store.cup.CupPunkteTabelle[place]);
   return facts.lines;
 }

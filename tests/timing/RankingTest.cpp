@@ -29,8 +29,8 @@ protected:
 
   Rows order() const {
     Rows result;
-    for (int line = 1; store.RangListe[line] != 0; ++line)
-      result << store.RangListe[line];
+    for (int line = 1; store.rangliste.RangListe[line] != 0; ++line)
+      result << store.rangliste.RangListe[line];
     return result;
   }
 };
@@ -41,11 +41,11 @@ TEST_F(RankingTest, listsOneRunWithTiesAndDifferences) {
   enter("MOSER Ida", {.Zeit1 = 90.004});
   enter("AUER Li", {.Zeit1 = 90.001});
   enter("ERSTER Max", {.Zeit1 = 3661, .KlasseGenau = 1, .KlasseReihe = 2});
-  store.RangListe[6] = 77;
+  store.rangliste.RangListe[6] = 77;
   ErgebnisRechnen(store);
   EXPECT_EQ(order(), (Rows{2, 1, 4, 3, 5}));
   EXPECT_EQ(places(), (Rows{1, 1, 4, 3, 1}));
-  EXPECT_EQ(store.ErgebnisZeilen.join(QLatin1Char('\n')).toStdString(), R"(
+  EXPECT_EQ(store.rangliste.ErgebnisZeilen.join(QLatin1Char('\n')).toStdString(), R"(
 Rang--Name------------------Startnr.-Klasse-----------Zeit----Diff.
    1. ADAM Rosa-Maria Theresia   100 Klasse 0        83,50     0,00
    2. ZAHN Eva                   100 Klasse 0        83,50     0,00
@@ -63,7 +63,7 @@ TEST_F(RankingTest, twoRunsTieByTheFirstRunOfNeighbours) {
   enter("C", {.Zeit1 = 51, .Zeit2 = 50});
   ErgebnisRechnen(store);
   EXPECT_EQ(places(), (Rows{1, 1, 3}));
-  EXPECT_EQ(store.ErgebnisZeilen.last(),
+  EXPECT_EQ(store.rangliste.ErgebnisZeilen.last(),
             QStringLiteral("   3. C                          100 Klasse 0        51,00    50,00   101,00     1,00"));
 }
 
@@ -94,7 +94,7 @@ TEST_F(RankingTest, surchargesAndBestTimes) {
   enter("D", {.KlasseNr = 2, .Zeit1 = 41}, 2);
   ErgebnisRechnen(store);
   EXPECT_EQ(std::pair(guest.WertZeit1, guest.WertZeit2), std::pair(1., 0.));
-  EXPECT_EQ(std::pair(store.BestzeitDamen, store.BestzeitHerren), std::pair(45., 1.));
+  EXPECT_EQ(std::pair(store.rangliste.BestzeitDamen, store.rangliste.BestzeitHerren), std::pair(45., 1.));
 }
 
 TEST_F(RankingTest, pointsRankLowestFirstInGroups) {
@@ -104,7 +104,8 @@ TEST_F(RankingTest, pointsRankLowestFirstInGroups) {
   enter("A", {.GruppeNr = 7, .Punkte = 0, .Zeit1 = 50});
   ErgebnisRechnen(store);
   EXPECT_EQ(order(), (Rows{2, 1}));
-  EXPECT_EQ(store.ErgebnisZeilen.last(), QStringLiteral("   2. A                          100 Gruppe der B 00002,50"));
+  EXPECT_EQ(store.rangliste.ErgebnisZeilen.last(),
+            QStringLiteral("   2. A                          100 Gruppe der B 00002,50"));
 }
 
 TEST_F(RankingTest, firstRunIsDenseAndCarriesTheLastTimeOn) {
@@ -115,11 +116,11 @@ TEST_F(RankingTest, firstRunIsDenseAndCarriesTheLastTimeOn) {
   enter("E", {.Zeit1 = 55, .Status1 = 1, .Rang = 12});
   enter("F", {.Zeit1 = 60, .KlasseReihe = 2});
   enter("G", {.Zeit1 = 61, .KlasseReihe = 2});
-  store.RangListe[7] = 77;
+  store.rangliste.RangListe[7] = 77;
   Rangfolge1(store);
   EXPECT_EQ(order(), (Rows{1, 2, 3, 4, 6, 7, 77}));
   EXPECT_EQ(places(), (Rows{1, 2, 2, 3, 12, 1, 2}));
-  EXPECT_EQ(store.BestzeitHerren, 999999);
+  EXPECT_EQ(store.rangliste.BestzeitHerren, 999999);
 }
 
 TEST_F(RankingTest, theLastRowIsOneLikeTheOthers) {

@@ -14,7 +14,6 @@
 
 namespace {
 
-constexpr int NumberLength = 6;
 constexpr int GapBeforeNumber = 5;
 constexpr int GoodHeight = 22;      // lines
 constexpr int SmallestPercent = 80; // of the good width
@@ -130,7 +129,7 @@ void LineList::chooseByNumber(int number) {
 
 int LineList::lineOfNumber(int number) const {
   const auto found = std::find_if(lines().begin(), lines().end(),
-                                  [number](const QString &line) { return rowAtEnd(line, NumberLength) == number; });
+                                  [number](const QString &line) { return numberAtEnd(line) == number; });
   return found == lines().end() ? -1 : int(found - lines().begin());
 }
 
@@ -197,7 +196,7 @@ QModelIndex LineList::aimedAt(QPoint at) {
     return {};
   const bool numbered =
       !before[line].isEmpty() && before[line].back().isDigit(); // other lines are known by their position alone
-  return m_model.index(numbered ? lineOfNumber(rowAtEnd(before[line], NumberLength)) : line);
+  return m_model.index(numbered ? lineOfNumber(numberAtEnd(before[line])) : line);
 }
 
 // With nothing chosen yet, Qt would go to the first line by every key.
