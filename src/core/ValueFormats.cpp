@@ -27,6 +27,11 @@ ZeitTeile ZeitZerlegen(double seconds) {
   return parts;
 }
 
+std::optional<double> joinedTime(const QString &hours, const QString &minutes, const QString &seconds) {
+  const auto h = regionalNumber(hours), m = regionalNumber(minutes), s = regionalNumber(seconds);
+  return h && m && s ? std::optional(3600 * *h + 60 * *m + *s) : std::nullopt;
+}
+
 QString ZeitText(double seconds) {
   const ZeitTeile parts = ZeitZerlegen(seconds);
   QString text = spacedText(parts.ZeitStd) + QLatin1Char(':') + masked(parts.ZeitMin, "0#") + QLatin1Char(':') +
@@ -45,6 +50,11 @@ QString KommaEingabe(const QString &text) {
   if (point >= 0)
     result[point] = QLatin1Char(',');
   return result;
+}
+
+QString secondsEntry(const QString &text) {
+  const bool asIs = !text.contains(QLatin1Char('.')) && !trimmedBlanks(text).isEmpty();
+  return asIs ? text : KommaEingabe(text);
 }
 
 QString WertText8(double value) {

@@ -131,6 +131,22 @@ QStringList punkteZeilen(const CupTabellen &cup, bool auchNegative) {
   return lines;
 }
 
+int heldPlace(const QString &typed) {
+  return int(std::clamp<qint64>(wholeNumber(typed), 1, decltype(CupTabellen::CupPunkteTabelle)::last()));
+}
+
+QString pointsText(const CupTabellen &cup, int place) {
+  const int points = cup.CupPunkteTabelle[place];
+  return points == 0 ? QString() : plainText(points);
+}
+
+bool storePoints(CupTabellen &cup, int place, const QString &typed) {
+  const auto points = shortNumber(typed);
+  if (points)
+    cup.CupPunkteTabelle[place] = *points;
+  return points.has_value();
+}
+
 CupAuswahl cupLaden(Store &store) {
   store.cup.CupPunkteTabelle.fill(0);
   int place = 0;

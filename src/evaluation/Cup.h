@@ -29,6 +29,13 @@ QStringList teilnehmerZeilen(const QStringList &names);
 /// Lines of the points table: the places with more than 0 points; with `auchNegative` all that are not 0.
 QStringList punkteZeilen(const CupTabellen &cup, bool auchNegative);
 
+/// The place that a typed text stands for, held to the points table.
+int heldPlace(const QString &typed);
+/// The points of a place as the editor shows them: nothing for 0.
+QString pointsText(const CupTabellen &cup, int place);
+/// Stores typed points of a place, leading number, 16 bits; false, and nothing is stored, for more.
+bool storePoints(CupTabellen &cup, int place, const QString &typed);
+
 /// What Cup.dat holds beside the points table.
 struct CupAuswahl {
   QString bezeichnung;

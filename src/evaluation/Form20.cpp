@@ -12,8 +12,6 @@
 
 #include <QMouseEvent>
 
-#include <algorithm>
-
 Form20::Form20(Desk &desk, Store &store, Printers &printers)
     : Screen(desk, QStringLiteral("Form20"), 20), m_store(store), m_printers(printers),
       ui(std::make_unique<Ui::Form20>()), m_openRace(store.AktRennen) {
@@ -76,7 +74,7 @@ void Form20::marksChanged() {
 }
 
 int Form20::place() const {
-  return int(std::clamp<qint64>(wholeNumber(trimmedBlanks(ui->Text1->text())), 1, 100));
+  return heldPlace(ui->Text1->text());
 }
 
 void Form20::placeChanged() {
@@ -84,15 +82,12 @@ void Form20::placeChanged() {
   ui->Text2->setEnabled(true);
   if (const QString held = plainText(place()); ui->Text1->text() != held)
     ui->Text1->setText(held);
-  const int points = m_store.cup.CupPunkteTabelle[place()];
-  ui->Text2->setText(points == 0 ? QString() : plainText(points));
+  ui->Text2->setText(pointsText(m_store.cup, place()));
 }
 
 void Form20::pointsChanged() {
   lockPrint();
-  if (const auto points = shortNumber(ui->Text2->text()))
-    m_store.cup.CupPunkteTabelle[place()] = *points;
-  else
+  if (!storePoints(m_store.cup, place(), ui->Text2->text()))
     m_store.umgebung.piep();
 }
 

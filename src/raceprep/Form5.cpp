@@ -27,10 +27,7 @@ Form5::~Form5() = default;
 
 void Form5::connectAthletes() {
   onReturn(ui->Text1, [this] { fillAthletes(); });
-  onLeave(ui->Text1, [this] {
-    const QString text = trimmedBlanks(ui->Text1->text());
-    ui->Text1->setText(upperCase(text.left(1)) + text.mid(1));
-  });
+  onLeave(ui->Text1, [this] { ui->Text1->setText(athleteSearchShown(ui->Text1->text())); });
   connect(ui->Command4, &QPushButton::clicked, this, [this] {
     ui->Text1->clear();
     fillAthletes();
@@ -44,7 +41,7 @@ void Form5::connectAthletes() {
 
 void Form5::connectParticipants() {
   onReturn(ui->Text2, [this] {
-    ui->Text2->setText(trimmedBlanks(upperCase(ui->Text2->text())));
+    ui->Text2->setText(participantSearch(ui->Text2->text()));
     fillParticipants();
   });
   connect(ui->Command6, &QPushButton::clicked, this, [this] {
@@ -60,13 +57,13 @@ void Form5::connectParticipants() {
 
 void Form5::becomeActive() {
   // A register that is not filtered is not filled anew: a new athlete appears with "alle zeigen" only; it is meant.
-  if (!trimmedBlanks(ui->Text1->text()).isEmpty())
+  if (!athleteSearch(ui->Text1->text()).isEmpty())
     fillAthletes();
   fillParticipants();
 }
 
 void Form5::fillAthletes() {
-  ui->List1->fill(athleteLines(m_store, upperCase(trimmedBlanks(ui->Text1->text()))));
+  ui->List1->fill(athleteLines(m_store, athleteSearch(ui->Text1->text())));
 }
 
 void Form5::fillParticipants() {

@@ -40,6 +40,19 @@ template <typename Row> auto ownColumns(Row &row) {
 
 } // namespace
 
+QString athleteSearch(const QString &typed) {
+  return upperCase(trimmedBlanks(typed));
+}
+
+QString athleteSearchShown(const QString &typed) {
+  const QString text = trimmedBlanks(typed);
+  return upperCase(text.left(1)) + text.mid(1);
+}
+
+QString participantSearch(const QString &typed) {
+  return trimmedBlanks(upperCase(typed));
+}
+
 QStringList athleteLines(const Store &store, const QString &beginning) {
   SortedLines lines;
   for (int n = 1; n <= store.LaeuferAnzahl; ++n) {

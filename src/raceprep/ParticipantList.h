@@ -4,6 +4,12 @@
 
 // The rules of the participant list: which athletes of the register start in the open race.
 
+/// What is searched for by a text typed for the register, and how the text is shown after it.
+QString athleteSearch(const QString &typed);
+QString athleteSearchShown(const QString &typed);
+/// The text typed for the participants as it is shown and searched for.
+QString participantSearch(const QString &typed);
+
 /// Lines of `Form5.List1`: the athletes whose name begins with `beginning` (upper case; empty = all), sorted; ends in
 /// the record number.
 QStringList athleteLines(const Store &store, const QString &beginning);

@@ -2,9 +2,8 @@
 
 #include "core/ValueFormats.h"
 #include "platform/Numbers.h"
+#include "timing/TimeDifference.h"
 #include "ui_Form18.h"
-
-#include <cmath>
 
 namespace {
 
@@ -34,17 +33,15 @@ void Form18::becomeActive() {
 void Form18::subtract() {
   tidy(ui->Text6);
   tidy(ui->Text1);
-  const auto start = regionalNumber(ui->Text1->text()), finish = regionalNumber(ui->Text6->text());
-  if (!start || !finish)
-    return;
-  ui->Text2->setText(plainText(std::fabs(*start - *finish)));
-  ui->Command4->setFocus();
+  if (const auto difference = timeDifference(ui->Text1->text(), ui->Text6->text())) {
+    ui->Text2->setText(plainText(*difference));
+    ui->Command4->setFocus();
+  }
 }
 
-// The difference is tested up to its decimal comma, so one below a second is not carried over; this is meant.
 void Form18::carryOver() {
   const QString difference = ui->Text2->text();
-  if (leadingNumber(difference) == 0)
+  if (!isTimeToTake(difference))
     return;
   Q_EMIT uebernommen(difference);
   close();

@@ -17,21 +17,14 @@ namespace {
 
 constexpr int StatusCount = 6; // the last two have no text and can be chosen all the same
 
-/// Seconds out of hours, minutes and seconds as typed; nothing if one of them is no number.
-std::optional<double> joined(const QString &stunden, const QString &minuten, const QString &sekunden) {
-  const auto h = regionalNumber(stunden), m = regionalNumber(minuten), s = regionalNumber(sekunden);
-  return h && m && s ? std::optional(3600 * *h + 60 * *m + *s) : std::nullopt;
-}
-
 QStringList textsOf(const std::array<QLineEdit *, 3> &boxes) {
   return {boxes[0]->text(), boxes[1]->text(), boxes[2]->text()};
 }
 
-// The seconds box of the parts is put into form but not stored; blanks around a text without a point stay.
+// The seconds box of the parts is put into form but not stored.
 void tidySeconds(QLineEdit *box) {
-  const QString text = box->text();
-  if (text.contains(QLatin1Char('.')) || trimmedBlanks(text).isEmpty())
-    box->setText(KommaEingabe(text));
+  if (const QString text = secondsEntry(box->text()); text != box->text())
+    box->setText(text);
 }
 
 // A status that a file may hold and the box does not chooses nothing.
@@ -248,7 +241,7 @@ void Form7::takeTime(const Lauf &lauf) {
 }
 
 void Form7::joinTime(Lauf &lauf) {
-  const auto time = joined(lauf.teile[0]->text(), lauf.teile[1]->text(), lauf.teile[2]->text());
+  const auto time = joinedTime(lauf.teile[0]->text(), lauf.teile[1]->text(), lauf.teile[2]->text());
   if (!time || !store(lauf, *time))
     return;
   lauf.sekunden->setText(plainText(*time));

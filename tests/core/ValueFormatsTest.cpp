@@ -13,6 +13,17 @@ TEST(ValueFormats, TimesAsPrinted) {
     EXPECT_EQ(ZeitText(seconds), QString::fromUtf8(text)) << seconds;
 }
 
+TEST(ValueFormats, PartsOfATimeAsTyped) {
+  const std::tuple<const char *, const char *, const char *, double> times[] = {
+      {"1", "2", "3,5", 3723.5}, {"0", "-1", " 90 ", 30}, {"1,5", "0", "0", 5400}};
+  for (const auto &[h, m, s, seconds] : times)
+    EXPECT_EQ(joinedTime(QLatin1String(h), QLatin1String(m), QLatin1String(s)), seconds) << s;
+  EXPECT_FALSE(joinedTime(QStringLiteral("0"), {}, QStringLiteral("5")));
+  EXPECT_FALSE(joinedTime(QStringLiteral("0"), QStringLiteral("0"), QStringLiteral("5.5")));
+  for (const auto &[typed, tidy] : {std::pair(" 3.5 ", "3,5"), {"  ", "0"}, {" 7 ", " 7 "}, {"1.5.2", "1,5.2"}})
+    EXPECT_EQ(secondsEntry(QLatin1String(typed)), QLatin1String(tidy));
+}
+
 TEST(ValueFormats, ValuesInColumns) {
   EXPECT_EQ(WertText8(12.5), QStringLiteral("   12,50"));
   EXPECT_EQ(WertText10(12.5), QStringLiteral("     12,50"));

@@ -22,6 +22,15 @@ TEST_F(CupTest, threeRacesWorkedOutByHand) {
   EXPECT_EQ(store.cup.CupZeit(1, 3), 31);
 }
 
+TEST_F(CupTest, typedPlacesAndPointsAreHeldToTheTable) {
+  for (const auto &[typed, place] : {std::pair("0", 1), {"-3", 1}, {"7.6", 8}, {"101", 100}, {"x", 1}})
+    EXPECT_EQ(heldPlace(QLatin1String(typed)), place);
+  for (const auto &[typed, stored, shown] : {std::tuple("12,5", true, "12"), {"40000", false, "12"}, {"", true, ""}}) {
+    EXPECT_EQ(storePoints(store.cup, 100, QLatin1String(typed)), stored) << typed;
+    EXPECT_EQ(pointsText(store.cup, 100), QLatin1String(shown));
+  }
+}
+
 TEST_F(CupTest, aSmallerCupKeepsNobodyOfTheOneBefore) {
   cupAuswerten(store, {1}, 0);
   cupAuswerten(store, {3}, 0);

@@ -40,6 +40,16 @@ TEST_F(ParticipantListTest, OrdersAndFilters) {
   EXPECT_EQ(athleteLines(store, QStringLiteral("MAS")), QStringList(QStringLiteral("MASER                    2")));
 }
 
+TEST_F(ParticipantListTest, SearchesKeepLengthAndBlanksInside) {
+  const std::tuple<const char *, const char *, const char *> cases[] = {
+      {"  hub an ", "HUB AN", "Hub an"}, {"groß", "GROß", "Groß"}, {"öller", "ÖLLER", "Öller"}, {" ", "", ""}};
+  for (const auto &[typed, searched, shown] : cases) {
+    EXPECT_EQ(athleteSearch(QString::fromUtf8(typed)), QString::fromUtf8(searched));
+    EXPECT_EQ(participantSearch(QString::fromUtf8(typed)), QString::fromUtf8(searched));
+    EXPECT_EQ(athleteSearchShown(QString::fromUtf8(typed)), QString::fromUtf8(shown));
+  }
+}
+
 TEST_F(ParticipantListTest, AddingTakesTheFirstFreeRowUntilAllAreInUse) {
   store.Teilnehmer[1].LaeuferNr = 5;
   store.Teilnehmer[2].VereinNr = 4;
