@@ -1,9 +1,18 @@
 #include "platform/qt/LineList.h"
 
+#include "platform/Faults.h"
+#include "platform/Files.h"
+#include "platform/ListTable.h"
 #include "platform/Numbers.h"
 #include "platform/qt/Look.h"
 
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QFileDialog>
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QMessageBox>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -54,6 +63,12 @@ public:
     painter->setFont(option.font);
     painter->setPen(option.palette.color(chosen ? QPalette::HighlightedText : QPalette::PlaceholderText));
     painter->drawText(area, int(Qt::AlignRight | Qt::AlignVCenter), line.mid(*start));
+  }
+
+  /// The text of a line as the operator knows it.
+  QString shown(const QString &line) const {
+    const auto start = numberStart(line);
+    return shownText(start && numbers == Numbers::Hidden ? withoutGap(line, *start) : line);
   }
 
   enum class Numbers { Pale, Hidden, PartOfTheLine } numbers = Numbers::Pale;
@@ -204,6 +219,47 @@ QModelIndex LineList::moveCursor(CursorAction action, Qt::KeyboardModifiers modi
   if (action == MoveEnd && !currentIndex().isValid())
     return m_model.index(int(lines().size()) - 1);
   return QListView::moveCursor(action, modifiers);
+}
+
+QStringList LineList::shown(const QStringList &lines) const {
+  QStringList texts;
+  for (const QString &line : lines)
+    texts << static_cast<LineDelegate *>(itemDelegate())->shown(line);
+  return texts;
+}
+
+void LineList::keyPressEvent(QKeyEvent *event) {
+  if (!event->matches(QKeySequence::Copy))
+    return QListView::keyPressEvent(event);
+  QModelIndexList chosen = selectedIndexes();
+  std::sort(chosen.begin(), chosen.end());
+  QStringList texts;
+  for (const QModelIndex &index : chosen)
+    texts << lines()[index.row()];
+  QGuiApplication::clipboard()->setText(clipboardText(shown(texts)));
+}
+
+void LineList::contextMenuEvent(QContextMenuEvent *event) {
+  auto *menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->addActions(actions());
+  menu->addSeparator();
+  menu->addAction(QStringLiteral("Liste kopieren"), this,
+                  [this] { QGuiApplication::clipboard()->setText(clipboardText(shown(lines()))); });
+  menu->addAction(QStringLiteral("Als Tabelle (CSV) speichern …"), this, &LineList::saveAsTable);
+  menu->popup(event->globalPos());
+}
+
+void LineList::saveAsTable() {
+  const QString path = QFileDialog::getSaveFileName(this, QStringLiteral("Als Tabelle speichern"),
+                                                    QStringLiteral("Liste.csv"), QStringLiteral("Tabellen (*.csv)"));
+  if (path.isEmpty())
+    return;
+  try {
+    replaceFile(path, csvOf(shown(lines())));
+  } catch (const Fault &fault) {
+    QMessageBox::warning(this, QStringLiteral("Als Tabelle speichern"), fault.report());
+  }
 }
 
 void LineList::mousePressEvent(QMouseEvent *event) {

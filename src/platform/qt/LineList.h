@@ -20,6 +20,9 @@ private:
 
 /// A list of text lines; 30,000 of them feel instant. A line that ends in at least five blanks and a number (its row or
 /// record) is drawn with that number pale at the right edge; its text stays whole.
+///
+/// Ctrl+C copies the chosen lines; the context menu has the actions that were added to the widget, and the whole list
+/// for the clipboard or as a table in a file.
 class LineList : public QListView {
   Q_OBJECT
 
@@ -65,11 +68,15 @@ protected:
   void focusInEvent(QFocusEvent *event) override;
   void focusOutEvent(QFocusEvent *event) override;
   void paintEvent(QPaintEvent *event) override;
+  void keyPressEvent(QKeyEvent *event) override;
+  void contextMenuEvent(QContextMenuEvent *event) override;
   bool event(QEvent *event) override;
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index, const QEvent *event) const override;
 
 private:
   QModelIndex aimedAt(QPoint at);
+  QStringList shown(const QStringList &lines) const;
+  void saveAsTable();
 
   LineModel m_model;
   int m_goodWidth = 0;
