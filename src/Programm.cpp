@@ -9,6 +9,7 @@
 #include "evaluation/Form12.h"
 #include "evaluation/Form19.h"
 #include "evaluation/Form20.h"
+#include "exchange/qt/EntryScreen.h"
 #include "masterdata/Form2.h"
 #include "masterdata/Form3.h"
 #include "printing/Form16.h"
@@ -117,7 +118,7 @@ void Programm::openClubs() {
 
 void Programm::openAthletes() {
   alleDateienOeffnen(m_store);
-  replace(*m_menu, new Form3(m_desk, m_store));
+  offerEntries(replace(*m_menu, new Form3(m_desk, m_store)), false);
 }
 
 void Programm::openRaceRegister() {
@@ -148,6 +149,7 @@ void Programm::openParticipants() {
   connect(&form, &Form5::athletGewaehlt, this, [this, &form](int record) { athletesOnTop(form).zeigen(record); });
   connect(&form, &Form5::neuaufnahme, this,
           [this, &form](const QString &name) { athletesOnTop(form).neuaufnehmen(name); });
+  offerEntries(form, true);
   connect(&form, &Form5::teilnehmerGewaehlt, this, [this, &form](int row) { openNumbersOnTop(form, row); });
   connect(&form, &Form5::teilnehmerGeloescht, this, [this] {
     if (auto *numbers = shown<Form6>())
@@ -155,10 +157,22 @@ void Programm::openParticipants() {
   });
 }
 
+template <typename S> void Programm::offerEntries(S &screen, bool race) {
+  connect(&screen, &S::meldungenGewuenscht, this, [this, &screen, race] {
+    if (auto table = EntryScreen::chosenTable(&screen)) {
+      auto &entries = beside(screen, new EntryScreen(m_desk, m_store, *std::move(table), race));
+      connect(&entries, &EntryScreen::takenOver, &screen, &S::meldungenZeigen);
+    }
+  });
+}
+
 Form3 &Programm::athletesOnTop(Screen &participants) {
   auto *athletes = shown<Form3>();
-  if (!athletes)
-    return beside(participants, new Form3(m_desk, m_store));
+  if (!athletes) {
+    auto &form = beside(participants, new Form3(m_desk, m_store));
+    offerEntries(form, false);
+    return form;
+  }
   m_desk.show(*athletes);
   return *athletes;
 }

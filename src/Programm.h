@@ -63,6 +63,8 @@ private:
   /// What the race register opens and needs no more than its own constructor.
   template <typename S> void openPlain();
 
+  /// A table of entries may be read from `screen`; with `race` into the open race as well.
+  template <typename S> void offerEntries(S &screen, bool race);
   template <typename S> void connectWorkSign(S &screen);
   void showResult(Screen &opener, bool open);
   void remind(const QStringList &lines);

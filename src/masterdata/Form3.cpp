@@ -44,8 +44,10 @@ Form3::~Form3() = default;
 
 void Form3::fillClubs() {
   const QStringList choices = clubChoices(m_store);
-  for (auto *combo : {ui->Combo1, ui->Combo2, ui->Combo3})
+  for (auto *combo : {ui->Combo1, ui->Combo2, ui->Combo3}) {
+    combo->clear();
     combo->addItems(choices);
+  }
 }
 
 void Form3::connectNavigation() {
@@ -64,6 +66,8 @@ void Form3::connectNavigation() {
       zeigen(m_store.LaeuferAnzahl);
   });
   connect(ui->List1, &LineList::chosen, this, [this](int line) { zeigen(numberAtEnd(ui->List1->lines()[line])); });
+  ui->List1->addAction(QStringLiteral("Meldungen aus Tabelle einlesen …"), this,
+                       [this] { Q_EMIT meldungenGewuenscht(); });
   connect(ui->Command1, &QPushButton::clicked, this, &Form3::close);
 }
 
@@ -157,6 +161,12 @@ void Form3::showSex(int sex) {
   setChosen(ui->Option2, female);
   ui->Option1->setFocusPolicy(female ? Qt::ClickFocus : Qt::StrongFocus);
   ui->Option2->setFocusPolicy(female ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
+void Form3::meldungenZeigen() {
+  fillClubs();
+  fillList();
+  LaeuferZeigen(m_shown);
 }
 
 void Form3::fillList() {

@@ -30,6 +30,12 @@ public:
   /// Starts a new entry: goes to the first record without a name and puts the text into the name field, which gets the
   /// focus. Without such a record it lands on the last athlete, who is then renamed by it; it is meant.
   void neuaufnehmen(const QString &name);
+  /// Shows what a table of entries has brought.
+  void meldungenZeigen();
+
+Q_SIGNALS:
+  /// A table of entries is to be read.
+  void meldungenGewuenscht();
 
 protected:
   bool eventFilter(QObject *watched, QEvent *event) override;

@@ -29,3 +29,7 @@ QByteArray csvLine(const QStringList &fields) {
     line << quoted(guarded(field));
   return line.join(QLatin1Char(';')).toUtf8() + "\r\n";
 }
+
+QString withoutGuard(const QString &field) {
+  return field.startsWith(QLatin1Char('\'')) && beginsFormula(QStringView(field).sliced(1)) ? field.mid(1) : field;
+}

@@ -11,3 +11,5 @@ constexpr char Utf8Mark[] = "\xEF\xBB\xBF";
 
 /// One line. A field that another program would take for a formula gets an apostrophe in front.
 QByteArray csvLine(const QStringList &fields);
+/// A field without that apostrophe.
+QString withoutGuard(const QString &field);

@@ -36,6 +36,8 @@ void Form5::connectAthletes() {
   connect(ui->List1, &LineList::chosen, this, [this](int line) { showAthlete(numberAtEnd(ui->List1->lines()[line])); });
   connect(ui->List1, &LineList::doubleChosen, this, [this] { openAthlete(); });
   onReturn(ui->List1, [this] { openAthlete(); });
+  ui->List1->addAction(QStringLiteral("Meldungen aus Tabelle einlesen …"), this,
+                       [this] { Q_EMIT meldungenGewuenscht(); });
   connect(ui->Command2, &QPushButton::clicked, this, &Form5::add);
 }
 
@@ -59,6 +61,11 @@ void Form5::becomeActive() {
   // A register that is not filtered is not filled anew: a new athlete appears with "alle zeigen" only; it is meant.
   if (!athleteSearch(ui->Text1->text()).isEmpty())
     fillAthletes();
+  fillParticipants();
+}
+
+void Form5::meldungenZeigen() {
+  fillAthletes();
   fillParticipants();
 }
 

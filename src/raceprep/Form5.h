@@ -25,6 +25,8 @@ public:
 
   /// Fills the participants anew, and the register if it is filtered.
   void becomeActive() override;
+  /// Shows what a table of entries has brought.
+  void meldungenZeigen();
 
 Q_SIGNALS:
   /// A double click on an athlete: the register is to open on this record.
@@ -33,6 +35,8 @@ Q_SIGNALS:
   void teilnehmerGewaehlt(int row);
   /// The register is to open for a new entry of this name.
   void neuaufnahme(const QString &name);
+  /// A table of entries is to be read.
+  void meldungenGewuenscht();
   /// A participant was deleted and the rows behind him moved up.
   void teilnehmerGeloescht();
 

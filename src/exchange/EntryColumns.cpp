@@ -1,0 +1,119 @@
+#include "exchange/EntryColumns.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr int LinesToJudge = 50;
+
+/// Spellings of headings, in lower case and of letters and digits only.
+struct Kind {
+  const char *name, *spellings;
+};
+constexpr std::array<Kind, ColumnKinds> Kinds{{
+    {"–", ""},
+    {"Name",
+     "name|teilnehmer|läufer|läuferin|sportler|starter|vorundnachname|nameundvorname|namevorname|familiennamevorname"},
+    {"Familienname", "familienname|nachname|zuname|famname|lastname|surname|name1"},
+    {"Vorname", "vorname|firstname|rufname|name2"},
+    {"Geburtsdatum", "geburtsdatum|gebdatum|geboren|geborenam|geb|gebdat|datum|geburtstag|dateofbirth|dob|jahrgang|jg|"
+                     "geburtsjahr|gebjahr|jahr|yearofbirth|yob|birthyear"},
+    {"Geschlecht", "geschlecht|sex|mw|wm|gender|g|dh|hd|geschl"},
+    {"Verein", "verein|club|klub|vereinsname|verein1|skiclub|schiclub|team"},
+    {"Verein 2", "verein2|zweitverein|2verein|zweiterverein"},
+    {"ÖSV-Nummer", "ösvnummer|ösvnr|oesvnr|oesvnummer|ösv|lizenz|lizenznr|lizenznummer|code|mitgliedsnummer|nr"},
+    {"Punkte", "punkte|ösvpunkte|oesvpunkte|points|fispunkte|pkt"},
+}};
+
+QString letters(const QString &heading) {
+  QString text;
+  for (const QChar c : heading.toLower())
+    if (c.isLetterOrNumber())
+      text += c;
+  return text;
+}
+
+Column byHeading(const QString &heading) {
+  const QString wanted = letters(heading);
+  for (size_t kind = 1; kind < Kinds.size(); ++kind)
+    if (QString::fromUtf8(Kinds[kind].spellings).split(QLatin1Char('|')).contains(wanted))
+      return Column(kind);
+  return Column::None;
+}
+
+/// Whether most of what stands in a column fits a form, and anything does.
+bool mostly(const Table &table, qsizetype column, const QRegularExpression &form) {
+  int fits = 0, filled = 0;
+  for (const QStringList &line : table.lines.first(std::min<qsizetype>(LinesToJudge, table.lines.size()))) {
+    filled += !line[column].isEmpty();
+    fits += form.match(line[column]).hasMatch();
+  }
+  return fits > 0 && fits * 10 >= filled * 8;
+}
+
+Column byContent(const Table &table, qsizetype column) {
+  static const std::pair<Column, QRegularExpression> forms[] = {
+      {Column::Birth,
+       QRegularExpression(QStringLiteral("\\A(\\d{1,2}\\.\\d{1,2}\\.(\\d\\d|\\d{4})|\\d{4}-\\d\\d-\\d\\d|"
+                                         "(19|20)\\d\\d)\\z"))},
+      {Column::Sex, QRegularExpression(QStringLiteral("\\A([mwfhd]|männlich|weiblich|herr(en)?|damen?)\\z"),
+                                       QRegularExpression::CaseInsensitiveOption)},
+      {Column::Points, QRegularExpression(QStringLiteral("\\A\\d+[,.]\\d+\\z"))},
+      {Column::OesvNr, QRegularExpression(QStringLiteral("\\A\\d{4,9}\\z"))},
+      {Column::Name, QRegularExpression(QStringLiteral("\\A\\D*\\p{L}{2}"))}};
+  for (const auto &[kind, form] : forms)
+    if (mostly(table, column, form))
+      return kind;
+  return Column::None;
+}
+
+// Columns of words are one name and a club, or two names and a club.
+void shareOutNames(QList<Column> &kinds) {
+  const auto words = kinds.count(Column::Name);
+  const auto shares = words < 3 ? std::array{Column::Name, Column::Club, Column::None, Column::None}
+                                : std::array{Column::Family, Column::First, Column::Club, Column::Club2};
+  size_t next = 0;
+  for (Column &kind : kinds)
+    if (kind == Column::Name)
+      kind = next < shares.size() ? shares[next++] : Column::None;
+}
+
+void keepFirstOfEach(QList<Column> &kinds) {
+  for (qsizetype i = 0; i < kinds.size(); ++i)
+    if (std::find(kinds.begin(), kinds.begin() + i, kinds[i]) != kinds.begin() + i)
+      kinds[i] = Column::None;
+}
+
+// "Name" beside a column of first names is the family's.
+void pairNames(QList<Column> &kinds) {
+  if (!kinds.contains(Column::First) || kinds.contains(Column::Family))
+    return;
+  std::replace(kinds.begin(), kinds.end(), Column::Name, Column::Family);
+}
+
+} // namespace
+
+QString nameOf(Column kind) {
+  return QString::fromUtf8(Kinds[size_t(kind)].name);
+}
+
+Columns recognisedColumns(const Table &table) {
+  Columns columns;
+  for (const QString &heading : table.lines.first())
+    columns.kinds << byHeading(heading);
+  const bool named = std::any_of(columns.kinds.begin(), columns.kinds.end(), [](Column kind) {
+    return kind == Column::Name || kind == Column::Family || kind == Column::First;
+  });
+  columns.heading = named;
+  if (!named) {
+    for (qsizetype i = 0; i < columns.kinds.size(); ++i)
+      columns.kinds[i] = byContent(table, i);
+    shareOutNames(columns.kinds);
+  }
+  keepFirstOfEach(columns.kinds);
+  pairNames(columns.kinds);
+  return columns;
+}

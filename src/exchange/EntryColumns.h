@@ -1,0 +1,19 @@
+#pragma once
+
+#include "exchange/TableReader.h"
+
+/// What a column of a table of entries may be.
+enum class Column { None, Name, Family, First, Birth, Sex, Club, Club2, OesvNr, Points };
+constexpr int ColumnKinds = 10;
+
+/// The German name of a kind; "–" for None.
+QString nameOf(Column kind);
+
+/// How a table is read: what each column is, and whether its first line is a heading.
+struct Columns {
+  QList<Column> kinds;
+  bool heading = false;
+};
+
+/// By the headings; without any, by what stands in the columns. Each kind occurs once at most.
+Columns recognisedColumns(const Table &table);
