@@ -86,8 +86,9 @@ Entry entryOf(int line, const Fields &field, QDate today) {
   const QString name = nameOfLine(field);
   entry.athlete.Name = inField(name, NameWidth, QStringLiteral("Name"), entry.remarks);
   entry.athlete.OesvNr = inField(field(Column::OesvNr), OesvNrWidth, QStringLiteral("ÖSV-Nummer"), entry.remarks);
-  entry.club = inField(field(Column::Club), ClubWidth, QStringLiteral("Verein"), entry.remarks);
-  entry.club2 = inField(field(Column::Club2), ClubWidth, QStringLiteral("Verein 2"), entry.remarks);
+  constexpr std::array kinds{Column::Club, Column::Club2, Column::Club3};
+  for (size_t slot = 0; slot < kinds.size(); ++slot)
+    entry.clubs[slot] = inField(field(kinds[slot]), ClubWidth, nameOf(kinds[slot]), entry.remarks);
   takeSex(entry, field(Column::Sex));
   takePoints(entry, field(Column::Points));
   takeBirth(entry, field(Column::Birth), today);

@@ -5,6 +5,7 @@
 
 #include <QDate>
 
+#include <array>
 #include <optional>
 
 /// A person as a line of a table tells him, already as the register will keep him: the name "FAMILIENNAME Vorname", all
@@ -16,7 +17,8 @@ struct Entry {
   LaeuferSatz athlete;
   /// Of the birth date only the year is told.
   bool yearOnly = false;
-  QString club, club2;
+  /// Up to three, empty where there is none.
+  std::array<QString, 3> clubs;
   /// What of the line is cut, changed or left out.
   QStringList remarks;
   /// Why the line cannot be taken; empty if it can.

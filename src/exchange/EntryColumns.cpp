@@ -24,6 +24,7 @@ constexpr std::array<Kind, ColumnKinds> Kinds{{
     {"Geschlecht", "geschlecht|sex|mw|wm|gender|g|dh|hd|geschl"},
     {"Verein", "verein|club|klub|vereinsname|verein1|skiclub|schiclub|team"},
     {"Verein 2", "verein2|zweitverein|2verein|zweiterverein"},
+    {"Verein 3", "verein3|drittverein|3verein|dritterverein"},
     {"ÖSV-Nummer", "ösvnummer|ösvnr|oesvnr|oesvnummer|ösv|lizenz|lizenznr|lizenznummer|code|mitgliedsnummer|nr"},
     {"Punkte", "punkte|ösvpunkte|oesvpunkte|points|fispunkte|pkt"},
 }};

@@ -3,8 +3,8 @@
 #include "exchange/TableReader.h"
 
 /// What a column of a table of entries may be.
-enum class Column { None, Name, Family, First, Birth, Sex, Club, Club2, OesvNr, Points };
-constexpr int ColumnKinds = 10;
+enum class Column { None, Name, Family, First, Birth, Sex, Club, Club2, Club3, OesvNr, Points };
+constexpr int ColumnKinds = 11;
 
 /// The German name of a kind; "–" for None.
 QString nameOf(Column kind);

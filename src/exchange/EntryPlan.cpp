@@ -115,14 +115,13 @@ void noteClub(EntryPlan &plan, const QString &text) {
 
 QString wordsIfTaken(const Store &store, const PlannedEntry &line, bool race) {
   const bool isNew = line.choice == Choice::New;
-  const QString register_ = isNew ? QStringLiteral("neu")
-                            : line.verdict == Verdict::Similar
-                                ? QStringLiteral("dieselbe Person wie „%1“").arg(line.whom)
-                                : QStringLiteral("schon im Register");
+  const QString what = isNew                              ? QStringLiteral("neu")
+                       : line.verdict == Verdict::Similar ? QStringLiteral("dieselbe Person wie „%1“").arg(line.whom)
+                                                          : QStringLiteral("schon im Register");
   if (!race)
-    return register_;
+    return what;
   const bool starts = !isNew && isParticipant(store, line.record);
-  return register_ + (starts ? QStringLiteral(", startet schon") : QStringLiteral(", kommt in das Rennen"));
+  return what + (starts ? QStringLiteral(", startet schon") : QStringLiteral(", kommt in das Rennen"));
 }
 
 } // namespace
@@ -134,7 +133,7 @@ int EntryPlan::club(const QString &text) const {
 }
 
 QString EntryPlan::openClub(const PlannedEntry &line) const {
-  for (const QString &text : {line.entry.club, line.entry.club2})
+  for (const QString &text : line.entry.clubs)
     if (!foldedClub(text).isEmpty() && club(text) == ClubAnswer::Open)
       return text;
   return {};
@@ -160,8 +159,8 @@ EntryPlan planFor(const Store &store, const QList<Entry> &entries, const EntryPr
       athletes.judge(line);
       if (const int before = told.before(line))
         refuse(line, QStringLiteral("steht schon in Zeile %1").arg(before));
-      noteClub(plan, entry.club);
-      noteClub(plan, entry.club2);
+      for (const QString &club : entry.clubs)
+        noteClub(plan, club);
     }
     plan.lines << line;
     progress(plan.lines.size(), entries.size());

@@ -115,8 +115,9 @@ private:
       const QByteArray reserve = athlete.LaeuferReserve;
       athlete = entry.athlete;
       athlete.LaeuferReserve = reserve;
-      athlete.Verein1 = clubOf(entry.club);
-      athlete.Verein2 = clubOf(entry.club2);
+      athlete.Verein1 = clubOf(entry.clubs[0]);
+      athlete.Verein2 = clubOf(entry.clubs[1]);
+      athlete.Verein3 = clubOf(entry.clubs[2]);
     });
   }
 
@@ -197,7 +198,7 @@ void takeOver(Store &store, const EntryPlan &plan, bool race) {
     return;
   for (qsizetype i = 0; i < records.size(); ++i) {
     const LaeuferSatz athlete = records[i] > 0 ? LaeuferLesen(store, records[i]) : LaeuferSatz();
-    const int club = plan.club(plan.lines[i].entry.club);
+    const int club = plan.club(plan.lines[i].entry.clubs[0]);
     enter(store, records[i], club == ClubAnswer::MakeNew ? athlete.Verein1 : club);
   }
 }

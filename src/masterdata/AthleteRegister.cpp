@@ -1,10 +1,33 @@
 #include "masterdata/AthleteRegister.h"
 
 #include "core/RecordFiles.h"
+#include "masterdata/ClubRegister.h"
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
 
 #include <algorithm>
+
+namespace {
+
+constexpr double UnknownBirthDate = 2;
+
+QString clubText(const Store &store, int club) {
+  return isClub(store, club) ? shownText(shortNameOfClub(store, club)) : QString();
+}
+
+QStringList tableLine(const Store &store, const LaeuferSatz &athlete) {
+  const bool dated = athlete.Geburtsdatum != UnknownBirthDate;
+  return {shownText(athlete.Name),
+          dated ? shortDate(fromDays(athlete.Geburtsdatum)) : QString(),
+          QStringList{QStringLiteral("w"), QStringLiteral("m")}.value(athlete.Geschlecht),
+          clubText(store, athlete.Verein1),
+          clubText(store, athlete.Verein2),
+          clubText(store, athlete.Verein3),
+          trimmedBlanks(shownText(athlete.OesvNr)),
+          athlete.LaeuferPunkte == 0 ? QString() : plainText(athlete.LaeuferPunkte)};
+}
+
+} // namespace
 
 int lastAthlete(Store &store) {
   store.LaeuferAnzahl = std::max(store.LaeuferAnzahl, 1);
@@ -56,6 +79,16 @@ QString storeBirthDate(Store &store, int n, const QString &typed) {
     return {};
   changeAthlete(store, n, [&](LaeuferSatz &athlete) { athlete.Geburtsdatum = toDays(*date); });
   return text;
+}
+
+QList<QStringList> athleteTable(const Store &store) {
+  QList<QStringList> table{{QStringLiteral("Name"), QStringLiteral("Geburtsdatum"), QStringLiteral("Geschlecht"),
+                            QStringLiteral("Verein"), QStringLiteral("Verein 2"), QStringLiteral("Verein 3"),
+                            QStringLiteral("ÖSV-Nummer"), QStringLiteral("Punkte")}};
+  for (int n = 1; n <= store.LaeuferAnzahl; ++n)
+    if (const LaeuferSatz athlete = LaeuferLesen(store, n); !athlete.Name.isEmpty())
+      table << tableLine(store, athlete);
+  return table;
 }
 
 int firstFreeAthlete(const Store &store) {

@@ -22,5 +22,7 @@ LaeuferSatz changeAthlete(Store &store, int n, const std::function<void(LaeuferS
 /// Stores a typed birth date and gives the text that its field shows then. Two characters are a year, 00 to 09 of 20xx
 /// and all others of 19xx, however young the athlete may be. What is no date gives the empty text and stores nothing.
 QString storeBirthDate(Store &store, int n, const QString &typed);
+/// All athletes with a name, a line of heads first: name, birth date, sex, clubs, federation number, points.
+QList<QStringList> athleteTable(const Store &store);
 /// The first record without a name; the count plus 1 if all have one.
 int firstFreeAthlete(const Store &store);

@@ -66,6 +66,7 @@ void Form3::connectNavigation() {
       zeigen(m_store.LaeuferAnzahl);
   });
   connect(ui->List1, &LineList::chosen, this, [this](int line) { zeigen(numberAtEnd(ui->List1->lines()[line])); });
+  ui->List1->saveAs([this] { return athleteTable(m_store); });
   ui->List1->addAction(QStringLiteral("Meldungen aus Tabelle einlesen …"), this,
                        [this] { Q_EMIT meldungenGewuenscht(); });
   connect(ui->Command1, &QPushButton::clicked, this, &Form3::close);

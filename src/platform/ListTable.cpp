@@ -16,9 +16,16 @@ QString clipboardText(const QStringList &lines) {
   return texts.join(QLatin1Char('\n'));
 }
 
-QByteArray csvOf(const QStringList &lines) {
-  QByteArray csv = Utf8Mark;
+QList<QStringList> tableOf(const QStringList &lines) {
+  QList<QStringList> table;
   for (const QString &line : lines)
-    csv += csvLine(columnsOf(line));
+    table << columnsOf(line);
+  return table;
+}
+
+QByteArray csvOf(const QList<QStringList> &table) {
+  QByteArray csv = Utf8Mark;
+  for (const QStringList &line : table)
+    csv += csvLine(line);
   return csv;
 }

@@ -7,5 +7,6 @@
 QStringList columnsOf(const QString &line);
 /// Lines for the clipboard: tabs between the columns, a line feed behind each but the last line.
 QString clipboardText(const QStringList &lines);
-/// Lines as a file for other programs.
-QByteArray csvOf(const QStringList &lines);
+QList<QStringList> tableOf(const QStringList &lines);
+/// A table as a file for other programs.
+QByteArray csvOf(const QList<QStringList> &table);

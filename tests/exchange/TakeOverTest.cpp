@@ -3,6 +3,7 @@
 #include "masterdata/AthleteRegister.h"
 #include "masterdata/ClubRegister.h"
 #include "platform/Files.h"
+#include "platform/ListTable.h"
 #include "raceprep/ParticipantList.h"
 #include "support/TestStore.h"
 
@@ -161,4 +162,16 @@ TEST_F(TakeOverTest, AFullRaceOrDiskLeavesAllAsItWas) {
   takeOver(store, three, false);
   EXPECT_EQ(store.LaeuferAnzahl, 11);
   EXPECT_EQ(store.VereinAnzahl, 3);
+}
+
+TEST_F(TakeOverTest, TheRegisterOutAsATableAndInAgainIsTheSame) {
+  TestStore example, empty;
+  example.takeOver(QStringLiteral(VEXT_BEISPIEL));
+  const QByteArray out = csvOf(athleteTable(example.store));
+  const Table table = tableFrom(out, QStringLiteral("Liste.csv"));
+  EntryPlan all = planFor(empty.store, entriesOf(table, recognisedColumns(table), QDate(2026, 11, 15)));
+  makeClubs(all);
+  takeOver(empty.store, all, false);
+  EXPECT_GT(empty.store.LaeuferAnzahl, 50);
+  EXPECT_EQ(csvOf(athleteTable(empty.store)), out);
 }

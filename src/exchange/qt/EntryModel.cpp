@@ -10,13 +10,13 @@ namespace {
 constexpr double UnknownBirthDate = 2;
 
 namespace Head {
-enum { Line, What, Name, Birth, Sex, Club, Club2, OesvNr, Points, Remarks, Count };
+enum { Line, What, Name, Birth, Sex, Club, Club2, Club3, OesvNr, Points, Remarks, Count };
 }
 
-const QStringList Heads{QStringLiteral("Zeile"),      QStringLiteral("was geschieht"), QStringLiteral("Name"),
-                        QStringLiteral("geboren"),    QStringLiteral("m/w"),           QStringLiteral("Verein"),
-                        QStringLiteral("Verein 2"),   QStringLiteral("ÖSV-Nummer"),    QStringLiteral("Punkte"),
-                        QStringLiteral("Anmerkungen")};
+const QStringList Heads{QStringLiteral("Zeile"),    QStringLiteral("was geschieht"), QStringLiteral("Name"),
+                        QStringLiteral("geboren"),  QStringLiteral("m/w"),           QStringLiteral("Verein"),
+                        QStringLiteral("Verein 2"), QStringLiteral("Verein 3"),      QStringLiteral("ÖSV-Nummer"),
+                        QStringLiteral("Punkte"),   QStringLiteral("Anmerkungen")};
 
 struct Look {
   QChar sign;
@@ -102,9 +102,11 @@ QString EntryModel::text(const PlannedEntry &line, int column) const {
   case Head::Sex:
     return sexText(athlete.Geschlecht);
   case Head::Club:
-    return line.entry.club;
+    return line.entry.clubs[0];
   case Head::Club2:
-    return line.entry.club2;
+    return line.entry.clubs[1];
+  case Head::Club3:
+    return line.entry.clubs[2];
   case Head::OesvNr:
     return athlete.OesvNr;
   case Head::Points:

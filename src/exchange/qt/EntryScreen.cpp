@@ -224,7 +224,7 @@ QString EntryScreen::openClub() const {
   if (lines.isEmpty())
     return {};
   const PlannedEntry &line = m_model.plan().lines[lines.first()];
-  for (const QString &text : {line.entry.club, line.entry.club2})
+  for (const QString &text : line.entry.clubs)
     if (m_model.plan().unknownClubs.contains(foldedClub(text)))
       return foldedClub(text);
   return {};

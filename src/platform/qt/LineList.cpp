@@ -2,7 +2,6 @@
 
 #include "platform/Faults.h"
 #include "platform/Files.h"
-#include "platform/ListTable.h"
 #include "platform/Numbers.h"
 #include "platform/qt/Look.h"
 
@@ -256,7 +255,7 @@ void LineList::saveAsTable() {
   if (path.isEmpty())
     return;
   try {
-    replaceFile(path, csvOf(shown(lines())));
+    replaceFile(path, csvOf(m_table()));
   } catch (const Fault &fault) {
     QMessageBox::warning(this, QStringLiteral("Als Tabelle speichern"), fault.report());
   }

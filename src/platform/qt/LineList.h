@@ -1,7 +1,11 @@
 #pragma once
 
+#include "platform/ListTable.h"
+
 #include <QAbstractListModel>
 #include <QListView>
+
+#include <functional>
 
 /// The lines of a list, one text each.
 class LineModel : public QAbstractListModel {
@@ -37,6 +41,8 @@ public:
   void hideNumbers();
   /// Lines that end in a value of their own, which stays where it stands.
   void showWholeLines();
+  /// Saved as a table, the list gives this one instead of its lines.
+  void saveAs(std::function<QList<QStringList>()> table) { m_table = std::move(table); }
   /// Highlights a line (from 0; −1 = none) without `chosen`, and scrolls to it.
   void choose(int line);
   /// Highlights the line that ends in `number`; none if there is none.
@@ -79,6 +85,7 @@ private:
   void saveAsTable();
 
   LineModel m_model;
+  std::function<QList<QStringList>()> m_table = [this] { return tableOf(shown(lines())); };
   int m_goodWidth = 0;
   bool m_byCode = false;
   QStringList m_aimedLines;
