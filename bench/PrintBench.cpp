@@ -103,8 +103,9 @@ void HundredCertificates(benchmark::State &state) {
   recordedList();
   for (auto _ : state) {
     const QTemporaryDir target;
-    Druckschicht druck(
-        [&target](const Recording &done) { writePdf(target.path(), QDateTime::currentDateTime(), done); });
+    Druckschicht druck([&target](const Recording &done) {
+      writePrintFile(target.path(), QDateTime::currentDateTime(), done, QStringLiteral("pdf"), pdfOf(done));
+    });
     for (int row = 1; row <= 100; ++row)
       Urkunde(fullRace(), druck, row, {});
   }

@@ -1,9 +1,12 @@
 #include "Programm.h"
 #include "core/Start.h"
 #include "core/Store.h"
+#include "evaluation/AllLists.h"
 #include "platform/DiskWorker.h"
 #include "platform/Settings.h"
 #include "platform/Umgebung.h"
+#include "platform/print/CsvFile.h"
+#include "platform/print/HtmlFile.h"
 #include "platform/print/PdfFile.h"
 #include "platform/print/Printers.h"
 #include "platform/qt/Application.h"
@@ -13,6 +16,7 @@
 #include "platform/qt/Preview.h"
 #include "platform/qt/RescueQuestion.h"
 #include "platform/qt/SystemPrinters.h"
+#include "printing/Protokoll.h"
 #include "safety/Safety.h"
 
 #include <QIcon>
@@ -77,9 +81,20 @@ int run(Store &store, Safety &safety, DiskWorker &worker) {
   setUp(store);
   connectDisk(worker, store.umgebung);
   Preview preview;
-  Printers printers(systemPrinters,
-                    {pdfPrinter(QStringLiteral("Ausdrucke"), QDateTime::currentDateTime), preview.printer()});
+  const QString folder = QStringLiteral("Ausdrucke");
+  const auto now = QDateTime::currentDateTime;
+  Printers printers(systemPrinters, {pdfPrinter(folder, now), preview.printer()},
+                    {htmlPrinter(folder, now), csvPrinter(folder, now)});
   preview.offer(printers);
+  const auto isOpen = [&store](int race) {
+    return race > 0 && store.TabellenRennen == race && store.AktRennen == race;
+  };
+  preview.offer({QStringLiteral("alle Listen dieses Rennens (HTML)"), isOpen,
+                 [&](int) { alleListenDrucken(store, printers, folder, now); }});
+  preview.offer({QStringLiteral("Protokoll dieses Rennens"), isOpen, [&](int race) {
+                   Druckschicht druck([&](const Recording &done) { printers.print(done, preview.printer()); });
+                   Protokoll(store, druck, race);
+                 }});
   Programm programm(store, printers);
   // The screens are gone when a fault of the very end is reported.
   safety.screens = [screens = QPointer(&programm)] { return screens ? screens->openWork() : QList<SavedFile>(); };

@@ -26,6 +26,7 @@ public:
   /// `persons` are those that will be printed.
   CupColumns(const Store &store, Druckschicht &druck, const QList<int> &persons);
 
+  const CupSpalten &columns() const { return m_columns; }
   /// Lines that a person takes.
   int lines() const { return narrow() ? 2 : 1; }
   void printHeads(double y) const;

@@ -65,6 +65,7 @@ private:
   }
 
   void printClassName(Druckschicht::End end) {
+    m_druck.list().begin({QStringLiteral("Klasse")}, {m_store.cup.CupKlasseName.valueOrEmpty(m_klasse)});
     m_row += Row;
     m_druck.CurrentX = 36;
     m_druck.CurrentY = float(y());
@@ -92,6 +93,7 @@ private:
     const CupRow row{person, place, LaeuferLesen(m_store, m_store.cup.CupLaeufer[person])};
     printCell(m_druck, column(Rang), row, y());
     m_druck.FontBold = false;
+    m_druck.list().add(cellTexts(m_person, row) + cellTexts(m_columns.columns(), row));
     printNameAndClub(row);
     printCell(m_druck, column(Jahrgang), row, y());
     m_columns.printRounds(row, y());
@@ -131,6 +133,7 @@ private:
     m_druck.FontItalic = false;
     LogoDrucken(m_druck, 205, 11);
     m_druck.FontSize = 11;
+    m_druck.list().columns = recorded(m_person + m_columns.columns());
     printHeads(m_druck, m_person, HeadY);
     m_columns.printHeads(HeadY);
   }

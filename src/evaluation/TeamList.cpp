@@ -66,6 +66,7 @@ public:
   void printUnit(const EinheitRow &unit) {
     advance(BandStep);
     m_druck.FilledBox(20, y() - 0.5, 190, y() + 4.5, Grey);
+    m_druck.list().begin(headsOf(m_units), cellTexts(m_units, unit));
     printCells(m_druck, m_units, unit, y());
     m_row += BandGap;
   }
@@ -74,7 +75,7 @@ public:
     advance(Row);
     const int row = numberAtEnd(line);
     m_druck.FontBold = m_store.mannschaften.WertGezaehlt[row] == 1;
-    printCells(m_druck, m_members, listRow(m_store, row), y());
+    printListRow(m_druck, m_members, listRow(m_store, row), y());
     m_druck.FontBold = false;
   }
 
@@ -119,6 +120,7 @@ private:
   }
 
   void printColumnHeads() {
+    m_druck.list().columns = recorded(m_members);
     m_druck.FontBold = true;
     m_druck.FontSize = 10;
     printHeads(m_druck, m_units, HeadY);

@@ -4,6 +4,7 @@
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
 #include "printing/Documents.h"
+#include "printing/ListColumns.h"
 #include "printing/ListRows.h"
 #include "printing/PrintHelpers.h"
 #include "printing/Seitenkopf.h"
@@ -24,7 +25,7 @@ public:
     printHead();
   }
 
-  void printRow(int row) { printCells(m_druck, m_columns, listRow(m_store, row), gitterY(next())); }
+  void printRow(int row) { printListRow(m_druck, m_columns, listRow(m_store, row), gitterY(next())); }
 
   /// Goes on to the next row and gives its number.
   int next() {

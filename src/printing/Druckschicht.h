@@ -65,6 +65,9 @@ public:
   /// Looks at a picture; it is read when it is painted.
   PrintPicture LoadPicture(const QString &path);
 
+  /// What the document says to media that know no pages; handed over with it.
+  RecordedList &list() { return m_recording.list; }
+
   void NewPage();
   /// Hands the document over, if anything was printed. What the sink throws goes on; the document is ended all the
   /// same.

@@ -44,6 +44,7 @@ bool seiteVoll(const Druckschicht &druck, int zeilenNr, double limit) {
 
 void Klassenbalken(const Store &store, Druckschicht &druck, const TeilnehmerZeile &participant, int zeilenNr,
                    double left, double right, double textX) {
+  druck.list().begin({Klassenspalte(store)}, {Klassentext(store, participant)});
   const double y = gitterY(zeilenNr);
   druck.FilledBox(left, y + 2 - 2.1, right, y + 2 + 2.5, BandColor);
   druck.FontSize = 11;

@@ -3,6 +3,7 @@
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
 #include "printing/Documents.h"
+#include "printing/ListColumns.h"
 #include "printing/ListRows.h"
 #include "printing/PrintHelpers.h"
 #include "printing/Seitenkopf.h"
@@ -61,7 +62,7 @@ private:
   void printRow(int row) {
     ++m_line;
     breakIfFull(RowLimit);
-    printCells(m_druck, m_columns, listRow(m_store, row), gitterY(m_line));
+    printListRow(m_druck, m_columns, listRow(m_store, row), gitterY(m_line));
   }
 
   Store &m_store;
@@ -96,7 +97,7 @@ void AlphabetischeListe(const Store &store, Druckschicht &druck) {
       druck.NewPage();
       printHead();
     }
-    printCells(druck, columns, listRow(store, row), gitterY(zeilenNr));
+    printListRow(druck, columns, listRow(store, row), gitterY(zeilenNr));
     druck.DrawWidth = 2;
     druck.Box(20, gitterY(zeilenNr) - 0.5, 190, gitterY(zeilenNr + 1) - 0.5);
   }

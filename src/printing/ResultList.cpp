@@ -74,7 +74,7 @@ private:
     ++m_line;
     if (seiteVoll(m_druck, m_line, RowLimit))
       breakPage(m_store.Teilnehmer[row]);
-    printCells(m_druck, m_columns, listRow(m_store, row), gitterY(m_line));
+    printListRow(m_druck, m_columns, listRow(m_store, row), gitterY(m_line));
   }
 
   const Store &m_store;

@@ -35,14 +35,6 @@ void paintPictures(Druckschicht &druck) {
   druck.PaintPicture(druck.LoadPicture(QStringLiteral(":/kopf2.jpg")), 4, 10, 15.5, 20);
 }
 
-void printColumnHeads(Druckschicht &druck, const Listenkopf &kopf, const ListColumns &spalten) {
-  druck.FontItalic = false;
-  druck.FontSize = kopf.spaltenGroesse;
-  druck.FontBold = true;
-  printHeads(druck, spalten, kopf.spaltenY);
-  druck.FontBold = false;
-}
-
 } // namespace
 
 const Listenkopf &Listenkoepfe::ergebnisliste() {
@@ -76,9 +68,7 @@ const Listenkopf &Listenkoepfe::nichtInDerWertung() {
 }
 
 // Italic stays on down to the date: that is meant.
-void Seitenkopf(const Store &store, Druckschicht &druck, const Listenkopf &kopf, const ListColumns &spalten, int &seite,
-                const QString &zusatz) {
-  ++seite;
+void Kopfbeginn(const Store &store, Druckschicht &druck, const Listenkopf &kopf, int seite, const QString &zusatz) {
   printTitle(store, druck, kopf);
   printAt(druck, 22, 22, 18, kopf.name + zusatz);
   printAt(druck, 175, 12, kopf.seiteGroesse, QStringLiteral("Seite -") + plainText(seite));
@@ -88,7 +78,13 @@ void Seitenkopf(const Store &store, Druckschicht &druck, const Listenkopf &kopf,
   if (kopf.bilder)
     paintPictures(druck);
   druck.DrawWidth = 1;
-  printColumnHeads(druck, kopf, spalten);
+  druck.FontItalic = false;
+  druck.FontSize = kopf.spaltenGroesse;
+  druck.FontBold = true;
+}
+
+void Kopfende(Druckschicht &druck, const Listenkopf &kopf) {
+  druck.FontBold = false;
   if (kopf.logo)
     LogoDrucken(druck, 120, 11);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "printing/ListColumns.h"
+#include "core/Store.h"
+#include "printing/Spalten.h"
 
 /// What a list prints as the head of each page.
 struct Listenkopf {
@@ -25,7 +26,17 @@ const Listenkopf &startlisteZweiterDurchgang();
 const Listenkopf &nichtInDerWertung();
 } // namespace Listenkoepfe
 
+// The two halves of a head, between which the heads of the columns stand.
+void Kopfbeginn(const Store &store, Druckschicht &druck, const Listenkopf &kopf, int seite, const QString &zusatz);
+void Kopfende(Druckschicht &druck, const Listenkopf &kopf);
+
 /// Prints the head of the next page and raises the page number, which starts at 0. `zusatz` follows the list's name.
 /// Leaves size `spaltenGroesse`, neither bold nor italic, line width 1.
-void Seitenkopf(const Store &store, Druckschicht &druck, const Listenkopf &kopf, const ListColumns &spalten, int &seite,
-                const QString &zusatz = {});
+template <typename Row>
+void Seitenkopf(const Store &store, Druckschicht &druck, const Listenkopf &kopf, const QList<Spalte<Row>> &spalten,
+                int &seite, const QString &zusatz = {}) {
+  Kopfbeginn(store, druck, kopf, ++seite, zusatz);
+  druck.list().columns = recorded(spalten);
+  printHeads(druck, spalten, kopf.spaltenY);
+  Kopfende(druck, kopf);
+}

@@ -87,3 +87,33 @@ template <typename Row> QString cellText(const Spalte<Row> &column, const Row &r
   const QString text = trimmedBlanks(column.zelle(row).text());
   return column.danach ? text + QLatin1Char(' ') + trimmedBlanks(column.danach(row).text()) : text;
 }
+
+/// What the cells of a row show.
+template <typename Row> QStringList cellTexts(const QList<Spalte<Row>> &columns, const Row &row) {
+  QStringList texts;
+  for (const auto &column : columns)
+    texts << cellText(column, row);
+  return texts;
+}
+
+template <typename Row> QStringList headsOf(const QList<Spalte<Row>> &columns) {
+  QStringList heads;
+  for (const auto &column : columns)
+    heads << column.kopf;
+  return heads;
+}
+
+/// The columns as other media show them.
+template <typename Row> QList<RecordedColumn> recorded(const QList<Spalte<Row>> &columns) {
+  QList<RecordedColumn> result;
+  for (const auto &column : columns)
+    result.append({column.kopf, column.ausrichtung != Ausrichtung::Links});
+  return result;
+}
+
+/// Prints a row of a list and notes it for the other media.
+template <typename Row>
+void printListRow(Druckschicht &druck, const QList<Spalte<Row>> &columns, const Row &row, double y) {
+  printCells(druck, columns, row, y);
+  druck.list().add(cellTexts(columns, row));
+}

@@ -3,6 +3,7 @@
 #include "evaluation/Cup.h"
 #include "evaluation/CupScoring.h"
 #include "platform/print/PrintMetrics.h"
+#include "support/OtherMedia.h"
 #include "support/CupRaces.h"
 
 #include <QRegularExpression>
@@ -17,6 +18,7 @@ protected:
   QStringList print(const QStringList &keys, bool separate = false) {
     Cupliste(store, druck, {QStringLiteral("Talcup"), separate, keys});
     static const QRegularExpression behind(QStringLiteral("^[^|]*(?=\\|(, |  - | \\|))"));
+    EXPECT_EQ(OtherMedia(printed).differences(), QStringList());
     QStringList lines = asText(printed);
     lines.replaceInStrings(behind, QString());
     return lines;

@@ -1,5 +1,6 @@
 #include "evaluation/TeamList.h"
 
+#include "support/OtherMedia.h"
 #include "support/TeamRace.h"
 
 namespace {
@@ -13,6 +14,7 @@ protected:
     Mannschaftsliste(store, druck, liste, [&](int line) {
       return mitgliederZeilen(store, wertung, numberAtEnd(liste.einheiten[line]), MitgliederOrdnung::NachZeit);
     });
+    EXPECT_EQ(OtherMedia(printed).differences(), QStringList());
     return asText(printed);
   }
 

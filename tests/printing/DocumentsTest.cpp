@@ -3,6 +3,7 @@
 #include "core/Classes.h"
 #include "core/SingleTimes.h"
 #include "platform/Dates.h"
+#include "support/OtherMedia.h"
 #include "support/TestStore.h"
 #include "timing/Ranking.h"
 
@@ -85,6 +86,7 @@ protected:
     const QString text = folder == QLatin1String("Seiten") ? outline(lines) : lines.join(QLatin1Char('\n'));
     EXPECT_EQ(text.toStdString(), expectedPrint(file.toUtf8()).join(QLatin1Char('\n')).toStdString())
         << file.toStdString();
+    EXPECT_EQ(OtherMedia(printed).differences(), QStringList()) << file.toStdString();
   }
   void printLists() {
     Ergebnisliste(store, druck, {});

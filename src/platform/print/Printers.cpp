@@ -28,8 +28,8 @@ void printSeries(qsizetype count, const std::function<QString(qsizetype)> &print
   }
 }
 
-Printers::Printers(std::function<SystemPrinters()> system, QList<Printer> own)
-    : m_system(std::move(system)), m_own(std::move(own)) {}
+Printers::Printers(std::function<SystemPrinters()> system, QList<Printer> own, QList<Printer> exports)
+    : m_system(std::move(system)), m_own(std::move(own)), m_exports(std::move(exports)) {}
 
 const QList<Printer> &Printers::all() {
   const SystemPrinters found = m_system();
@@ -39,6 +39,7 @@ const QList<Printer> &Printers::all() {
         m_all.begin(), m_all.end(), [&found](const Printer &printer) { return printer.DeviceName == found.standard; });
     m_current = standard == m_all.end() ? m_all.last() : *standard;
   }
+  m_all += m_exports;
   return m_all;
 }
 

@@ -36,13 +36,12 @@ struct SystemPrinters {
   QString standard;
 };
 
-/// The printers of this run: those of the system in its order, then our own. The system is asked only when a list or a
-/// name is wanted, as an unreachable print server can block. The current printer is kept until the program ends: at
-/// first the system's default one, without it the last of our own.
+/// The printers of this run: those of the system in its order, then our own, then those that write files for other
+/// programs. The system is asked only when a list or a name is wanted, as an unreachable print server can block. The
+/// current printer is kept until the program ends: at first the system's default one, without it the last of our own.
 class Printers {
 public:
-  /// The system's part, and ours.
-  Printers(std::function<SystemPrinters()> system, QList<Printer> own);
+  Printers(std::function<SystemPrinters()> system, QList<Printer> own, QList<Printer> exports = {});
 
   /// Asks the system anew.
   const QList<Printer> &all();
@@ -64,7 +63,7 @@ private:
   void noteUnreadablePictures(const Recording &recording);
 
   std::function<SystemPrinters()> m_system;
-  QList<Printer> m_own, m_all;
+  QList<Printer> m_own, m_exports, m_all;
   Printer m_current;
   PrintOutcome m_outcome;
 };

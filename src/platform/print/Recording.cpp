@@ -41,6 +41,17 @@ private:
 
 } // namespace
 
+void RecordedList::begin(const QStringList &names, const QStringList &values) {
+  if (sections.isEmpty() || sections.last().values != values)
+    sections.append({names, values, {}});
+}
+
+void RecordedList::add(const QStringList &row) {
+  if (sections.isEmpty())
+    sections.append(RecordedSection());
+  sections.last().rows.append(row);
+}
+
 QStringList asText(const Recording &recording) {
   QStringList lines;
   for (const PrintPage &page : recording.pages) {

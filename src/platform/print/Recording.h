@@ -63,6 +63,28 @@ struct PictureOperation {
 using PrintOperation = std::variant<TextOperation, LineOperation, BoxOperation, FillOperation, PictureOperation>;
 using PrintPage = QList<PrintOperation>;
 
+/// A column of a list, for other media than paper.
+struct RecordedColumn {
+  QString head;
+  /// Stands to the right, as numbers and times do.
+  bool right = false;
+  bool operator==(const RecordedColumn &) const = default;
+};
+/// Rows under one heading, as of a class or a team; the names say what the values of the heading are.
+struct RecordedSection {
+  QStringList names, values;
+  QList<QStringList> rows;
+};
+/// What a list says, free of pages: noted while it is printed, so that all media tell the same.
+struct RecordedList {
+  QList<RecordedColumn> columns;
+  QList<RecordedSection> sections;
+
+  /// Rows go under this heading from now on; one that comes again, as on a new page, is the same.
+  void begin(const QStringList &names, const QStringList &values);
+  void add(const QStringList &row);
+};
+
 struct Recording {
   /// What the document is called in file names.
   QString name;
@@ -73,6 +95,8 @@ struct Recording {
   /// A document has one orientation for all its pages.
   bool landscape = false;
   QList<PrintPage> pages;
+  /// Empty for a document that is no list.
+  RecordedList list;
 };
 
 /// One line an operation, positions with two decimals: for comparing whole pages.

@@ -111,6 +111,23 @@ void Preview::fillMenu() {
   for (const Printer &printer : m_printers->all())
     if (printer.DeviceName != deviceName())
       m_menu->addAction(printer.DeviceName, this, [this, printer] { send(printer); });
+  if (!m_more.isEmpty())
+    m_menu->addSeparator();
+  const int race = m_documents.isEmpty() ? 0 : m_documents.last().race;
+  for (const More &more : std::as_const(m_more))
+    m_menu->addAction(more.caption, this, [this, more, race] { run(more, race); })->setEnabled(more.possible(race));
+}
+
+// It prints and changes nothing, so that no fault of it need end the program.
+void Preview::run(const More &more, int race) {
+  runPrinting(this, *m_printers, [&more, race] {
+    try {
+      more.run(race);
+    } catch (const Fault &fault) {
+      throw PrintFault(fault.report());
+    }
+  });
+  m_outcome->tell(m_printers->outcome());
 }
 
 void Preview::send(const Printer &printer) {

@@ -26,6 +26,14 @@ public:
   Printer printer();
   /// The printers to which the shown documents can be sent; this one is left out of the menu.
   void offer(Printers &printers) { m_printers = &printers; }
+  /// More for the end of that menu, about the race of the last shown document: `possible` asks whether it can be done
+  /// now; a failure of `run` is told.
+  struct More {
+    QString caption;
+    std::function<bool(int race)> possible;
+    std::function<void(int race)> run;
+  };
+  void offer(const More &more) { m_more.append(more); }
 
 protected:
   void closeEvent(QCloseEvent *event) override;
@@ -37,6 +45,7 @@ private:
   void takeFirstSize();
   void fillMenu();
   void send(const Printer &printer);
+  void run(const More &more, int race);
   void showPosition();
 
   PreviewPages *m_pages;
@@ -45,6 +54,7 @@ private:
   QMenu *m_menu;
   QList<Recording> m_documents;
   Printers *m_printers = nullptr;
+  QList<More> m_more;
   /// Documents are coming in from one printing.
   bool m_arriving = false;
 };

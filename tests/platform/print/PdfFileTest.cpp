@@ -42,8 +42,8 @@ TEST(PdfFileTest, IsNamedByRaceDocumentAndTimeAndWritesOverNothing) {
   const QTemporaryDir folder;
   const QString target = folder.path() + QStringLiteral("/Ausdrucke");
   const QString first = target + QStringLiteral("/7 Ergebnisliste-Übung 2026-01-15 14-30-05");
-  EXPECT_EQ(writePdf(target, When, document()), first + QStringLiteral(".pdf"));
-  EXPECT_EQ(writePdf(target, When, document()), first + QStringLiteral(" (2).pdf"));
+  EXPECT_EQ(pdfPrinter(target, [] { return When; }).print(document()), first + QStringLiteral(".pdf"));
+  EXPECT_EQ(pdfPrinter(target, [] { return When; }).print(document()), first + QStringLiteral(" (2).pdf"));
   EXPECT_EQ(readFile(first + QStringLiteral(".pdf")).count("/Subtype /Image"), 1) << "one picture for all pages";
   const QString second = first + QStringLiteral(" (2).pdf");
   const QString text = outputOf("pdftotext", {second, QStringLiteral("-")});

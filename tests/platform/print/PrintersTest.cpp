@@ -18,6 +18,8 @@ TEST(PrintersTest, OwnPrintersStandBehindTheSystemsWhichIsAskedLate) {
   EXPECT_EQ(fake.usedPrinters, QStringList{QStringLiteral("PDF")});
   system = {};
   EXPECT_EQ(Printers(ask, own).DeviceName(), QStringLiteral("Vorschau"));
+  Printers exporting(ask, own, {fake.printer(QStringLiteral("CSV"))});
+  EXPECT_EQ(exporting.DeviceName() + exporting.all().last().DeviceName, QStringLiteral("VorschauCSV"));
   EXPECT_THROW(Printers(ask, {}).print(Recording()), PrintFault);
 }
 

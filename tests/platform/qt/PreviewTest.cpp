@@ -92,3 +92,23 @@ TEST_F(PreviewTest, SendsEveryDocumentToAnotherPrinter) {
   menu->actions()[1]->trigger();
   EXPECT_FALSE(file()->isVisible());
 }
+
+TEST_F(PreviewTest, MoreForTheRaceOfTheLastDocumentIsToldWhenItFails) {
+  int asked = 0;
+  preview.offer({QStringLiteral("mehr"), [](int race) { return race == 2; },
+                 [&](int race) {
+                   asked = race;
+                   throw Fault(QStringLiteral("Geht nicht."));
+                 }});
+  auto *menu = preview.findChild<QMenu *>();
+  for (const int race : {1, 2}) {
+    Recording list = document("Liste", 1);
+    list.race = race;
+    print(list);
+    Q_EMIT menu->aboutToShow();
+    EXPECT_EQ(menu->actions().last()->isEnabled(), race == 2);
+  }
+  QTimer::singleShot(100, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
+  menu->actions().last()->trigger();
+  EXPECT_EQ(asked, 2);
+}

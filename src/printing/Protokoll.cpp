@@ -1,0 +1,91 @@
+#include "printing/Protokoll.h"
+
+#include "exchange/TableReader.h"
+#include "platform/Files.h"
+#include "platform/Numbers.h"
+#include "printing/ListRows.h"
+#include "printing/PrintHelpers.h"
+#include "printing/Seitenkopf.h"
+
+#include <QDate>
+
+#include <algorithm>
+
+namespace {
+
+/// Columns of a journal file, and how many a line has.
+enum Field { TimeOfDay, Race, StartNr, Name, What, Before, After, Fields };
+constexpr int RowsAPage = 52, DateLength = 10;
+constexpr qsizetype LongestCell = 34;
+
+/// A line of the journal and its day.
+struct Entry {
+  QString day;
+  QStringList fields;
+};
+using Columns = QList<Spalte<Entry>>;
+
+Spalte<Entry> column(const char *head, double x, Field field) {
+  return {QString::fromUtf8(head), x, Ausrichtung::Links, 8,
+          [field](const Entry &entry) { return entry.fields[field].left(LongestCell); }};
+}
+
+Columns columns() {
+  const auto when = [](const Entry &entry) { return entry.day + QLatin1Char(' ') + entry.fields[TimeOfDay]; };
+  return {{QStringLiteral("Zeitpunkt"), 6, Ausrichtung::Links, 8, when},
+          column("St.Nr.", 36, StartNr),
+          column("Name", 48, Name),
+          column("Was", 96, What),
+          column("vorher", 132, Before),
+          column("nachher", 168, After)};
+}
+
+QByteArray linesOfRace(const QByteArray &journal, int race) {
+  QByteArray lines;
+  for (const QByteArray &line : journal.split('\n'))
+    if (line.split(';').value(Race) == QByteArray::number(race))
+      lines += line + '\n';
+  return lines;
+}
+
+// The newest first, in the file and of the days.
+QList<Entry> entriesOfDay(const QString &path, const QString &name, int race) {
+  const QByteArray lines = linesOfRace(readFile(path), race);
+  if (lines.isEmpty())
+    return {};
+  const QDate date = QDate::fromString(name.left(DateLength), Qt::ISODate);
+  QList<Entry> entries;
+  for (const QStringList &fields : tableFrom(lines, name).lines)
+    if (fields.size() == Fields)
+      entries.prepend({date.toString(QStringLiteral("dd.MM.")), fields});
+  return entries;
+}
+
+QList<Entry> entriesOf(const QString &folder, int race) {
+  QStringList days = filesIn(folder);
+  std::reverse(days.begin(), days.end());
+  QList<Entry> entries;
+  for (const QString &day : std::as_const(days))
+    if (day.endsWith(QStringLiteral(".csv")))
+      entries += entriesOfDay(folder + QLatin1Char('/') + day, day, race);
+  return entries;
+}
+
+} // namespace
+
+void Protokoll(const Store &store, Druckschicht &druck, int race) {
+  static const Listenkopf head{QStringLiteral("Protokoll")};
+  Dokumentanfang(store, druck, head.name);
+  const Columns all = columns();
+  int page = 0, row = 0;
+  Seitenkopf(store, druck, head, all, page);
+  for (const Entry &entry : entriesOf(store.DatenOrdner + QStringLiteral("Protokoll"), race)) {
+    if (++row > RowsAPage) {
+      druck.NewPage();
+      Seitenkopf(store, druck, head, all, page);
+      row = 1;
+    }
+    printListRow(druck, all, entry, gitterY(row));
+  }
+  druck.EndDoc();
+}
