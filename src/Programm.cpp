@@ -45,6 +45,7 @@ void letPaint() {
 Programm::Programm(Store &store, Printers &printers)
     : m_store(store), m_printers(printers), m_desk(store.Fenster, [&store] { FensterSpeichern(store); }),
       m_openings(openings()) {
+  m_desk.hints().rules = [this](const QString &screen, const ShownValues &shown) { return hintsOf(screen, shown); };
   store.umgebung.erinnern = [this](const QStringList &lines) { remind(lines); };
 }
 
@@ -70,7 +71,15 @@ void Programm::sicherungHinweis(const QString &text) {
 }
 
 void Programm::protokollHinweis(const QString &text) {
-  m_menu->protokollHinweis(text);
+  m_journalHint = text;
+  m_desk.hints().renew();
+}
+
+QList<Hint> Programm::hintsOf(const QString &screen, const ShownValues &shown) {
+  QList<Hint> hints = m_hintBook.of(screen, shown);
+  if (screen == QStringLiteral("Form1") && !m_journalHint.isEmpty())
+    hints << Hint{m_journalHint};
+  return hints;
 }
 
 QList<SavedFile> Programm::openWork() const {
@@ -197,7 +206,7 @@ void Programm::openClassOrder() {
   KlassenZuordnen(m_store);
   auto &form = replace(*m_hub, new Form15(m_desk, m_store));
   disconnect(&form, &Screen::closed, m_hub, nullptr);
-  connect(&form, &Form15::saving, m_hub, [this] { m_desk.show(*m_hub); });
+  connect(&form, &Form15::saving, m_hub, [this] { comeBackTo(*m_hub); });
 }
 
 void Programm::openTiming() {
@@ -220,10 +229,13 @@ void Programm::openAuxiliaryTiming(Form7 &timing) {
 
 void Programm::showResult(Screen &opener, bool open) {
   auto *result = shown<Form13>();
-  if (open && !result)
-    beside(opener, new Form13(m_desk, m_store));
-  if (!open && result)
+  if (open && !result) {
+    result = new Form13(m_desk, m_store);
+    tie(opener, *result);
+    Desk::showBeside(*result);
+  } else if (!open && result) {
     result->close();
+  }
 }
 
 void Programm::openPrinting() {
@@ -308,7 +320,7 @@ void Programm::adopt(Screen &screen) {
 
 void Programm::showInPlace(Screen &opener, Screen &screen) {
   adopt(screen);
-  connect(&screen, &Screen::closed, &opener, [this, &opener] { m_desk.show(opener); });
+  connect(&screen, &Screen::closed, &opener, [this, &opener] { comeBackTo(opener); });
   // A copy made beside a race in work would load its files over what has been typed.
   if (auto *copy = shown<CupKopie>())
     copy->close();
@@ -316,13 +328,23 @@ void Programm::showInPlace(Screen &opener, Screen &screen) {
   m_desk.show(screen);
 }
 
-// The opener is activated again when the other closes, unless it is closing itself.
 void Programm::showBeside(Screen &opener, Screen &screen) {
+  tie(opener, screen);
+  m_desk.show(screen);
+}
+
+void Programm::comeBackTo(Screen &screen) {
+  m_desk.show(screen);
+  if (m_reminder)
+    m_reminder->raise();
+}
+
+// The opener is activated again when the other closes, unless it is closing itself.
+void Programm::tie(Screen &opener, Screen &screen) {
   adopt(screen);
-  connect(&screen, &Screen::closed, &opener, [this, &opener] { m_desk.show(opener); });
+  connect(&screen, &Screen::closed, &opener, [this, &opener] { comeBackTo(opener); });
   connect(&opener, &Screen::closed, &screen, [&opener, &screen] {
     disconnect(&screen, &Screen::closed, &opener, nullptr);
     screen.close();
   });
-  m_desk.show(screen);
 }

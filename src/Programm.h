@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Store.h"
+#include "hints/Hints.h"
 #include "platform/print/Printers.h"
 #include "platform/qt/Desk.h"
 
@@ -35,9 +36,13 @@ public:
   void sicherungHinweis(const QString &text);
   /// What the line at the foot of the menu alone tells besides.
   void protokollHinweis(const QString &text);
+  /// What renews the other hints; it can be asked to do so at once, or be left without rules.
+  HintRenewal &hints() { return m_desk.hints(); }
 
 private:
   using Opening = std::function<void()>;
+
+  QList<Hint> hintsOf(const QString &screen, const ShownValues &shown);
 
   QHash<QString, Opening> openings();
   void open(const QString &screen);
@@ -73,15 +78,20 @@ private:
   template <typename S> S &replace(Screen &opener, S *screen);
   /// Shows `screen` beside `opener`.
   template <typename S> S &beside(Screen &opener, S *screen);
+  /// Shows a screen again from which another was opened; the reminder stays in front.
+  void comeBackTo(Screen &screen);
   /// The open screen of this kind, if there is one.
   template <typename S> S *shown() const;
   void adopt(Screen &screen);
   void showInPlace(Screen &opener, Screen &screen);
   void showBeside(Screen &opener, Screen &screen);
+  void tie(Screen &opener, Screen &screen);
 
   Store &m_store;
   Printers &m_printers;
   Desk m_desk;
+  HintBook m_hintBook{m_store};
+  QString m_journalHint;
   QHash<QString, Opening> m_openings;
   QPointer<Form1> m_menu;
   QPointer<Form4> m_hub;

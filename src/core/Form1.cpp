@@ -3,8 +3,6 @@
 #include "core/RecordFiles.h"
 #include "core/WebAdresse.h"
 #include "platform/Numbers.h"
-#include "platform/qt/Desk.h"
-#include "platform/qt/HintLine.h"
 #include "platform/qt/Picture.h"
 #include "ui_Form1.h"
 
@@ -25,7 +23,6 @@ Form1::Form1(Desk &desk, Store &store)
   m_timer.setSingleShot(true);
   m_timer.setInterval(2000ms);
   connect(&m_timer, &QTimer::timeout, this, &Form1::showName);
-  connect(&desk, &Desk::hintChanged, this, &Form1::showHint); // after the line itself has heard of it
   connect(ui->Command1, &QPushButton::clicked, this, [this] { Q_EMIT oeffnet(QStringLiteral("Form3")); });
   connect(ui->Command2, &QPushButton::clicked, this, [this] { Q_EMIT oeffnet(QStringLiteral("Form2")); });
   connect(ui->Command3, &QPushButton::clicked, this, [this] { Q_EMIT oeffnet(QStringLiteral("Form4")); });
@@ -52,15 +49,6 @@ void Form1::becomeActive() {
   for (auto *picture : m_pictures)
     picture->hide();
   m_pictures.at(size_t(m_store.umgebung.zufallszahl() * PictureCount))->show();
-}
-
-void Form1::protokollHinweis(const QString &text) {
-  m_ownHint = text;
-  showHint();
-}
-
-void Form1::showHint() {
-  findChild<HintLine *>()->setHint((desk().hint() + QLatin1Char(' ') + m_ownHint).trimmed());
 }
 
 void Form1::closing() {

@@ -25,8 +25,6 @@ public:
   ~Form1() override;
 
   void becomeActive() override;
-  /// What its hint line tells behind what those of all screens tell; empty = nothing.
-  void protokollHinweis(const QString &text);
 
 Q_SIGNALS:
   /// A register is to be opened, by its object name.
@@ -40,12 +38,10 @@ private:
   void makePictures();
   void showName();
   void showAddress();
-  void showHint();
 
   static constexpr int PictureCount = 8;
   std::unique_ptr<Ui::Form1> ui;
   Store &m_store;
   std::array<Picture *, PictureCount> m_pictures{};
   QTimer m_timer;
-  QString m_ownHint;
 };

@@ -4,7 +4,7 @@
 #include "evaluation/Series.h"
 #include "evaluation/TimeSum.h"
 #include "platform/Numbers.h"
-#include "platform/qt/BusyPointer.h"
+#include "platform/qt/BusyTime.h"
 #include "ui_Form19.h"
 
 Form19::Form19(Desk &desk, Store &store)
@@ -28,7 +28,7 @@ void Form19::generate() {
   setControlEnabled(ui->List1, false, ui->Command1);
   setControlEnabled(ui->Command2, false, ui->Command1);
   {
-    const BusyPointer busy;
+    const BusyTime busy;
     Q_EMIT arbeitBegonnen();
     zeitsummeErzeugen(m_store, rennenDerWertung(ui->List1->lines(), ui->List1->marked()),
                       int(wholeNumber(ui->Label2->text())));

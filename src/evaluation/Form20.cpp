@@ -6,7 +6,7 @@
 #include "evaluation/CupList.h"
 #include "evaluation/Series.h"
 #include "platform/Numbers.h"
-#include "platform/qt/BusyPointer.h"
+#include "platform/qt/BusyTime.h"
 #include "platform/qt/PrintRun.h"
 #include "ui_Form20.h"
 
@@ -97,7 +97,7 @@ void Form20::nextPlace() {
 }
 
 void Form20::evaluate() {
-  const BusyPointer busy;
+  const BusyTime busy;
   Q_EMIT arbeitBegonnen();
   const qint64 wanted = wholeNumber(trimmedBlanks(ui->Text3->text()));
   const CupErgebnis result = cupAuswerten(m_store, rennenDerWertung(ui->List1->lines(), ui->List1->marked()), wanted);

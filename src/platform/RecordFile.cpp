@@ -3,6 +3,8 @@
 #include "platform/Faults.h"
 #include "platform/Files.h"
 
+#include <algorithm>
+
 void RecordFile::open(const QString &path) {
   close();
   m_image = readIfThere(path, LargestRecordFile).value_or(QByteArray());
@@ -19,6 +21,12 @@ void RecordFile::close() {
 QByteArray RecordFile::read(int n) const {
   requireOpen(QStringLiteral("gelesen"));
   return recordIn(m_image, n, m_length);
+}
+
+QByteArrayView RecordFile::view(int n) const {
+  return QByteArrayView(m_image)
+      .sliced(qsizetype(n - 1) * m_length)
+      .first(std::min<qsizetype>(m_length, m_image.size() - qsizetype(n - 1) * m_length));
 }
 
 void RecordFile::write(int n, const QByteArray &record) {

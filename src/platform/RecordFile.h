@@ -25,6 +25,8 @@ public:
   bool holds(int n) const { return holdsRecord(m_image, n, m_length); }
   /// Record n, which the file must hold; bytes beyond the end of the file are zero.
   QByteArray read(int n) const;
+  /// The same without a copy, valid until the next write; shorter at the end of the file.
+  QByteArrayView view(int n) const;
   /// Writes record n ≥ 1 of exactly the record length; a gap before it is filled with zero bytes. It is on the disk
   /// only after syncFile.
   void write(int n, const QByteArray &record);

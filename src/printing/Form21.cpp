@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -113,11 +114,22 @@ void Form21::select(int i) {
 }
 
 void Form21::move(QLineEdit *Row::*field, int step) {
-  if (m_selection < 0)
-    return;
-  QLineEdit *box = m_rows[std::size_t(m_selection)].*field;
+  if (m_selection >= 0)
+    stepNumber(m_rows[std::size_t(m_selection)].*field, step);
+}
+
+void Form21::stepNumber(QLineEdit *box, int step) {
   box->setText(plainText(leadingNumber(box->text()) + step));
   preview();
+}
+
+// Their bounds stand in the fields while a number is typed, so that some can only be reached step by step.
+bool Form21::stepByKey(QLineEdit *box, int key) {
+  const bool numeric = std::none_of(m_rows.begin(), m_rows.end(), [box](const Row &row) { return box == row.datei; });
+  if (!numeric || (key != Qt::Key_Up && key != Qt::Key_Down))
+    return false;
+  stepNumber(box, key == Qt::Key_Up ? 1 : -1);
+  return true;
 }
 
 void Form21::preview() {
@@ -146,6 +158,9 @@ bool Form21::eventFilter(QObject *watched, QEvent *event) {
     for (std::size_t i = 0; i < m_rows.size(); ++i)
       if (m_rows[i].image == watched)
         select(int(i));
+  auto *box = qobject_cast<QLineEdit *>(watched);
+  if (box && event->type() == QEvent::KeyPress && stepByKey(box, static_cast<QKeyEvent *>(event)->key()))
+    return true;
   return Screen::eventFilter(watched, event);
 }
 

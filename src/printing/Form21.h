@@ -45,6 +45,8 @@ private:
   void hold(QLineEdit *field, const WerbeGrenze &range);
   void select(int i);
   void move(QLineEdit *Row::*field, int step);
+  void stepNumber(QLineEdit *box, int step);
+  bool stepByKey(QLineEdit *box, int key);
   void preview();
   void showBanner(const Row &row, bool chosen);
   int pixels(double millimetres) const;

@@ -12,6 +12,7 @@ CupKopie::CupKopie(Desk &desk, Store &store, std::function<QString()> raceText)
   setUp();
   ui->Label1->setText(ui->Label1->text().arg(plainText(store.AktRennen)));
   ui->Text2->setText(plainText(store.AktRennen + 1));
+  onReturn(ui->Text2, [this] { ui->Check1->setFocus(); });
   connect(ui->Command16, &QPushButton::clicked, this, &CupKopie::makeCopy);
   connect(ui->Command1, &QPushButton::clicked, this, &CupKopie::close);
   ui->Text2->setFocus();

@@ -131,15 +131,19 @@ void Form15::showNumber(int cell) {
   m_cells[cell]->setText(plainText(m_raster[cell]));
 }
 
+void Form15::showSelected() {
+  ui->Text1->setText(m_store.KlasseGenauName[selected()]);
+  ui->Text2->setText(plainText(m_raster[selected()]));
+}
+
 void Form15::selectCell(int cell) {
-  ui->Text1->setText(m_store.KlasseGenauName[cell]);
   ui->Label5->setText(plainText(cell));
   const bool numbered = m_raster[cell] >= 1;
   if (!numberCell(m_raster, cell))
     m_store.umgebung.piep();
   else if (!numbered)
     showNumber(cell);
-  ui->Text2->setText(plainText(m_raster[cell]));
+  showSelected();
   for (int other = 0; other < Cells; ++other)
     m_cells[other]->setChosen(other == cell, QColor(ChosenLetters));
   setTabStop(cell);
@@ -187,6 +191,8 @@ void Form15::clearAll() {
   clearGrid(m_store, m_raster);
   for (int cell = 0; cell < Cells; ++cell)
     showNumber(cell);
+  if (selected() >= 0)
+    showSelected();
 }
 
 QList<SavedFile> Form15::unsaved() const {

@@ -49,6 +49,7 @@ private:
   void showCells();
   void showHeadings();
   void selectCell(int cell);
+  void showSelected();
   void focusNeighbour(int cell, int columns, int rows);
   void setTabStop(int cell);
   void showNumber(int cell);

@@ -119,8 +119,10 @@ void Form5::add() {
 void Form5::remove() {
   setControlEnabled(ui->Command3, false, ui->List2);
   ui->Label5->clear();
+  const int line = ui->List2->chosenLine();
   removeParticipant(m_store, int(wholeNumber(ui->Label7->text())));
   fillParticipants();
+  ui->List2->startKeysAt(line);
   Q_EMIT teilnehmerGeloescht();
 }
 

@@ -76,6 +76,7 @@ void Form6::fillCombos() {
 void Form6::connectParticipant() {
   connect(ui->List1, &LineList::chosen, this, &Form6::showLine);
   onLeave(ui->Text1, [this] { storeNumber(); });
+  onReturn(ui->Text1, [this] { ui->List1->setFocus(); });
   storeCombo(ui->Combo1, [](auto &participant, int position) { participant.VereinNr = position; });
   storeCombo(ui->Combo3, [](auto &participant, int position) { participant.MannschaftNr = qint16(position); });
   storeCombo(ui->Combo4, [](auto &participant, int position) { participant.GruppeNr = position; });
@@ -251,6 +252,8 @@ void Form6::deleteNumbers() {
 void Form6::teilnehmerWaehlen(int row) {
   for (QLabel *label : std::initializer_list<QLabel *>{ui->Label5, ui->Label16, ui->Label14, ui->Label13})
     label->hide();
+  if (ui->List1->lineOfNumber(row) < 0) // it may have been filled before he was added
+    zeilenVerschoben();
   const int line = ui->List1->lineOfNumber(row);
   if (line < 0)
     return;

@@ -7,6 +7,7 @@
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
 #include "platform/qt/FarbTabelle.h"
+#include "platform/qt/LineSeek.h"
 #include "platform/qt/Look.h"
 #include "timing/Ranking.h"
 #include "ui_Form7.h"
@@ -82,10 +83,16 @@ QList<QWidget *> Form7::secondRunControls() const {
 
 void Form7::connectControls() {
   for (auto *option : {ui->Option1, ui->Option2, ui->Option3, ui->Option4, ui->Option5})
-    connect(option, &QRadioButton::clicked, this, &Form7::refill);
+    connect(option, &QRadioButton::clicked, this, [this] {
+      refill();
+      ui->List2->setFocus();
+    });
   connect(ui->List2, &LineList::chosen, this, &Form7::lineChosen);
   connect(ui->List2, &LineList::doubleChosen, this, &Form7::returnInList);
   onReturn(ui->List2, [this] { returnInList(); });
+  new LineSeek(*ui->List2, [this](const QString &typed) {
+    return lineSought(m_store, ui->List2->lines(), typed, ui->List2->chosenLine());
+  });
   connectLauf(m_lauf1, ui->Command4, ui->Command2);
   connectLauf(m_lauf2, ui->Command1, ui->Command6);
   connectStatus(ui->Combo2, &TeilnehmerZeile::Status1);

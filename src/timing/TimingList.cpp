@@ -5,6 +5,8 @@
 #include "platform/SortedLines.h"
 #include "timing/Ranking.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr auto TimeMask = "0####.#0";
@@ -77,7 +79,43 @@ QString headLine(const Store &store, const TeilnehmerZeile &participant) {
          QString(35, QLatin1Char('-'));
 }
 
+/// How a line fits what was typed.
+enum class Fit { None, Beginning, Whole };
+
+Fit numberFit(const TeilnehmerZeile &participant, const QString &typed) {
+  const QString number = plainText(participant.StartNr);
+  if (participant.StartNr == wholeNumber(typed))
+    return Fit::Whole;
+  return number.startsWith(typed) ? Fit::Beginning : Fit::None;
+}
+
+// The name begins with the first letter of a line.
+Fit nameFit(const QString &line, const QString &typed) {
+  const auto letter = std::find_if(line.begin(), line.end(), [](QChar c) { return c.isLetter(); });
+  const QStringView name = QStringView(line).mid(letter - line.begin());
+  return name.startsWith(typed, Qt::CaseInsensitive) ? Fit::Whole : Fit::None;
+}
+
+Fit fit(const Store &store, const QString &line, const QString &typed) {
+  const int row = numberAtEnd(line);
+  if (row == 0 || typed.isEmpty())
+    return Fit::None;
+  return typed[0].isDigit() ? numberFit(store.Teilnehmer[row], typed) : nameFit(line, typed);
+}
+
 } // namespace
+
+std::pair<int, bool> lineSought(const Store &store, const QStringList &lines, const QString &typed, int from) {
+  int found = -1, fitting = 0;
+  for (qsizetype step = 1; step <= lines.size(); ++step) {
+    const int line = int((from + step) % lines.size());
+    const Fit how = fit(store, lines[line], typed);
+    fitting += how != Fit::None;
+    if (how == Fit::Whole && found < 0)
+      found = line;
+  }
+  return {found, found >= 0 && fitting == 1};
+}
 
 QStringList ZeitlisteFuellen(Store &store, ListMode mode) {
   if (mode == ListMode::ZweiterDurchgang)

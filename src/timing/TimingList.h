@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+#include <utility>
+
 /// The orders of the participants on the timing screen, each with its option button.
 enum class ListMode { Startnummer, Zeiten, KlasseStartnummer, KlasseZeit, ZweiterDurchgang };
 
@@ -13,3 +15,7 @@ enum class ListMode { Startnummer, Zeiten, KlasseStartnummer, KlasseZeit, Zweite
 ///
 /// ZweiterDurchgang of a race by groups ends in a RangeFault if a row above 100 is listed.
 QStringList ZeitlisteFuellen(Store &store, ListMode mode);
+
+/// The line that a text typed into the list means, −1 = none, and whether it can mean no other, also when it grows.
+/// Digits are a whole start number, anything else the beginning of a name; of several the next one behind line `from`.
+std::pair<int, bool> lineSought(const Store &store, const QStringList &lines, const QString &typed, int from);

@@ -7,6 +7,7 @@
 
 #include <QClipboard>
 #include <QComboBox>
+#include <QCryptographicHash>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QMap>
@@ -60,6 +61,8 @@ protected:
       own->writeFile(QLatin1String(name), "bleibt");
     own->store.nachDemSpeichern = [this] { readAgain(); };
     RoofTest::start(own->store);
+    if (!withHints)
+      programm->hints().rules = nullptr;
   }
 
   // Meant: the comma of fractional points makes the lines of the R file slip, and an empty status reads as none.
@@ -242,6 +245,34 @@ protected:
     }
   }
 
+  /// Everything that the operator has and sees, but for the hints.
+  QByteArray state() {
+    QByteArray all = QByteArray::number(own->beeps);
+    for (const auto &[name, bytes] : files().asKeyValueRange())
+      all += name.toUtf8() + bytes;
+    for (const auto *window : windows())
+      for (const auto *control : controls(window)) {
+        const auto *list = qobject_cast<const LineList *>(control);
+        all += control->objectName().toUtf8() + shownIn(control).toUtf8() + (control->hasFocus() ? "*" : "");
+        all += list ? list->lines().join(QLatin1Char('\n')).toUtf8() : QByteArray();
+      }
+    return QCryptographicHash::hash(all, QCryptographicHash::Sha1);
+  }
+
+  QList<QByteArray> walk(int steps, bool hints) {
+    QList<QByteArray> states;
+    withHints = hints;
+    random.seed(unsigned(setting("VEXT_OPERATOR_SEED", 1)));
+    startAnew();
+    while (states.size() < steps && !HasFailure()) {
+      step();
+      programm->hints().renew();
+      states << state();
+    }
+    return states;
+  }
+
+  bool withHints = true;
   std::mt19937 random;
   std::unique_ptr<TestStore> own;
   QString last;
@@ -262,4 +293,16 @@ TEST_F(RandomOperator, HurtsNothing) {
     step();
   EXPECT_FALSE(HasFailure()) << last.toStdString();
   std::printf("seed %d: %d steps, %d told faults\n", seed, steps, faults);
+}
+
+// VEXT_OPERATOR_STEPS makes it longer.
+TEST(RandomOperatorWalk, HasAndSeesTheSameWithAndWithoutHints) {
+  struct Walk : RandomOperator {
+    void TestBody() override {}
+    using RandomOperator::walk;
+  };
+  const int steps = setting("VEXT_OPERATOR_STEPS", 300);
+  const auto with = Walk().walk(steps, true), without = Walk().walk(steps, false);
+  const auto [one, other] = std::mismatch(with.begin(), with.end(), without.begin(), without.end());
+  EXPECT_TRUE(one == with.end() && other == without.end()) << "from step " << (one - with.begin());
 }

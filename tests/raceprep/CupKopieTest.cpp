@@ -20,7 +20,7 @@ TEST_P(CupKopieTest, CopiesUnderTheTypedNumberOrClosesInSilence) {
   const QSignalSpy copied(form.get(), &CupKopie::copied);
   onRegister = QStringLiteral("getippt");
   EXPECT_EQ(text("Text2"), QStringLiteral("2"));
-  keys({good ? Qt::Key_4 : Qt::Key_0, Qt::Key_Tab, Qt::Key_Space}); // the number replaces the marked proposal
+  keys({good ? Qt::Key_4 : Qt::Key_0, Qt::Key_Return, Qt::Key_Space}); // the number replaces the marked proposal
   press("Command16");
   EXPECT_FALSE(form->isVisible());
   EXPECT_EQ(copied.count(), good);

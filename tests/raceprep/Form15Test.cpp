@@ -55,6 +55,18 @@ TEST_F(Form15Test, TypedNumberIsShownByTheButtonAndCountsFromTheClosing) {
   EXPECT_EQ(test.file(QStringLiteral("K 1.lst")), classFile(store, store.KlasseReihenfolge));
 }
 
+TEST_F(Form15Test, AfterClearingTheFieldsShowTheNewValuesOfTheirCell) {
+  QTest::mouseClick(cell(0), Qt::LeftButton);
+  type("Text1", "Damen und Herren");
+  press("Command4");
+  press("Command5");
+  find("Text1")->setFocus();
+  find("Text2")->setFocus();
+  form->close();
+  EXPECT_EQ(store.KlasseReihenfolge(1, 0, 0, 0), 0);
+  EXPECT_NE(store.KlasseGenauName[0], QStringLiteral("Damen und Herren"));
+}
+
 TEST_F(Form15Test, KeysWalkOverVisibleCellsAndPressThem) {
   EXPECT_TRUE(cell(0)->hasFocus());
   keys({Qt::Key_Right, Qt::Key_Right, Qt::Key_Down, Qt::Key_Return}); // no cell beside the second

@@ -55,6 +55,16 @@ TEST_F(Form5Test, FiltersAndOrder) {
   EXPECT_EQ(lines("List1").size(), 3);
 }
 
+TEST_F(Form5Test, AfterADeletionTheKeysStartFromTheLineThatWasThere) {
+  openWith({1, 2, 3});
+  clickLine("List2", 1);
+  for (const auto &[arrow, line] : {std::pair(Qt::Key_Down, 1), {Qt::Key_Up, 0}}) {
+    press("Command3");
+    key(arrow);
+    EXPECT_EQ(find<LineList>("List2")->chosenLine(), line);
+  }
+}
+
 TEST_F(Form5Test, KeysDoubleClicksAndNewEntryAskForTheOtherScreens) {
   openWith({3, 2});
   const QSignalSpy athlete(form.get(), &Form5::athletGewaehlt), row(form.get(), &Form5::teilnehmerGewaehlt),

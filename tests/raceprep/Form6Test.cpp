@@ -107,6 +107,14 @@ TEST_F(Form6Test, OnTopOfTheParticipantList) {
   open();
   form->teilnehmerWaehlen(2);
   EXPECT_EQ(label("Label6"), QStringLiteral("2"));
+  type("Text1", "5");
+  key(Qt::Key_Return);
+  EXPECT_TRUE(focused("List1") && store.Teilnehmer[2].StartNr == 5);
+  const int added = test.enter(store.Teilnehmer[3].LaeuferNr);
+  form->teilnehmerWaehlen(added);
+  EXPECT_EQ(label("Label6").toInt(), added);
+  form->teilnehmerWaehlen(999); // in no list
+  EXPECT_EQ(label("Label6"), QString());
   store.Teilnehmer[3] = {};
   form->zeilenVerschoben();
   EXPECT_EQ(label("Label2") + label("Label6"), QStringLiteral("bitte Teilnehmer anklicken !"));

@@ -100,6 +100,36 @@ TEST_F(Form7Test, takesOnlyWhatItsFileGivesBack) {
   EXPECT_EQ(store.Teilnehmer[1].Punkte, 12);
 }
 
+// Never a time: what is typed in the list chooses a person or is forgotten.
+TEST_F(Form7Test, typingInTheListChoosesAPerson) {
+  store.Teilnehmer[2].StartNr = 25;
+  store.Teilnehmer[3].StartNr = 2;
+  open();
+  const auto chosen = [this](const char *typed, std::initializer_list<Qt::Key> after) {
+    find("List2")->setFocus();
+    keys(typed);
+    keys(after);
+    return label("Label11").toStdString() + (focused("Text1") ? " time" : " list");
+  };
+  EXPECT_EQ(chosen("25", {Qt::Key_Return}), "2 time");
+  EXPECT_EQ(chosen("2", {Qt::Key_Return}), "3 time");
+  EXPECT_EQ(chosen("99", {Qt::Key_Return}), "3 list");
+  EXPECT_EQ(chosen("25", {Qt::Key_Escape}), "3 list");
+  EXPECT_EQ(chosen("29", {Qt::Key_Backspace, Qt::Key_5, Qt::Key_Return}), "2 time");
+  EXPECT_EQ(chosen("ad", {Qt::Key_Return}), "1 time");
+  EXPECT_EQ(chosen("cerny i", {Qt::Key_Return}), "3 time");
+  keys("41");
+  key(Qt::Key_Return);
+  EXPECT_EQ(chosen("1", {}), "3 list");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return focused("Text1"); })); // by the pause, as no other number begins so
+  EXPECT_EQ(label("Label11"), QStringLiteral("1"));
+  EXPECT_EQ(chosen("25", {Qt::Key_Tab}).substr(0, 1), "1");
+  for (const int row : {1, 2, 3})
+    EXPECT_EQ(store.Teilnehmer[row].Zeit1, row == 3 ? 41 : 0) << row;
+  press("Option3");
+  EXPECT_TRUE(focused("List2"));
+}
+
 TEST_F(Form7Test, secondRun) {
   store.Rennen.ZweiDurchgaenge = 1;
   store.Teilnehmer[1].Zeit1 = 50;

@@ -25,6 +25,13 @@ void Desk::show(Screen &screen) {
   activate(screen);
 }
 
+void Desk::showBeside(Screen &screen) {
+  screen.setAttribute(Qt::WA_ShowWithoutActivating);
+  screen.comeBack();
+  screen.raise();
+  screen.setAttribute(Qt::WA_ShowWithoutActivating, false);
+}
+
 void Desk::activate(Screen &screen) {
   if (m_active == &screen)
     return;
@@ -35,5 +42,5 @@ void Desk::activate(Screen &screen) {
 
 void Desk::setHint(const QString &text) {
   m_hint = text;
-  Q_EMIT hintChanged(m_hint);
+  Q_EMIT hintChanged();
 }

@@ -2,6 +2,7 @@
 
 #include "platform/WindowPlaces.h"
 #include "platform/qt/FieldGuard.h"
+#include "platform/qt/HintRenewal.h"
 
 #include <QPointer>
 #include <QSize>
@@ -10,8 +11,8 @@
 
 class Screen;
 
-/// What all screens of one program share: the guard of the fields, the screen that is active, and the places of the
-/// windows, and the hint at their feet.
+/// What all screens of one program share: the guard of the fields, the screen that is active, the places of the
+/// windows, and the hints at their feet.
 class Desk : public QObject {
   Q_OBJECT
 
@@ -31,16 +32,19 @@ public:
 
   /// Shows a screen on top and makes it active.
   void show(Screen &screen);
+  /// Shows a screen on top and leaves the keyboard, and all that hangs on it, where it is.
+  static void showBeside(Screen &screen);
   /// Makes a visible screen active: fields of other screens are left first, then its activation steps run, once for
   /// each change from another screen.
   void activate(Screen &screen);
 
-  /// What the quiet line at the foot of every screen tells, also of those that open later; empty = nothing.
+  /// What the quiet line at the foot of every screen tells first, also of those that open later; empty = nothing.
   void setHint(const QString &text);
   const QString &hint() const { return m_hint; }
+  HintRenewal &hints() { return m_hints; }
 
 Q_SIGNALS:
-  void hintChanged(const QString &text);
+  void hintChanged();
 
 private:
   FieldGuard m_guard;
@@ -48,5 +52,6 @@ private:
   std::function<void()> m_savePlaces;
   QPointer<Screen> m_active;
   QString m_hint;
+  HintRenewal m_hints;
   QSize m_frame{4, 28};
 };

@@ -110,6 +110,7 @@ LineList::LineList(QWidget *parent) : QListView(parent) {
 void LineList::fill(QStringList lines) {
   const int scrolled = verticalScrollBar()->value();
   m_model.setLines(std::move(lines));
+  m_keysFrom = -1;
   choose(-1);
   verticalScrollBar()->setValue(scrolled);
 }
@@ -215,8 +216,13 @@ QModelIndex LineList::aimedAt(QPoint at) {
 
 // With nothing chosen yet, Qt would go to the first line by every key.
 QModelIndex LineList::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
-  if (action == MoveEnd && !currentIndex().isValid())
-    return m_model.index(int(lines().size()) - 1);
+  const int last = int(lines().size()) - 1;
+  if (currentIndex().isValid())
+    return QListView::moveCursor(action, modifiers);
+  if (action == MoveEnd)
+    return m_model.index(last);
+  if (m_keysFrom >= 0 && (action == MoveDown || action == MoveUp))
+    return m_model.index(std::clamp(action == MoveDown ? m_keysFrom : m_keysFrom - 1, 0, std::max(last, 0)));
   return QListView::moveCursor(action, modifiers);
 }
 
@@ -261,14 +267,18 @@ void LineList::saveAsTable() {
   }
 }
 
-void LineList::mousePressEvent(QMouseEvent *event) {
-  const QModelIndex index = aimedAt(event->pos());
-  if (event->button() != Qt::LeftButton || !index.isValid())
-    return;
+void LineList::pick(int line) {
+  const QModelIndex index = m_model.index(line);
   const bool again = index == currentIndex();
   setCurrentIndex(index);
   if (again)
-    Q_EMIT chosen(index.row());
+    Q_EMIT chosen(line);
+}
+
+void LineList::mousePressEvent(QMouseEvent *event) {
+  const QModelIndex index = aimedAt(event->pos());
+  if (event->button() == Qt::LeftButton && index.isValid())
+    pick(index.row());
 }
 
 void LineList::mouseMoveEvent(QMouseEvent *) {} // no choosing by dragging

@@ -52,6 +52,10 @@ public:
   const QStringList &lines() const { return m_model.lines(); }
   /// The highlighted line, from 0; −1 = none.
   int chosenLine() const { return currentIndex().row(); }
+  /// Chooses a line as a press on it does.
+  void pick(int line);
+  /// The next arrow key starts from here although no line is chosen, until the list is filled anew.
+  void startKeysAt(int line) { m_keysFrom = line; }
   /// The width of its lines in pixels; on a small monitor it gives way a little.
   void setGoodWidth(int lines);
   QSize sizeHint() const override;
@@ -88,6 +92,7 @@ private:
   std::function<QList<QStringList>()> m_table = [this] { return tableOf(shown(lines())); };
   int m_goodWidth = 0;
   bool m_byCode = false;
+  int m_keysFrom = -1;
   QStringList m_aimedLines;
 };
 

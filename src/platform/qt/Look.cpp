@@ -42,8 +42,10 @@ void setColors(QPalette &palette) {
     palette.setColor(QPalette::Disabled, role, QColor(0x8A919C));
 }
 
-/// Fusion, but for the frames of cards and lists: at 125 % it loses some of their lines; and the chosen line of a combo
-/// ends with "…" where it does not fit.
+constexpr const char *Warned = "gewarnt";
+
+/// Fusion, but for the frames of cards and lists: at 125 % it loses some of their lines; the chosen line of a combo
+/// ends with "…" where it does not fit, and its popup scrolls; and a control may have a warning edge.
 class Style : public QProxyStyle {
 public:
   Style() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -54,16 +56,40 @@ public:
       Look::drawFrame(*painter, option->rect, QColor(0xBCC2CA));
     else
       QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element == PE_Frame || element == PE_PanelLineEdit)
+      drawWarning(*painter, option->rect, widget);
+  }
+  int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                QStyleHintReturn *data) const override {
+    return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+  }
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                          const QWidget *widget) const override {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control == CC_ComboBox)
+      drawWarning(*painter, option->rect, widget);
   }
   void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                    const QWidget *widget) const override {
     const auto *combo = qstyleoption_cast<const QStyleOptionComboBox *>(option);
-    if (element != CE_ComboBoxLabel || !combo)
-      return QProxyStyle::drawControl(element, option, painter, widget);
+    if (element != CE_ComboBoxLabel || !combo) {
+      QProxyStyle::drawControl(element, option, painter, widget);
+      if (element == CE_PushButtonBevel || element == CE_CheckBox)
+        drawWarning(*painter, option->rect, widget);
+      return;
+    }
     QStyleOptionComboBox elided = *combo;
     const int room = subControlRect(CC_ComboBox, combo, SC_ComboBoxEditField, widget).width() - 2;
     elided.currentText = combo->fontMetrics.elidedText(combo->currentText, Qt::ElideRight, room);
     QProxyStyle::drawControl(element, &elided, painter, widget);
+  }
+
+private:
+  static void drawWarning(QPainter &painter, const QRect &area, const QWidget *widget) {
+    if (!widget || !widget->property(Warned).toBool())
+      return;
+    for (const int inset : {0, 1})
+      Look::drawFrame(painter, area.adjusted(inset, inset, -inset, -inset), QColor(Look::WarningColor));
   }
 };
 
@@ -166,7 +192,15 @@ void Look::drawFrame(QPainter &painter, const QRect &area, QColor color) {
 
 // Escaped, as a name may hold what looks like markup; a tool tip with markup breaks its lines.
 void Look::showWhole(const QHelpEvent &event, const QString &text, QWidget *widget) {
-  QToolTip::showText(event.globalPos(), QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped()), widget);
+  const QString markup = text.toHtmlEscaped().replace(QLatin1Char('\n'), QStringLiteral("</p><p>"));
+  QToolTip::showText(event.globalPos(), QStringLiteral("<p>%1</p>").arg(markup), widget);
+}
+
+void Look::setWarned(QWidget *control, bool warned) {
+  if (control->property(Warned).toBool() == warned)
+    return;
+  control->setProperty(Warned, warned);
+  control->update();
 }
 
 void Look::setGround(QWidget *field, QColor ground) {

@@ -1,14 +1,14 @@
 #include "platform/qt/PrintRun.h"
 
 #include "platform/print/Printers.h"
-#include "platform/qt/BusyPointer.h"
+#include "platform/qt/BusyTime.h"
 
 #include <QMessageBox>
 
 namespace {
 
 QString faultOf(const std::function<void()> &documents) {
-  const BusyPointer busy;
+  const BusyTime busy;
   try {
     documents();
   } catch (const PrintFault &fault) {

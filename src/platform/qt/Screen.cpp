@@ -15,6 +15,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QShortcut>
 #include <QVBoxLayout>
 #include <QValidator>
 #include <QWindow>
@@ -23,6 +24,7 @@
 
 namespace {
 
+constexpr int LinesOfPopup = 20;
 constexpr int UnitsAPixel = 15; // places are told in 1/1440 inch, a pixel is 1/96 inch
 
 // The monitor may have become smaller or be gone since the place was stored. `size` is that of the frame.
@@ -71,6 +73,7 @@ void Screen::setUp() {
   }
   for (auto *combo : findChildren<QComboBox *>()) {
     combo->setFocusPolicy(Qt::StrongFocus);
+    combo->setMaxVisibleItems(LinesOfPopup);
     combo->installEventFilter(this);
   }
   for (auto *field : findChildren<QLineEdit *>()) {
@@ -85,13 +88,35 @@ void Screen::makeFoot() {
   auto *form = static_cast<QVBoxLayout *>(layout());
   if (form->count() > 1)
     new ScrollBody(*form);
-  auto *hint = new HintLine(this);
+  m_foot = new HintLine(sizeHint().width(), this);
   QMargins margins = form->contentsMargins();
   margins.setBottom(2);
   form->setContentsMargins(margins);
-  form->addWidget(hint);
-  hint->setHint(m_desk.hint());
-  connect(&m_desk, &Desk::hintChanged, hint, &HintLine::setHint);
+  form->addWidget(m_foot);
+  connect(&m_desk, &Desk::hintChanged, this, &Screen::fillFoot);
+  connect(new QShortcut(Qt::Key_F2, this), &QShortcut::activated, m_foot, &HintLine::showNext);
+  fillFoot();
+}
+
+void Screen::fillFoot() {
+  QStringList lines{m_desk.hint()};
+  for (const Hint &hint : m_hints)
+    lines << hint.text;
+  lines.removeAll(QString());
+  m_foot->tell(lines);
+}
+
+void Screen::showHints(const QList<Hint> &hints) {
+  markControls(false);
+  m_hints = hints;
+  markControls(true);
+  fillFoot();
+}
+
+void Screen::markControls(bool warned) {
+  for (const Hint &hint : m_hints)
+    if (auto *control = hint.control.isEmpty() ? nullptr : findChild<QWidget *>(hint.control))
+      Look::setWarned(control, warned);
 }
 
 void Screen::onLeave(QWidget *field, std::function<void()> action) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Files.h"
+#include "platform/Hint.h"
 
 #include <QHash>
 #include <QWidget>
@@ -8,6 +9,7 @@
 #include <functional>
 
 class Desk;
+class HintLine;
 class QLineEdit;
 
 /// Base of all screens, which are top-level windows. It does for each of them: the window's place in the table of
@@ -34,6 +36,10 @@ public:
   virtual QString waiting() const { return {}; }
   /// Whom its fields are about, as "Nr. 28"; empty where the title says it.
   virtual QString subject() const { return {}; }
+
+  /// Fills the line at the foot, behind what the desk has for every screen, and marks the controls that the hints are
+  /// about.
+  void showHints(const QList<Hint> &hints);
 
   /// Shows the screen, also one that the operator has made an icon.
   void comeBack();
@@ -75,6 +81,8 @@ protected:
 
 private:
   void makeFoot();
+  void fillFoot();
+  void markControls(bool warned);
   void takeSize();
   void takePlace();
   void noteWhereItIs();
@@ -85,6 +93,8 @@ private:
   Desk &m_desk;
   int m_row;
   QHash<QObject *, std::function<void()>> m_return;
+  HintLine *m_foot = nullptr;
+  QList<Hint> m_hints;
   bool m_placed = false;
   QPoint m_leftAt;              // of the frame; null before the first hiding
   QSize m_ownSize;              // that it opened with

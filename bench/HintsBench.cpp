@@ -1,0 +1,98 @@
+#include "core/Classes.h"
+#include "core/RaceFiles.h"
+#include "core/RecordFiles.h"
+#include "core/Start.h"
+#include "hints/Hints.h"
+#include "platform/Dates.h"
+
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+
+#include <set>
+
+// The hints of each screen with 1000 participants out of 30,000 athletes; wanted at most 8 ms.
+
+namespace {
+
+constexpr int Athletes = 30'000, People = 1000;
+
+struct Event {
+  Event() {
+    store.DatenOrdner = folder.path() + QLatin1Char('/');
+    storeStarten(store);
+    alleDateienOeffnen(store);
+    addRace();
+    for (int n = 1; n <= Athletes; ++n)
+      addAthlete(n);
+    for (int row = 1; row <= People; ++row)
+      addParticipant(row);
+    KlassenZuordnen(store);
+    RennDatenSpeichern(store);
+  }
+
+  void addRace() {
+    store.Rennen.RennenName = QStringLiteral("Messung");
+    store.Rennen.WertKlassen = store.Rennen.WertZeit = store.Rennen.ZweiDurchgaenge = 1;
+    store.RennenIdx = store.AktRennen = 1;
+    RennenSchreiben(store);
+    RennDatenLaden(store);
+    takeStandardClasses(store);
+  }
+
+  void addAthlete(int n) {
+    store.Laeufer = LaeuferSatz();
+    const auto letter = [n](int place) { return QChar(int('A') + (n / place) % 26); };
+    store.Laeufer.Name = QStringLiteral("M%1%2%3ÖLLER Elisabeth").arg(letter(1)).arg(letter(26)).arg(letter(676));
+    store.Laeufer.Geburtsdatum = toDays(QDate(1950 + n % 70, 7, 1));
+    store.Laeufer.Geschlecht = qint16(n % 2);
+    store.LaeuferIdx = n;
+    LaeuferSchreiben(store);
+  }
+
+  void addParticipant(int row) {
+    auto &participant = store.Teilnehmer[row];
+    participant.LaeuferNr = 30 * row;
+    participant.StartNr = row;
+    participant.Zeit1 = 60 + row % 40;
+    participant.Zeit2 = row % 3 == 0 ? 0 : 60 + row % 40;
+  }
+
+  QTemporaryDir folder;
+  Umgebung umgebung;
+  Store store{umgebung};
+};
+
+/// What the screens show where their hints have the most to do.
+const ShownValues &shown() {
+  static const ShownValues values{{QStringLiteral("Text1"), QStringLiteral("ZWEIG Karoline")},
+                                  {QStringLiteral("Text2"), QStringLiteral("ZWEIG Karoline")},
+                                  {QStringLiteral("Command5"), QStringLiteral("1")},
+                                  {QStringLiteral("List1"), QStringLiteral(" 1    Messung")},
+                                  {QStringLiteral("Label11"), QStringLiteral("500")}};
+  return values;
+}
+
+void hints(benchmark::State &state, const QString &screen) {
+  static Event event;
+  HintBook book(event.store);
+  book.of(screen, shown()); // reads the other races
+  for (auto _ : state)
+    benchmark::DoNotOptimize(book.of(screen, shown()));
+}
+
+std::set<QString> screens() {
+  std::set<QString> all;
+  for (const HintRule &rule : hintRules())
+    for (const QString &screen : QString::fromLatin1(rule.screens).split(QLatin1Char(' ')))
+      all.insert(screen);
+  return all;
+}
+
+const bool registered = [] {
+  for (const QString &screen : screens())
+    benchmark::RegisterBenchmark(qPrintable(screen), hints, screen)->Unit(benchmark::kMillisecond);
+  return true;
+}();
+
+} // namespace
