@@ -74,6 +74,7 @@ public:
   void takePicture(const char *screen, const char *name) {
     const QString file = QStringLiteral("%1-%2.png").arg(++m_count, 2, 10, QLatin1Char('0')).arg(QLatin1String(name));
     QApplication::processEvents();
+    m_programm.hints().renew();
     if (!window(screen)->grab().save(m_pictures.filePath(file)))
       throw Fault(QStringLiteral("Das Bild %1 konnte nicht geschrieben werden.").arg(m_pictures.filePath(file)));
   }
