@@ -161,8 +161,7 @@ Hint Hints::participantsWithoutClass(const Situation &now) {
   for (const Starter &starter : now.starters())
     if (const int year = yearOf(starter.athlete.Geburtsdatum); classesOf(now.store, year).isEmpty())
       who << QStringLiteral("%1 %2").arg(nameOf(starter.athlete)).arg(year);
-  return {
-      aboutStarters(who, "Teilnehmer fällt", "Teilnehmer fallen", "%1 in keine Klasse (%2) und behalten, was da war.")};
+  return {aboutStarters(who, "Teilnehmer fällt", "Teilnehmer fallen", "%1 in keine Klasse, es bleibt die alte (%2).")};
 }
 
 Hint Hints::yearPutBack(const Situation &now) {
@@ -210,7 +209,7 @@ Hint Hints::classWithoutName(const Situation &now) {
   if (now.store.Rennen.WertKlassen != 1)
     return {};
   return {aboutStarters(who, "Teilnehmer startet", "Teilnehmer starten",
-                        "%1 in einer Klasse ohne Bezeichnung (%2): „Klassen-Start-Reihenfolge“ öffnen.")};
+                        "%1 in einer Klasse ohne Bezeichnung, „Klassen-Start-Reihenfolge“ öffnen (%2).")};
 }
 
 Hint Hints::orderNumberTooHigh(const Situation &now) {

@@ -83,7 +83,7 @@ Hint Hints::clubNotChosen(const Situation &now) {
                                          clubsOf(now.store, starter.athlete).size() > 1;
                                 }),
                         "Teilnehmer hat mehrere Vereine und keinen", "Teilnehmer haben mehrere Vereine und keinen",
-                        "%1 gewählt (%2): bei den Startnummern wählen.")};
+                        "%1 gewählt, das geht bei den Startnummern (%2).")};
 }
 
 Hint Hints::twiceInField(const Situation &now) {
@@ -147,12 +147,12 @@ Hint Hints::participantsWithoutSex(const Situation &now) {
     return {};
   return {aboutStarters(namesOf(now, [](const Starter &starter) { return starter.athlete.Geschlecht == 2; }),
                         "Teilnehmer hat", "Teilnehmer haben",
-                        "%1 kein Geschlecht (%2): Das Programm endet, sobald es Klassen bildet.")};
+                        "%1 kein Geschlecht, beim Bilden der Klassen endet das Programm (%2).")};
 }
 
 Hint Hints::participantsWithoutDate(const Situation &now) {
   return {aboutStarters(namesOf(now, [](const Starter &starter) { return starter.athlete.Geburtsdatum == 2; }),
-                        "Teilnehmer hat", "Teilnehmer haben", "%1 kein Geburtsdatum (%2): Die Klasse wird falsch.")};
+                        "Teilnehmer hat", "Teilnehmer haben", "%1 kein Geburtsdatum, die Klasse wird falsch (%2).")};
 }
 
 Hint Hints::numbersTwice(const Situation &now) {
@@ -167,7 +167,7 @@ Hint Hints::numbersTwice(const Situation &now) {
 Hint Hints::numbersMissing(const Situation &now) {
   const QStringList without = namesOf(now, [](const Starter &starter) { return starter.participant.StartNr == 0; });
   return {aboutStarters(without, "Teilnehmer hat", "Teilnehmer haben",
-                        "%1 keine Startnummer (%2): Gedruckte Listen enden an dieser Stelle.")};
+                        "%1 keine Startnummer, dort enden gedruckte Listen (%2).")};
 }
 
 // The boxes go to the row in work, which a numbering run leaves behind its last line.

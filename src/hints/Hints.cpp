@@ -9,7 +9,7 @@ constexpr auto Typing = "beim Tippen";
 constexpr auto Entering = "beim Betreten des Feldes";
 constexpr auto Choosing = "bei der Auswahl";
 
-const QList<HintRule> Rules{
+constexpr HintRule Rules[] = {
     // What ends the program goes first.
     {"Geschlecht fehlt im Rennen", "Form4 Form5 Form6 Form7 Form8 Form10 Form12 Form14 Form15", Always,
      Hints::participantsWithoutSex},
@@ -132,7 +132,7 @@ const QList<HintRule> Rules{
 
 } // namespace
 
-const QList<HintRule> &hintRules() {
+std::span<const HintRule> hintRules() {
   return Rules;
 }
 

@@ -2,6 +2,8 @@
 
 #include "hints/Situation.h"
 
+#include <span>
+
 /// A hint: the trap that it tells, as the handbook calls it, where and when it stands, and its rule.
 struct HintRule {
   const char *name;
@@ -12,7 +14,7 @@ struct HintRule {
 };
 
 /// All hints of the program; on a screen with several the first of this list is shown first.
-const QList<HintRule> &hintRules();
+std::span<const HintRule> hintRules();
 
 /// The hints that stand on a screen now. They change nothing and never end the program.
 class HintBook {

@@ -132,7 +132,7 @@ Hint Hints::printedWithoutSex(const Situation &now) {
   if (now.store.Rennen.WertGeschlecht != 0)
     return {};
   return {aboutStarters(namesOf(now, [](const Starter &starter) { return starter.athlete.Geschlecht == 2; }),
-                        "Teilnehmer hat", "Teilnehmer haben", "%1 kein Geschlecht (%2): Auf Listen steht „w“.")};
+                        "Teilnehmer hat", "Teilnehmer haben", "%1 kein Geschlecht, auf Listen steht „w“ (%2).")};
 }
 
 Hint Hints::surchargesInTimes(const Situation &now) {

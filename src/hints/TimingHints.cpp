@@ -143,7 +143,7 @@ Hint Hints::statusBesideTime(const Situation &now) {
                                   return !isOk(starter) && (has(starter, &TeilnehmerZeile::Zeit1) ||
                                                             has(starter, &TeilnehmerZeile::Zeit2));
                                 }),
-                        "hat", "haben", "%1 eine Zeit und einen Status (%2): nicht in der Wertung.")};
+                        "hat", "haben", "%1 eine Zeit und einen Status, also keine Wertung (%2).")};
 }
 
 Hint Hints::statusWithoutText(const Situation &now) {
@@ -152,7 +152,7 @@ Hint Hints::statusWithoutText(const Situation &now) {
                                   return std::max(starter.participant.Status1, starter.participant.Status2) >
                                          LastStatus;
                                 }),
-                        "hat", "haben", "%1 einen leeren Status (%2): nicht in der Wertung. „ok“ wählen."),
+                        "hat", "haben", "%1 einen leeren Status, also keine Wertung (%2)."),
           {}};
 }
 
@@ -180,7 +180,7 @@ Hint Hints::pointsWithoutTime(const Situation &now) {
                                   return isOk(starter) && starter.participant.Punkte != 0 &&
                                          !has(starter, &TeilnehmerZeile::Zeit1);
                                 }),
-                        "hat", "haben", "%1 Punkte und keine Zeit (%2): ohne Zeit keine Wertung, irgendeine genügt.")};
+                        "hat", "haben", "%1 Punkte und keine Zeit, ohne sie keine Wertung (%2).")};
 }
 
 Hint Hints::auxiliaryTakesFirstRun(const Situation &now) {

@@ -564,17 +564,34 @@ TEST(Hints, NoneEndsTheProgram) {
   }
 }
 
+/// What the pattern captures in the text, in order.
+QStringList captured(const char *pattern, const QString &text) {
+  QStringList all;
+  const QRegularExpression wanted(QString::fromUtf8(pattern), QRegularExpression::MultilineOption);
+  for (const auto &match : wanted.globalMatch(text))
+    all << match.captured(1).simplified();
+  return all;
+}
+
+// The chapter of the hints lists each, and names each other chapter that has a place to watch.
 TEST(Hints, TheHandbookListsEach) {
   const QString book = QString::fromUtf8(readFile(QStringLiteral(VEXT_BEISPIEL "/../docs/handbuch.md")));
-  const QString chapter =
-      book.section(QStringLiteral("die Hinweise am Fuß der Schirme\n"), 1).section(QStringLiteral("\n#"), 0, 0);
-  QStringList listed, rules;
-  const QRegularExpression item(QStringLiteral("^- \\*\\*(.+?)\\*\\*"), QRegularExpression::MultilineOption);
-  for (const auto &match : item.globalMatch(chapter))
-    listed << match.captured(1);
+  QString hints;
+  std::set<QString> watched, named;
+  for (const QString &chapter : book.split(QRegularExpression(QStringLiteral("\n##+ ([0-9]+\\. )?")))) {
+    if (chapter.contains(QStringLiteral("die Hinweise am Fuß der Schirme\n")))
+      hints = chapter;
+    else if (!captured("(\\*\\*Achtung[^*]*:\\*\\*)", chapter).isEmpty())
+      watched.insert(chapter.section(QLatin1Char('\n'), 0, 0));
+  }
+  for (const QString &chapter : captured("Siehe\\s+Achtung\\s+in\\s+„([^“]+)“", hints))
+    named.insert(chapter);
+  EXPECT_EQ(named, watched);
+  QStringList rules;
   for (const HintRule &rule : hintRules())
     rules << QString::fromUtf8(rule.name);
-  EXPECT_EQ(listed.join(QLatin1Char('\n')).toStdString(), rules.join(QLatin1Char('\n')).toStdString());
+  EXPECT_EQ(captured("^- \\*\\*(.+?)\\*\\*", hints).join(QLatin1Char('\n')).toStdString(),
+            rules.join(QLatin1Char('\n')).toStdString());
 }
 
 } // namespace

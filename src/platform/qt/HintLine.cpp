@@ -102,11 +102,11 @@ void HintLine::paintEvent(QPaintEvent *) {
   QPainter painter(this);
   painter.fillRect(rect(), QColor(Ground));
   const int height = fontMetrics().height();
-  drawSign(painter, QRectF(2 * Margin, Margin + 0.15 * height, 0.8 * height, 0.7 * height));
-  painter.setPen(Qt::black);
   const int left = 3 * Margin + height;
   const QStringList lines = wrapped(text(), font(), width() - left - 2 * Margin, m_lines);
   int top = (this->height() - int(lines.size()) * height) / 2;
+  drawSign(painter, QRectF(2 * Margin, top + 0.15 * height, 0.8 * height, 0.7 * height));
+  painter.setPen(Qt::black);
   for (const QString &line : lines) {
     painter.drawText(left, top + fontMetrics().ascent(), line);
     top += height;
