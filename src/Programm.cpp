@@ -31,7 +31,8 @@
 #include "timing/Form18.h"
 #include "timing/Form7.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QWindow>
 
 namespace {
 
@@ -333,10 +334,14 @@ void Programm::showBeside(Screen &opener, Screen &screen) {
   m_desk.show(screen);
 }
 
+// The window system brings the screen to the front when it gives it the keyboard, which may be later.
 void Programm::comeBackTo(Screen &screen) {
+  const auto raise = [this] {
+    if (m_reminder)
+      m_reminder->raise();
+  };
+  connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, raise, Qt::SingleShotConnection);
   m_desk.show(screen);
-  if (m_reminder)
-    m_reminder->raise();
 }
 
 // The opener is activated again when the other closes, unless it is closing itself.
