@@ -283,9 +283,11 @@ int pollFor(pollfd *files, nfds_t count, timespec timeout, const sigset_t *signa
   return int(syscall(SYS_ppoll, files, count, &timeout, signals, size_t(8)));
 }
 
+// A thread that hands over to another one may look idle in between; so all must be seen idle twice.
 int pollUntilIdle(pollfd *files, nfds_t count, const timespec &timeout, const sigset_t *signals) {
-  for (;;) {
-    const bool idle = !othersWork();
+  for (int seen = 0;;) {
+    seen = othersWork() ? 0 : seen + 1;
+    const bool idle = seen == 2;
     if (const int ready = pollFor(files, count, idle ? NoTime : timespec{0, 200'000}, signals))
       return ready;
     if (!idle)
