@@ -86,7 +86,7 @@ struct Store {
   Umgebung &umgebung;
 
   // Settings of the run.
-  QString ProgrammName = QStringLiteral("VEXT"), Version = QStringLiteral("2.00");
+  QString ProgrammName = QStringLiteral(VEXT_NAME), Version = QStringLiteral(VEXT_VERSION);
   /// Prefix of every data file; empty in the program, a folder with "/" in tests.
   QString DatenOrdner;
   QString OrganisationName;

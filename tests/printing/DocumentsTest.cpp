@@ -52,7 +52,7 @@ protected:
     store.Rennen.ZuschlagGast = 2;
     store.KlasseName.fill({});
   }
-  ~DocumentsTest() override { QDir::setCurrent(before); }
+  void TearDown() override { QDir::setCurrent(before); }
 
   void addClass(int k, const char *name, int von, int bis, int order, int orderOfGuests) {
     store.KlasseName[k] = store.KlasseGenauName[exactClass(k, 0, 0, 0)] = QLatin1String(name);

@@ -7,7 +7,7 @@
 /// Printers that keep what they are given; the system's default is the first.
 class FakePrinters {
 public:
-  explicit FakePrinters(QStringList system = {QStringLiteral("Laser"), QStringLiteral("Alt")}) {
+  explicit FakePrinters(const QStringList &system = {QStringLiteral("Laser"), QStringLiteral("Alt")}) {
     for (const QString &name : system)
       m_system.append(printer(name));
     printers = std::make_unique<Printers>(
