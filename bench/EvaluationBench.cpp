@@ -1,13 +1,10 @@
 #include "core/Classes.h"
 #include "core/RaceFiles.h"
-#include "core/RecordFiles.h"
-#include "core/Start.h"
 #include "evaluation/Cup.h"
 #include "evaluation/TeamEvaluation.h"
 #include "evaluation/TimeSum.h"
+#include "support/TestStore.h"
 #include "timing/Ranking.h"
-
-#include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 
@@ -18,33 +15,17 @@ namespace {
 
 constexpr int People = 1000, Races = 10;
 
-/// The event in a folder of its own, made once.
-struct Event {
+struct Event : TestStore {
   Event() {
-    store.DatenOrdner = folder.path() + QLatin1Char('/');
-    storeStarten(store);
-    alleDateienOeffnen(store);
     for (int person = 1; person <= People; ++person)
-      addAthlete(person);
+      addAthlete(QStringLiteral("MÖLLER-STEINHUBER Lisa %1").arg(person * 7919 % 10007), 2000 + person % 20,
+                 person % 2);
     for (int race = 1; race <= Races; ++race)
-      addRace(race);
+      fillRace(race);
   }
 
-  void addAthlete(int person) {
-    LaeuferSatz athlete;
-    athlete.Name = QStringLiteral("MÖLLER-STEINHUBER Lisa %1").arg(person * 7919 % 10007);
-    athlete.Geburtsdatum = 36526 + 365.25 * (person % 20);
-    athlete.Geschlecht = qint16(person % 2);
-    LaeuferSchreiben(store, person, athlete);
-  }
-
-  void addRace(int race) {
-    store.Rennen = RennenSatz();
-    store.Rennen.RennenName = QStringLiteral("Rennen %1").arg(race);
-    store.Rennen.WertKlassen = store.Rennen.WertZeit = 1;
-    store.RennenIdx = store.AktRennen = race;
-    RennenSchreiben(store);
-    RennDatenLaden(store);
+  void fillRace(int race) {
+    addRace(QStringLiteral("Rennen %1").arg(race));
     for (int row = 1; row <= People; ++row) {
       auto &participant = store.Teilnehmer[row];
       participant.LaeuferNr = row;
@@ -56,9 +37,6 @@ struct Event {
     RennDatenSpeichern(store);
   }
 
-  QTemporaryDir folder;
-  Umgebung umgebung;
-  Store store{umgebung};
   QList<int> races{10, 9, 8, 7, 6, 5, 4, 3, 2, 1};
 };
 

@@ -1,11 +1,7 @@
 #include "core/Classes.h"
 #include "core/RaceFiles.h"
-#include "core/RecordFiles.h"
-#include "core/Start.h"
 #include "hints/Hints.h"
-#include "platform/Dates.h"
-
-#include <QTemporaryDir>
+#include "support/TestStore.h"
 
 #include <benchmark/benchmark.h>
 
@@ -17,37 +13,18 @@ namespace {
 
 constexpr int Athletes = 30'000, People = 1000;
 
-struct Event {
+struct Event : TestStore {
   Event() {
-    store.DatenOrdner = folder.path() + QLatin1Char('/');
-    storeStarten(store);
-    alleDateienOeffnen(store);
-    addRace();
+    addRace(QStringLiteral("Messung"));
+    store.Rennen.ZweiDurchgaenge = 1;
+    const auto letter = [](int n) { return QChar(int('A') + n % 26); };
     for (int n = 1; n <= Athletes; ++n)
-      addAthlete(n);
+      addAthlete(QStringLiteral("M%1%2%3ÖLLER Elisabeth").arg(letter(n)).arg(letter(n / 26)).arg(letter(n / 676)),
+                 1950 + n % 70, n % 2);
     for (int row = 1; row <= People; ++row)
       addParticipant(row);
     KlassenZuordnen(store);
     RennDatenSpeichern(store);
-  }
-
-  void addRace() {
-    store.Rennen.RennenName = QStringLiteral("Messung");
-    store.Rennen.WertKlassen = store.Rennen.WertZeit = store.Rennen.ZweiDurchgaenge = 1;
-    store.RennenIdx = store.AktRennen = 1;
-    RennenSchreiben(store);
-    RennDatenLaden(store);
-    takeStandardClasses(store);
-  }
-
-  void addAthlete(int n) {
-    store.Laeufer = LaeuferSatz();
-    const auto letter = [n](int place) { return QChar(int('A') + (n / place) % 26); };
-    store.Laeufer.Name = QStringLiteral("M%1%2%3ÖLLER Elisabeth").arg(letter(1)).arg(letter(26)).arg(letter(676));
-    store.Laeufer.Geburtsdatum = toDays(QDate(1950 + n % 70, 7, 1));
-    store.Laeufer.Geschlecht = qint16(n % 2);
-    store.LaeuferIdx = n;
-    LaeuferSchreiben(store);
   }
 
   void addParticipant(int row) {
@@ -57,10 +34,6 @@ struct Event {
     participant.Zeit1 = 60 + row % 40;
     participant.Zeit2 = row % 3 == 0 ? 0 : 60 + row % 40;
   }
-
-  QTemporaryDir folder;
-  Umgebung umgebung;
-  Store store{umgebung};
 };
 
 /// What the screens show where their hints have the most to do.

@@ -1,12 +1,9 @@
 #include "core/Classes.h"
-#include "core/RaceFiles.h"
-#include "core/RecordFiles.h"
-#include "core/Start.h"
-#include "platform/Dates.h"
 #include "platform/print/PdfFile.h"
 #include "platform/print/Player.h"
 #include "platform/print/PrintMetrics.h"
 #include "printing/Documents.h"
+#include "support/TestStore.h"
 
 #include <QDir>
 #include <QPainter>
@@ -17,49 +14,31 @@
 // A race with 1000 participants in 20 classes and two runs; one logo, as large as from a camera.
 namespace {
 
-class FullRace {
-public:
+struct FullRace : TestStore {
   FullRace() {
-    store.DatenOrdner = folder.path() + QLatin1Char('/');
     QDir::setCurrent(folder.path());
     QImage logo(3500, 1800, QImage::Format_RGB32);
     logo.fill(Qt::darkGreen);
     logo.save(QStringLiteral("Logo.jpg"));
-    storeStarten(store);
-    alleDateienOeffnen(store);
-    store.Rennen.RennenName = QStringLiteral("Landesmeisterschaft");
-    store.Rennen.WertKlassen = store.Rennen.WertZeit = store.Rennen.ZweiDurchgaenge = 1;
-    store.AktRennen = store.RennenIdx = 1;
-    RennenSchreiben(store);
-    RennDatenLaden(store);
+    addRace(QStringLiteral("Landesmeisterschaft"));
+    store.Rennen.ZweiDurchgaenge = 1;
     for (int row = 1; row <= 1000; ++row)
-      enter(row);
+      fill(row);
     KlassenZuordnen(store);
   }
 
-  Store &of() { return store; }
-
-private:
-  void enter(int row) {
-    LaeuferSatz athlete;
-    athlete.Name = QStringLiteral("ÖLLINGER-MÜLLER Elisabeth %1").arg(row * 7919 % 1000);
-    athlete.Geburtsdatum = toDays(QDate(1950 + row % 70, 7, 1));
-    athlete.Geschlecht = qint16(row % 2);
-    LaeuferSchreiben(store, row, athlete);
+  void fill(int row) {
+    addAthlete(QStringLiteral("ÖLLINGER-MÜLLER Elisabeth %1").arg(row * 7919 % 1000), 1950 + row % 70, row % 2);
     TeilnehmerZeile &participant = store.Teilnehmer[row];
     participant.LaeuferNr = participant.StartNr = row;
     participant.Zeit1 = 40 + row * 7919 % 1000 / 100.0;
     participant.Zeit2 = 41 + row * 104729 % 1000 / 100.0;
   }
-
-  QTemporaryDir folder;
-  Umgebung umgebung;
-  Store store{umgebung};
 };
 
 Store &fullRace() {
   static FullRace race;
-  return race.of();
+  return race.store;
 }
 
 Recording recordedList() {

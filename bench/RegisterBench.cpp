@@ -1,20 +1,16 @@
 // How long the registers take with 30,000 athletes, and beside it the bare work: one pass over the records, one sort.
 
-#include "core/RecordFiles.h"
-#include "core/Start.h"
 #include "masterdata/Form3.h"
-#include "platform/Dates.h"
+#include "person/Person.h"
 #include "platform/Numbers.h"
 #include "platform/SortedLines.h"
 #include "platform/qt/Desk.h"
 #include "platform/qt/LineList.h"
 #include "raceprep/Form5.h"
 #include "raceprep/ParticipantList.h"
+#include "support/TestStore.h"
 
-#include <QApplication>
 #include <QLineEdit>
-#include <QTemporaryDir>
-#include <QTest>
 
 #include <benchmark/benchmark.h>
 
@@ -25,34 +21,21 @@ constexpr int Athletes = 30'000, Clubs = 300, Participants = 1000;
 const QStringList Names{QStringLiteral("MÜLLER"), QStringLiteral("Huber"),   QStringLiteral("GROSS-BAUER"),
                         QStringLiteral("ÖLLER"),  QStringLiteral("STEINER"), QStringLiteral("WEIß")};
 
+QString nameOf(int n) {
+  return Names[n * 7 % Names.size()] + QStringLiteral(" Vorname") + plainText(n * 7919 % Athletes);
+}
+
 /// A large club register and a full race.
-struct Event {
+struct Event : TestStore {
   Event() {
-    store.DatenOrdner = folder.path() + QLatin1Char('/');
-    storeStarten(store);
-    alleDateienOeffnen(store);
-    for (int n = 1; n <= Clubs; ++n) {
-      VereinSatz club;
-      club.VereinName = club.VereinKurz = QStringLiteral("Verein ") + plainText(n);
-      VereinSchreiben(store, n, club);
-    }
+    for (int n = 1; n <= Clubs; ++n)
+      addClub(QStringLiteral("Verein ") + plainText(n));
     for (int n = 1; n <= Athletes; ++n)
-      addAthlete(n);
+      addAthlete(nameOf(n), 1950 + n % 70, 2, 1 + n % Clubs);
     for (int row = 1; row <= Participants; ++row)
       store.Teilnehmer[row].LaeuferNr = row * 7;
   }
 
-  void addAthlete(int n) {
-    LaeuferSatz athlete;
-    athlete.Name = Names[n * 7 % Names.size()] + QStringLiteral(" Vorname") + plainText(n * 7919 % Athletes);
-    athlete.Verein1 = qint16(1 + n % Clubs);
-    athlete.Geburtsdatum = toDays(QDate(1950 + n % 70, 7, 1));
-    LaeuferSchreiben(store, n, athlete);
-  }
-
-  QTemporaryDir folder;
-  Umgebung umgebung;
-  Store store{umgebung};
   Desk desk{store.Fenster, [] {}};
 };
 
@@ -66,10 +49,6 @@ template <typename Form> void openAndPaint(Form &form) {
   QCoreApplication::processEvents();
 }
 
-template <typename Control> Control *control(QWidget &form, const char *name) {
-  return form.findChild<Control *>(QLatin1String(name));
-}
-
 void passOverRecords(benchmark::State &state) {
   auto &store = event().store;
   for ([[maybe_unused]] auto _ : state)
@@ -80,8 +59,7 @@ void passOverRecords(benchmark::State &state) {
 void sortLines(benchmark::State &state) {
   QStringList unsorted;
   for (int n = 1; n <= Athletes; ++n)
-    unsorted.append(Names[n * 7 % Names.size()] + QStringLiteral(" Vorname") + plainText(n * 7919 % Athletes) +
-                    QStringLiteral("        ") + plainText(n));
+    unsorted.append(nameOf(n) + QStringLiteral("        ") + plainText(n));
   for ([[maybe_unused]] auto _ : state) {
     SortedLines lines;
     for (const auto &line : unsorted)
@@ -110,7 +88,7 @@ template <typename Form> void opening(benchmark::State &state) {
 void nameChange(benchmark::State &state) {
   Form3 form(event().desk, event().store);
   openAndPaint(form);
-  auto *name = control<QLineEdit>(form, "Text2");
+  auto *name = Person::find<QLineEdit>(&form, QLatin1String("Text2"));
   for ([[maybe_unused]] auto _ : state) {
     name->setFocus();
     QTest::keyClick(name, Qt::Key_A);
@@ -122,7 +100,7 @@ void nameChange(benchmark::State &state) {
 void typedIndex(benchmark::State &state) {
   Form3 form(event().desk, event().store);
   openAndPaint(form);
-  auto *index = control<QLineEdit>(form, "Text1");
+  auto *index = Person::find<QLineEdit>(&form, QLatin1String("Text1"));
   index->setFocus();
   int digit = 0;
   for ([[maybe_unused]] auto _ : state) {
@@ -136,7 +114,7 @@ void typedIndex(benchmark::State &state) {
 void filter(benchmark::State &state) {
   Form5 form(event().desk, event().store);
   openAndPaint(form);
-  auto *beginning = control<QLineEdit>(form, "Text1");
+  auto *beginning = Person::find<QLineEdit>(&form, QLatin1String("Text1"));
   beginning->setFocus();
   QTest::keyClicks(beginning, state.range(0) ? QStringLiteral("hub") : QString());
   for ([[maybe_unused]] auto _ : state) {
@@ -148,7 +126,7 @@ void filter(benchmark::State &state) {
 void clickOnAthlete(benchmark::State &state) {
   Form5 form(event().desk, event().store);
   openAndPaint(form);
-  auto *list = control<LineList>(form, "List1");
+  auto *list = Person::find<LineList>(&form, QLatin1String("List1"));
   for ([[maybe_unused]] auto _ : state) {
     QTest::keyClick(list, Qt::Key_Down);
     QCoreApplication::processEvents();

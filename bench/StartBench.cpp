@@ -2,14 +2,12 @@
 
 #include "Programm.h"
 #include "core/RaceFiles.h"
-#include "core/RecordFiles.h"
-#include "core/Start.h"
 #include "platform/Files.h"
 #include "platform/Numbers.h"
 #include "safety/Safety.h"
+#include "support/TestStore.h"
 
 #include <QApplication>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <benchmark/benchmark.h>
@@ -19,30 +17,19 @@ namespace {
 constexpr int Athletes = 30'000, Races = 200, Rows = 300;
 
 /// A data folder as after many seasons.
-struct LargeFolder {
+struct LargeFolder : TestStore {
   LargeFolder() {
-    Umgebung umgebung;
-    Store store(umgebung);
-    store.DatenOrdner = path();
-    storeStarten(store);
-    alleDateienOeffnen(store);
-    for (int n = 1; n <= Athletes; ++n) {
-      LaeuferSatz athlete;
-      athlete.Name = QStringLiteral("MÜLLER Vorname") + plainText(n);
-      LaeuferSchreiben(store, n, athlete);
-    }
+    for (int n = 1; n <= Athletes; ++n)
+      addAthlete(QStringLiteral("MÜLLER Vorname") + plainText(n), 1990, 2);
     for (int row = 1; row <= Rows; ++row)
       store.Teilnehmer[row].LaeuferNr = row;
     for (store.RennenIdx = 1; store.RennenIdx <= Races; ++store.RennenIdx) {
       store.Rennen.RennenName = QStringLiteral("Rennen ") + plainText(store.RennenIdx);
       RennenSchreiben(store);
       for (const auto &file : raceFiles(store))
-        writeFile(raceFileName(store, file.letter, store.RennenIdx), file.bytes);
+        ::writeFile(raceFileName(store, file.letter, store.RennenIdx), file.bytes);
     }
   }
-  QString path() const { return folder.path() + QLatin1Char('/'); }
-
-  QTemporaryDir folder;
 };
 
 void emptyWindow(benchmark::State &state) {
@@ -59,11 +46,11 @@ void startToMenu(benchmark::State &state) {
   for ([[maybe_unused]] auto _ : state) {
     Umgebung umgebung;
     Store store(umgebung);
-    store.DatenOrdner = data.path();
+    store.DatenOrdner = data.store.DatenOrdner;
     DiskWorker worker;
     Safety safety(store, worker);
     safety.claim();
-    benchmark::DoNotOptimize(safety.leftBehind());
+    safety.offerLeftBehind([](const Safety::Offer &) {});
     storeStarten(store);
     Printers printers([] { return SystemPrinters(); }, {});
     Programm programm(store, printers);

@@ -1,18 +1,15 @@
 #include "core/Classes.h"
 #include "core/RaceFiles.h"
-#include "core/RecordFiles.h"
-#include "core/Start.h"
+#include "person/Person.h"
 #include "platform/SortedLines.h"
 #include "platform/qt/Desk.h"
 #include "platform/qt/LineList.h"
+#include "support/TestStore.h"
 #include "timing/Form7.h"
 #include "timing/Ranking.h"
 
-#include <QApplication>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QRadioButton>
-#include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 
@@ -24,27 +21,19 @@ namespace {
 
 constexpr int People = 1000;
 
-/// The event in a folder of its own, made once.
-struct Event {
+struct Event : TestStore {
   Event() {
-    umgebung.heute = [] { return QDate(2026, 1, 15); };
     umgebung.zufall.seed(7);
-    store.DatenOrdner = folder.path() + QLatin1Char('/');
-    storeStarten(store);
-    alleDateienOeffnen(store);
-    addRace();
+    addRace(QStringLiteral("Messung"));
+    store.Rennen.ZweiDurchgaenge = 1;
+    makeClasses();
     for (int row = 1; row <= People; ++row)
       addParticipant(row);
     KlassenZuordnen(store);
     RennDatenSpeichern(store);
   }
 
-  void addRace() {
-    store.Rennen.RennenName = QStringLiteral("Messung");
-    store.Rennen.WertKlassen = store.Rennen.WertZeit = store.Rennen.ZweiDurchgaenge = 1;
-    store.RennenIdx = store.AktRennen = 1;
-    RennenSchreiben(store);
-    RennDatenLaden(store);
+  void makeClasses() {
     for (int k = 1; k <= 20; ++k) {
       store.KlasseName[k] = QStringLiteral("Klasse %1").arg(k);
       store.KlasseVon[k] = store.KlasseBis[k] = 2020 - k;
@@ -54,23 +43,16 @@ struct Event {
   }
 
   void addParticipant(int row) {
-    LaeuferSatz athlete;
     const auto letter = [this] { return QChar(int('A') + int(26 * umgebung.zufallszahl())); };
-    athlete.Name =
-        QStringLiteral("%1%2%3ÖLLER-STEINHUBER %4lisabeth").arg(letter()).arg(letter()).arg(letter()).arg(letter());
-    athlete.Geburtsdatum = 36526 + 365.25 * (row % 20); // 2000 and later
-    athlete.Geschlecht = qint16(row % 2);
-    LaeuferSchreiben(store, row, athlete);
+    addAthlete(
+        QStringLiteral("%1%2%3ÖLLER-STEINHUBER %4lisabeth").arg(letter()).arg(letter()).arg(letter()).arg(letter()),
+        2000 + row % 20, row % 2);
     auto &participant = store.Teilnehmer[row];
     participant.LaeuferNr = row;
     participant.StartNr = People + 1 - row;
     participant.Zeit1 = 60 + 40 * umgebung.zufallszahl();
     participant.Zeit2 = 60 + 40 * umgebung.zufallszahl();
   }
-
-  QTemporaryDir folder;
-  Umgebung umgebung;
-  Store store{umgebung};
 };
 
 Store &eventStore() {
@@ -123,12 +105,7 @@ public:
     desk.show(form);
     QCoreApplication::processEvents();
   }
-  template <typename Control> Control *find(const char *name) { return form.findChild<Control *>(QLatin1String(name)); }
-  static void press(QWidget *control, Qt::Key key) {
-    QKeyEvent down(QEvent::KeyPress, key, {}), up(QEvent::KeyRelease, key, {});
-    QCoreApplication::sendEvent(control, &down);
-    QCoreApplication::sendEvent(control, &up);
-  }
+  template <typename Control> Control *find(const QString &name) { return Person::find<Control>(&form, name); }
 
   Desk desk{eventStore().Fenster, [] {}};
   Form7 form{desk, eventStore()};
@@ -137,8 +114,8 @@ public:
 /// Argument: the option button.
 void refillUntilPainted(benchmark::State &state) {
   Shown shown;
-  auto *option = shown.form.findChild<QRadioButton *>(QStringLiteral("Option%1").arg(state.range(0)));
-  auto *list = shown.find<LineList>("List2");
+  auto *option = shown.find<QRadioButton>(QStringLiteral("Option%1").arg(state.range(0)));
+  auto *list = shown.find<LineList>(QStringLiteral("List2"));
   for (auto _ : state) {
     option->click();
     list->viewport()->repaint();
@@ -149,13 +126,13 @@ BENCHMARK(refillUntilPainted)->DenseRange(1, 5)->Unit(benchmark::kMillisecond);
 /// Enter in the time box, then the arrow key: the next participant stands on the painted screen.
 void enterUntilNextLine(benchmark::State &state) {
   Shown shown;
-  auto *list = shown.find<LineList>("List2");
-  auto *box = shown.find<QLineEdit>("Text1");
+  auto *list = shown.find<LineList>(QStringLiteral("List2"));
+  auto *box = shown.find<QLineEdit>(QStringLiteral("Text1"));
   list->choose(0);
   box->setFocus();
   for (auto _ : state) {
-    Shown::press(box, Qt::Key_Return);
-    Shown::press(list, list->chosenLine() + 1 < People ? Qt::Key_Down : Qt::Key_Home);
+    QTest::keyClick(box, Qt::Key_Return);
+    QTest::keyClick(list, list->chosenLine() + 1 < People ? Qt::Key_Down : Qt::Key_Home);
     shown.form.repaint();
     QCoreApplication::processEvents();
   }

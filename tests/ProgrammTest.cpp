@@ -8,12 +8,11 @@
 
 namespace {
 
-class ProgrammTest : public RoofTest {
-protected:
+struct ProgrammTest : RoofTest {
   /// Starts over a store with these races, shows the register and presses a button of it.
   void start(std::initializer_list<const char *> races, const char *button = nullptr) {
     for (const char *race : races)
-      test.addRace(QLatin1String(race));
+      test.addRace(race);
     store.AktRennen = store.RennenIdx = 0;
     RoofTest::start();
     press("Form1", "Command3");
@@ -47,7 +46,7 @@ TEST_F(ProgrammTest, ADeletedRaceStaysOpenAsLeer) {
     press("Form9", answer);
     EXPECT_EQ(visible(), "Form4");
     EXPECT_EQ(race(), kept ? "1Slalom" : "1leer");
-    EXPECT_EQ(test.hasFile(QStringLiteral("K 1.lst")), kept);
+    EXPECT_EQ(test.hasFile("K 1.lst"), kept);
     EXPECT_EQ(control<LineList>("Form4", "List1")->lines().size(), kept);
   }
 }
@@ -72,8 +71,8 @@ TEST_F(ProgrammTest, EachFunctionComesBackToTheRegister) {
 }
 
 TEST_F(ProgrammTest, ScreensBesideTheTimingCloseWithIt) {
-  test.addRace(QStringLiteral("Slalom"));
-  test.enter(test.addAthlete(QStringLiteral("BERGER Eva"), 2000, 0), 1);
+  test.addRace("Slalom");
+  test.enter(test.addAthlete("BERGER Eva", 2000, 0), 1);
   RennDatenSpeichern(store);
   start({}, "Command6");
   chooseLine("Form7", "List2", 0);
@@ -89,7 +88,7 @@ TEST_F(ProgrammTest, ScreensBesideTheTimingCloseWithIt) {
 }
 
 TEST_F(ProgrammTest, TheParticipantListTakesItsScreensAlong) {
-  test.addAthlete(QStringLiteral("BERGER Eva"), 2000, 0);
+  test.addAthlete("BERGER Eva", 2000, 0);
   start({"Slalom"}, "Command4");
   press("Form5", "Command5");
   EXPECT_EQ(visible(), "Form3 Form5");
@@ -99,13 +98,9 @@ TEST_F(ProgrammTest, TheParticipantListTakesItsScreensAlong) {
 
 TEST_F(ProgrammTest, AParticipantChosenAgainBringsTheIconBack) {
   start({"Slalom"});
-  test.enter(test.addAthlete(QStringLiteral("BERGER Eva"), 2000, 0));
+  test.enter(test.addAthlete("BERGER Eva", 2000, 0));
   press("Form4", "Command4");
-  const auto chooseTwice = [this] {
-    chooseLine("Form5", "List2", 0);
-    auto *list = control<LineList>("Form5", "List2");
-    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(0, 0)).center());
-  };
+  const auto chooseTwice = [this] { Person::doubleClickLine(control<LineList>("Form5", "List2"), 0); };
   chooseTwice();
   ASSERT_EQ(visible(), "Form5 Form6");
   window("Form6")->showMinimized();
@@ -126,11 +121,11 @@ TEST_F(ProgrammTest, AGeneratedRaceIsOpenedFromTheMenu) {
 
 TEST_F(ProgrammTest, TheReminderFollowsTheSaves) {
   start({"Slalom"});
-  const int row = test.enter(test.addAthlete(QStringLiteral("BERGER Eva"), 2000, 2));
+  const int row = test.enter(test.addAthlete("BERGER Eva", 2000, 2));
   RennDatenSpeichern(store);
   RennDatenSpeichern(store);
   EXPECT_EQ(visible(), "Form17 Form4");
-  EXPECT_EQ(control<LineList>("Form17", "List1")->lines(), QStringList{QStringLiteral("1   BERGER Eva m/w ?")});
+  EXPECT_EQ(control<LineList>("Form17", "List1")->lines(), QStringList{"1   BERGER Eva m/w ?"});
   window("Form17")->close();
   RennDatenSpeichern(store); // closed by hand and wanted again at once
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -144,7 +139,7 @@ TEST_F(ProgrammTest, TheHintStandsOnEveryScreenAndMovesNothing) {
   start({"Slalom"});
   const auto *exit = control<QAbstractButton>("Form4", "Command1");
   const QRect place = exit->geometry();
-  const QString hint = QString(300, QLatin1Char('x'));
+  const QString hint = QString(300, u'x');
   programm->sicherungHinweis(hint);
   press("Form4", "Command16");
   for (const char *screen : {"Form4", "CupKopie"}) {
@@ -163,7 +158,7 @@ TEST_F(ProgrammTest, TheHintStandsOnEveryScreenAndMovesNothing) {
 
 TEST_F(ProgrammTest, OnlyTheMenuEndsTheProgramAlsoBesideTheReminder) {
   start({});
-  test.umgebung.erinnern({QStringLiteral("1")});
+  test.umgebung.erinnern({"1"});
   bool stillRuns = false;
   QTimer::singleShot(0, [&] {
     window("Form4")->close();
@@ -180,8 +175,8 @@ TEST_F(ProgrammTest, OnlyTheMenuEndsTheProgramAlsoBesideTheReminder) {
 }
 
 TEST_F(ProgrammTest, WhatWaitsForItsButtonIsKeptAsANote) {
-  test.addAthlete(QStringLiteral("BERGER Karl"), 2010, 1);
-  test.addRace(QStringLiteral("Slalom"));
+  test.addAthlete("BERGER Karl", 2010, 1);
+  test.addRace("Slalom");
   test.enter(1, 7);
   RennDatenSpeichern(store);
   start({});
@@ -192,7 +187,7 @@ TEST_F(ProgrammTest, WhatWaitsForItsButtonIsKeptAsANote) {
   const auto typeAndLeave = [this](const char *screen, const char *box, const char *next, const char *typed) {
     control<QLineEdit>(screen, box)->setFocus();
     control<QLineEdit>(screen, box)->selectAll();
-    QTest::keyClicks(control<QLineEdit>(screen, box), QLatin1String(typed));
+    QTest::keyClicks(control<QLineEdit>(screen, box), typed);
     control<QAbstractButton>(screen, next)->setFocus();
   };
   typeAndLeave("Form4", "Text2", "Command7", "Nachtslalom");

@@ -3,20 +3,18 @@
 
 #include "Programm.h"
 #include "core/Start.h"
+#include "person/Person.h"
 #include "platform/Faults.h"
 #include "platform/print/PdfFile.h"
 #include "platform/qt/LineList.h"
 #include "platform/qt/Look.h"
 #include "platform/qt/Preview.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QIcon>
-#include <QLineEdit>
 #include <QProcess>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <cstdio>
 
@@ -30,30 +28,23 @@ public:
     m_programm.start();
   }
 
-  void press(const char *screen, const char *button) { QTest::mouseClick(control(screen, button), Qt::LeftButton); }
-  void type(const char *screen, const char *field, const QString &text) {
-    QTest::mouseClick(control(screen, field), Qt::LeftButton);
-    QTest::keySequence(control(screen, field), QKeySequence(QKeySequence::SelectAll));
-    QTest::keyClicks(control(screen, field), text);
-  }
-  void tick(const char *screen, const char *check) {
-    auto *box = control(screen, check);
-    QTest::mouseClick(box, Qt::LeftButton, {}, {8, box->height() / 2});
-  }
-  void enter(const char *screen, const char *field) { QTest::keyClick(control(screen, field), Qt::Key_Return); }
+  void press(const char *screen, const char *control) { Person::press(find(screen, control)); }
+  void type(const char *screen, const char *field, const QString &text) { Person::type(find(screen, field), text); }
+  void enter(const char *screen, const char *field) { QTest::keyClick(find(screen, field), Qt::Key_Return); }
   void closeWindow(const char *screen) { window(screen)->close(); }
   /// Position of the first line that contains the text.
   int lineWith(const char *screen, const char *list, const QString &text) {
-    const QStringList &lines = static_cast<LineList *>(control(screen, list))->lines();
+    const QStringList &lines = find<LineList>(screen, list)->lines();
     for (int line = 0; line < lines.size(); ++line)
       if (lines[line].contains(text))
         return line;
     throw Fault(QStringLiteral("%1 steht nicht in %2.").arg(text, QLatin1String(list)));
   }
+  void chooseLine(const char *screen, const char *list, int line) {
+    Person::chooseLine(find<LineList>(screen, list), line);
+  }
   void doubleClickLine(const char *screen, const char *list, int line) {
-    chooseLine(screen, list, line);
-    auto *view = static_cast<LineList *>(control(screen, list));
-    QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(view->model()->index(line, 0)).center());
+    Person::doubleClickLine(find<LineList>(screen, list), line);
   }
   /// The visible members of a control group, in order.
   static QList<QWidget *> members(const char *screen, const char *group, int count) {
@@ -65,14 +56,10 @@ public:
     return found;
   }
   void openRace(int number) { type("Form4", "Text1", QString::number(number)); }
-  void chooseLine(const char *screen, const char *list, int line) {
-    auto *view = static_cast<LineList *>(control(screen, list));
-    const QModelIndex index = view->model()->index(line, 0);
-    view->scrollTo(index);
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(index).center());
-  }
   void takePicture(const char *screen, const char *name) {
-    const QString file = QStringLiteral("%1-%2.png").arg(++m_count, 2, 10, QLatin1Char('0')).arg(QLatin1String(name));
+    const QString file = QStringLiteral("%1-%2-%3.png")
+                             .arg(++m_count, 2, 10, QLatin1Char('0'))
+                             .arg(QLatin1String(screen), QLatin1String(name));
     QApplication::processEvents();
     m_programm.hints().renew();
     if (!window(screen)->grab().save(m_pictures.filePath(file)))
@@ -81,13 +68,12 @@ public:
 
 private:
   static QWidget *window(const char *screen) {
-    for (auto *widget : QApplication::topLevelWidgets())
-      if (widget->objectName() == QLatin1String(screen) && widget->isVisible())
-        return widget;
+    if (auto *found = Person::window(QLatin1String(screen)))
+      return found;
     throw Fault(QStringLiteral("%1 ist nicht offen.").arg(QLatin1String(screen)));
   }
-  static QWidget *control(const char *screen, const char *name) {
-    if (auto *found = window(screen)->findChild<QWidget *>(QLatin1String(name)))
+  template <typename Control = QWidget> static Control *find(const char *screen, const char *name) {
+    if (auto *found = Person::find<Control>(window(screen), QLatin1String(name)))
       return found;
     throw Fault(QStringLiteral("%1 hat kein %2.").arg(QLatin1String(screen), QLatin1String(name)));
   }
@@ -168,7 +154,7 @@ void classRules(Tour &tour) {
 void classOrder(Tour &tour) {
   tour.press("Form4", "Command15");
   for (auto *cell : Tour::members("Form15", "Label3", 160))
-    QTest::mouseClick(cell, Qt::LeftButton);
+    Person::press(cell);
   tour.takePicture("Form15", "klassen-start-reihenfolge");
   tour.press("Form15", "Command1");
 }
@@ -200,14 +186,14 @@ void timing(Tour &tour) {
   tour.type("Form7", "Text1", QStringLiteral("46.38"));
   tour.enter("Form7", "Text1");
   tour.takePicture("Form7", "zeitnehmung");
-  tour.tick("Form7", "Check1");
+  tour.press("Form7", "Check1");
   tour.takePicture("Form13", "vorlaeufiges-ergebnis");
   tour.press("Form7", "Command7");
   tour.type("Form18", "Text1", QStringLiteral("100"));
   tour.type("Form18", "Text6", QStringLiteral("146,38"));
   tour.enter("Form18", "Text6");
   tour.takePicture("Form18", "hilfszeitnehmung");
-  tour.tick("Form7", "Option5");
+  tour.press("Form7", "Option5");
   tour.takePicture("Form7", "zweiter-durchgang");
   tour.press("Form7", "Command3");
 }
@@ -233,8 +219,8 @@ void lists(Tour &tour) {
 
 void banners(Tour &tour) {
   tour.press("Form8", "Command10");
-  tour.tick("Form21", "Check1_0");
-  tour.tick("Form21", "Check1_1");
+  tour.press("Form21", "Check1_0");
+  tour.press("Form21", "Check1_1");
   tour.takePicture("Form21", "werbebanner");
   tour.press("Form21", "Command1");
   tour.press("Form8", "Command8");
@@ -266,8 +252,8 @@ void titlePageData(Tour &tour) {
 
 void teamResults(Tour &tour) {
   tour.press("Form4", "Command11");
-  tour.tick("Form12", "Check2");
-  tour.tick("Form12", "Option3");
+  tour.press("Form12", "Check2");
+  tour.press("Form12", "Option3");
   tour.press("Form12", "Command2");
   tour.chooseLine("Form12", "List2", 0);
   tour.takePicture("Form12", "mannschafts-ergebnisse");

@@ -1,7 +1,7 @@
 #include "core/Classes.h"
 #include "core/RaceFiles.h"
 #include "platform/Files.h"
-#include "support/TestStore.h"
+#include "support/StoreTest.h"
 
 #include <QDir>
 #include <QMap>
@@ -18,9 +18,8 @@ QMap<QString, QByteArray> bytesOf(const QDir &folder) {
 }
 
 /// The example event, copied into a folder of its own and opened.
-class Beispiel : public StoreTest {
-protected:
-  Beispiel() { test.takeOver(QStringLiteral(VEXT_BEISPIEL)); }
+struct Beispiel : StoreTest {
+  Beispiel() { test.takeOver(VEXT_BEISPIEL); }
 
   void openRace(int number) {
     store.RennenIdx = store.AktRennen = number;
@@ -29,7 +28,7 @@ protected:
     KlassenZuordnen(store);
   }
 
-  const QMap<QString, QByteArray> example = bytesOf(QStringLiteral(VEXT_BEISPIEL));
+  const QMap<QString, QByteArray> example = bytesOf(QDir(VEXT_BEISPIEL));
 };
 
 } // namespace

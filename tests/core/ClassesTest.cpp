@@ -1,14 +1,13 @@
 #include "core/Classes.h"
 
 #include "platform/Faults.h"
-#include "support/TestStore.h"
+#include "support/StoreTest.h"
 
 namespace {
 
-class Classes : public RaceTest {
-protected:
+struct Classes : RaceTest {
   TeilnehmerZeile &enter(int year, int sex = 1) {
-    return store.Teilnehmer[test.enter(test.addAthlete(QStringLiteral("HUBER Kim"), year, sex))];
+    return store.Teilnehmer[test.enter(test.addAthlete("HUBER Kim", year, sex))];
   }
 };
 
@@ -41,8 +40,8 @@ TEST_F(Classes, AFaultBeginsWithWhatIsToBeDone) {
       KlassenZuordnen(store);
       ADD_FAILURE() << begin;
     } catch (const RangeFault &fault) {
-      EXPECT_TRUE(fault.report().startsWith(QString::fromUtf8(begin))) << fault.what();
-      EXPECT_TRUE(fault.report().endsWith(QStringLiteral("KlasseReihenfolge (0 bis 1)."))) << fault.what();
+      EXPECT_TRUE(fault.report().startsWith(begin)) << fault.what();
+      EXPECT_TRUE(fault.report().endsWith("KlasseReihenfolge (0 bis 1).")) << fault.what();
     }
   }
 }

@@ -15,10 +15,10 @@ TEST_F(Form17Test, ComesForwardWithoutLeavingTheFieldOfAnotherScreenAndThePressL
   ASSERT_TRUE(QTest::qWaitForWindowActive(&work));
   field.setFocus();
   form = std::make_unique<Form17>(desk);
-  form->erinnern({QStringLiteral("7   BERGER Eva m/w ?")});
+  form->erinnern({"7   BERGER Eva m/w ?"});
   EXPECT_TRUE(form->isVisible() && form->testAttribute(Qt::WA_ShowWithoutActivating));
   form->hide();
-  auto *timer = form->findChild<QTimer *>(QStringLiteral("Timer1"));
+  auto *timer = form->findChild<QTimer *>("Timer1");
   EXPECT_EQ(timer->interval(), 15000);
   timer->setInterval(0);
   EXPECT_TRUE(QTest::qWaitFor([this] { return form->isVisible(); }));

@@ -1,7 +1,7 @@
 #include "core/RaceFiles.h"
 
 #include "platform/Faults.h"
-#include "support/TestStore.h"
+#include "support/StoreTest.h"
 
 namespace {
 
@@ -11,12 +11,11 @@ QByteArray participant(const char *zeit1, const char *status1 = " 0 ") {
   return block + QByteArray("\r\n").repeated(7);
 }
 
-class RaceFiles : public RaceTest {
-protected:
-  RaceFiles() { test.addAthlete(QStringLiteral("MÜLLER Änne"), 2010, 0); }
+struct RaceFiles : RaceTest {
+  RaceFiles() { test.addAthlete("MÜLLER Änne", 2010, 0); }
 
   void load(const QByteArray &participants) {
-    test.writeFile(QStringLiteral("R 1.dat"), participants);
+    test.writeFile("R 1.dat", participants);
     RennDatenLaden(store);
   }
 };
@@ -34,17 +33,17 @@ TEST_F(RaceFiles, LoadedAndSavedAgainAreTheSameBytes) {
   for (int i = 0; i < 160; ++i)
     k += "genau\x80 " + QByteArray::number(i) + "\r\n";
   const QByteArray m = "eins, zwei\r\n" + QByteArray("\r\n").repeated(98) + "hundert\r\n";
-  test.writeFile(QStringLiteral("K 1.lst"), k);
-  test.writeFile(QStringLiteral("M 1.lst"), m);
-  test.writeFile(QStringLiteral("G 1.lst"), "Gruppe " + m);
+  test.writeFile("K 1.lst", k);
+  test.writeFile("M 1.lst", m);
+  test.writeFile("G 1.lst", "Gruppe " + m);
   load(r);
   for (const char *name : {"R 1.dat", "K 1.lst", "M 1.lst", "G 1.lst"})
     QFile::remove(store.DatenOrdner + QLatin1String(name));
   RennDatenSpeichern(store);
-  EXPECT_EQ(test.file(QStringLiteral("R 1.dat")), r);
-  EXPECT_EQ(test.file(QStringLiteral("K 1.lst")), k);
-  EXPECT_EQ(test.file(QStringLiteral("M 1.lst")), m);
-  EXPECT_EQ(test.file(QStringLiteral("G 1.lst")), "Gruppe " + m);
+  EXPECT_EQ(test.file("R 1.dat"), r);
+  EXPECT_EQ(test.file("K 1.lst"), k);
+  EXPECT_EQ(test.file("M 1.lst"), m);
+  EXPECT_EQ(test.file("G 1.lst"), "Gruppe " + m);
 }
 
 TEST_F(RaceFiles, ALoadWithoutFilesLeavesTheResultsAndTheExactClassOfARow) {
@@ -52,7 +51,7 @@ TEST_F(RaceFiles, ALoadWithoutFilesLeavesTheResultsAndTheExactClassOfARow) {
   store.Teilnehmer[1] = store.Teilnehmer[1000] = full;
   for (auto *text : {&store.KlasseGenauName[0], &store.KlasseGenauName[159], &store.MannschaftName[1],
                      &store.GruppeName[100], &store.KlasseName[20]})
-    *text = QStringLiteral("alt");
+    *text = "alt";
   RennDatenLaden(store);
   for (const int n : {1, 1000}) {
     const auto &row = store.Teilnehmer[n];
@@ -61,18 +60,18 @@ TEST_F(RaceFiles, ALoadWithoutFilesLeavesTheResultsAndTheExactClassOfARow) {
   }
   EXPECT_EQ(store.KlasseGenauName[0] + store.KlasseGenauName[159] + store.MannschaftName[1] + store.GruppeName[100] +
                 store.KlasseName[20],
-            QStringLiteral("AK 6"));
+            "AK 6");
 }
 
 TEST_F(RaceFiles, ASaveIsAnnouncedBeforeItsFirstFileAndAfterItsLast) {
   QStringList seen;
   const auto look = [&] {
     for (const char *name : {"R 1.dat", "K 1.lst"})
-      seen << (test.hasFile(QLatin1String(name)) ? QStringLiteral("da") : QStringLiteral("fehlt"));
+      seen << (test.hasFile(name) ? "da" : "fehlt");
   };
   store.vorDemSpeichern = store.nachDemSpeichern = look;
   RennDatenSpeichern(store);
-  EXPECT_EQ(seen.join(QLatin1Char(' ')), QStringLiteral("fehlt fehlt da da"));
+  EXPECT_EQ(seen.join(u' '), "fehlt fehlt da da");
 }
 
 TEST_F(RaceFiles, OddParticipantFiles) {
@@ -98,34 +97,33 @@ TEST_F(RaceFiles, OddParticipantFiles) {
 TEST_F(RaceFiles, SavingDropsFreeRowsAndNamesInRowThreeAlone) {
   test.enter(1, 8);
   store.Teilnehmer[5].LaeuferNr = 1;
-  store.MannschaftName[3] = QStringLiteral("allein");
+  store.MannschaftName[3] = "allein";
   RennDatenSpeichern(store);
-  EXPECT_FALSE(test.hasFile(QStringLiteral("M 1.lst")));
+  EXPECT_FALSE(test.hasFile("M 1.lst"));
   RennDatenLaden(store);
   EXPECT_EQ(store.Teilnehmer[2].LaeuferNr, 1);
   EXPECT_EQ(store.Teilnehmer[5].LaeuferNr, 0);
 }
 
 TEST_F(RaceFiles, APastedLineBreakMovesNoLine) {
-  store.KlasseGenauName[1] = store.GruppeName[1] = QStringLiteral("oben\nunten");
-  store.GruppeName[2] = store.KlasseGenauName[2] = QStringLiteral("zwei");
+  store.KlasseGenauName[1] = store.GruppeName[1] = "oben\nunten";
+  store.GruppeName[2] = store.KlasseGenauName[2] = "zwei";
   RennDatenSpeichern(store);
   RennDatenLaden(store);
-  EXPECT_EQ(store.GruppeName[1] + store.GruppeName[2], QStringLiteral("oben untenzwei"));
-  EXPECT_EQ(store.KlasseGenauName[1] + store.KlasseGenauName[2], QStringLiteral("oben untenzwei"));
+  EXPECT_EQ(store.GruppeName[1] + store.GruppeName[2], "oben untenzwei");
+  EXPECT_EQ(store.KlasseGenauName[1] + store.KlasseGenauName[2], "oben untenzwei");
 }
 
 TEST_F(RaceFiles, RemindsOfAthletesWithoutSexOrBirthDate) {
   QStringList reminder;
   test.umgebung.erinnern = [&](const QStringList &lines) { reminder = lines; };
   LaeuferSatz max;
-  max.Name = QStringLiteral("HUBER Max");
+  max.Name = "HUBER Max";
   LaeuferSchreiben(store, 2, max);
   test.enter(1);
   test.enter(2);
   RennDatenSpeichern(store);
-  EXPECT_EQ(reminder,
-            QStringList({QStringLiteral("2   HUBER Max m/w ?"), QStringLiteral("2   HUBER Max Geburtsdatum ?")}));
+  EXPECT_EQ(reminder, QStringList({"2   HUBER Max m/w ?", "2   HUBER Max Geburtsdatum ?"}));
 }
 
 TEST_F(RaceFiles, FaultsNameFileAndLine) {
@@ -139,8 +137,8 @@ TEST_F(RaceFiles, FaultsNameFileAndLine) {
       load(bytes);
       ADD_FAILURE() << "no fault: " << where;
     } catch (const ConversionFault &fault) {
-      EXPECT_TRUE(fault.report().contains(QLatin1String(where))) << fault.what();
-      EXPECT_TRUE(fault.report().contains(QStringLiteral("R 1.dat"))) << fault.what();
+      EXPECT_TRUE(fault.report().contains(where)) << fault.what();
+      EXPECT_TRUE(fault.report().contains("R 1.dat")) << fault.what();
     }
   }
 }

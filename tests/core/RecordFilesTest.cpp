@@ -1,12 +1,11 @@
 #include "platform/Dates.h"
 #include "platform/Faults.h"
 #include "platform/Numbers.h"
-#include "support/TestStore.h"
+#include "support/StoreTest.h"
 
 namespace {
 
-class RecordFiles : public StoreTest {
-protected:
+struct RecordFiles : StoreTest {
   // A record of numbered bytes, so that every field and its place show.
   static QByteArray pattern(int length) {
     QByteArray bytes(length, ' ');
@@ -23,9 +22,8 @@ TEST_F(RecordFiles, EveryByteSurvivesReadingAndWriting) {
   QByteArray laeufer = pattern(LaeuferLaenge).replace(0, 80, QByteArray("\xc4NGSTL \x80uro").leftJustified(80));
   laeufer.replace(80, 6, QByteArray("\x01\0\0\0\0\0", 6)).replace(94, 2, QByteArray("\x01\0", 2));
   const QByteArray rennen = pattern(RennenLaenge).replace(363, 1, "\x11");
-  const std::pair<QString, QByteArray> files[] = {{QStringLiteral("Verein.rec"), verein},
-                                                  {QStringLiteral("Laeufer.rec"), laeufer},
-                                                  {QStringLiteral("Rennen.rec"), rennen}};
+  const std::pair<QString, QByteArray> files[] = {
+      {"Verein.rec", verein}, {"Laeufer.rec", laeufer}, {"Rennen.rec", rennen}};
   for (const auto &[name, bytes] : files)
     test.writeFile(name, bytes);
   store.VereinAnzahl = store.LaeuferAnzahl = store.RennenAnzahl = 1;
@@ -45,10 +43,10 @@ TEST_F(RecordFiles, EveryByteSurvivesReadingAndWriting) {
 }
 
 TEST_F(RecordFiles, FieldsLieWhereTheyAreTold) {
-  test.addClub(QString(81, QLatin1Char('x')));
-  test.addAthlete(QStringLiteral("MÜLLER Änne"), 2005, 1, 1);
-  store.Rennen.Sponsor6 = QStringLiteral("letzter");
-  store.Rennen.Startzeit = QStringLiteral("10:30");
+  test.addClub(QString(81, u'x'));
+  test.addAthlete("MÜLLER Änne", 2005, 1, 1);
+  store.Rennen.Sponsor6 = "letzter";
+  store.Rennen.Startzeit = "10:30";
   store.Rennen.WertBoarder = 1;
   store.RennenIdx = 1;
   RennenSchreiben(store);
@@ -63,12 +61,12 @@ TEST_F(RecordFiles, FieldsLieWhereTheyAreTold) {
                {"Rennen.rec", 362, QByteArray("\x01\0", 2) + "10:30"},
                {"Rennen.rec", 723, "letzter "}};
   for (const auto &[file, place, bytes] : cases)
-    EXPECT_EQ(test.file(QLatin1String(file)).mid(place, bytes.size()), bytes) << file << ' ' << place;
-  EXPECT_EQ(test.file(QStringLiteral("Verein.rec")).size(), 798);
+    EXPECT_EQ(test.file(file).mid(place, bytes.size()), bytes) << file << ' ' << place;
+  EXPECT_EQ(test.file("Verein.rec").size(), 798);
 }
 
 TEST_F(RecordFiles, ReadingHoldsValuesInRange) {
-  test.addClub(QStringLiteral("SK"));
+  test.addClub("SK");
   store.RennenIdx = 1;
   for (const auto &[sex, expected] : {std::pair(5, 2), {-1, 0}, {1, 1}}) {
     LaeuferSatz athlete;
@@ -85,20 +83,20 @@ TEST_F(RecordFiles, ReadingHoldsValuesInRange) {
 }
 
 TEST_F(RecordFiles, ReadingOutsideTheFileBeepsAndEmptiesTheName) {
-  test.addClub(QStringLiteral("SK"));
-  test.addRace(QStringLiteral("Lauf"));
+  test.addClub("SK");
+  test.addRace("Lauf");
   for (const auto &[index, kurz] : {std::pair(2, "SK"), {0, ""}, {1, "SK"}}) {
     const VereinSatz club = VereinLesen(store, index);
     store.RennenIdx = index;
     RennenLesen(store);
-    EXPECT_EQ(trimmedBlanks(club.VereinKurz), QLatin1String(kurz)) << index;
+    EXPECT_EQ(trimmedBlanks(club.VereinKurz), kurz) << index;
     EXPECT_EQ(club.VereinName.isEmpty() && store.Rennen.RennenName.isEmpty(), index != 1) << index;
   }
   EXPECT_EQ(test.beeps, 4);
 }
 
 TEST_F(RecordFiles, NewRaceInheritsTheCriteriaAndNothingElse) {
-  test.addRace(QStringLiteral("Erstes"));
+  test.addRace("Erstes");
   store.Rennen.ZweiDurchgaenge = 1;
   store.Rennen.UrkundeBild = 5;
   store.Rennen.ZuschlagGast = 3;
@@ -113,7 +111,7 @@ TEST_F(RecordFiles, NewRaceInheritsTheCriteriaAndNothingElse) {
 TEST_F(RecordFiles, WritesBelowOneFaultButForAthletes) {
   store.RennenIdx = 0;
   LaeuferSchreiben(store, 0, {});
-  EXPECT_EQ(test.file(QStringLiteral("Laeufer.rec")), QByteArray());
+  EXPECT_EQ(test.file("Laeufer.rec"), QByteArray());
   EXPECT_THROW(VereinSchreiben(store, 0, {}), FileFault);
   EXPECT_THROW(RennenSchreiben(store), FileFault);
 }
@@ -130,20 +128,19 @@ TEST_F(RecordFiles, RecordNotYetWrittenReadsAsEmptyAndAGapAsZeros) {
 
 TEST_F(RecordFiles, CountsAreWrittenWhenTheLastRecordChanges) {
   store.VextReserve = 9;
-  test.addAthlete(QStringLiteral("A"), 2001, 0);
-  test.addAthlete(QStringLiteral("B"), 2001, 0);
-  EXPECT_EQ(test.file(QStringLiteral("Vext.dat")), " 2 \r\n 0 \r\n 0 \r\n 9 \r\n");
-  QFile::remove(store.DatenOrdner + QStringLiteral("Vext.dat"));
+  test.addAthlete("A", 2001, 0);
+  test.addAthlete("B", 2001, 0);
+  EXPECT_EQ(test.file("Vext.dat"), " 2 \r\n 0 \r\n 0 \r\n 9 \r\n");
+  QFile::remove(store.DatenOrdner + QString("Vext.dat"));
   for (const int n : {1, 2}) {
     LaeuferSchreiben(store, n, {});
-    EXPECT_EQ(test.hasFile(QStringLiteral("Vext.dat")), n == 2);
+    EXPECT_EQ(test.hasFile("Vext.dat"), n == 2);
   }
 }
 
 TEST_F(RecordFiles, ListsAreInGermanOrderWithTheNumberAtTheEnd) {
   for (const char *name : {"Zeller", "öhler", "OHLER", "", "Öhler"})
-    test.addAthlete(QString::fromUtf8(name), 2001, 0);
+    test.addAthlete(name, 2001, 0);
   EXPECT_EQ(LaeuferListeFuellen(store),
-            QStringList({QStringLiteral("öhler        2"), QStringLiteral("OHLER        3"),
-                         QStringLiteral("Öhler        5"), QStringLiteral("Zeller        1")}));
+            QStringList({"öhler        2", "OHLER        3", "Öhler        5", "Zeller        1"}));
 }

@@ -1,7 +1,7 @@
 #include "core/Start.h"
 
 #include "core/StateFiles.h"
-#include "support/TestStore.h"
+#include "support/StoreTest.h"
 
 using Start = StoreTest;
 
@@ -15,8 +15,8 @@ TEST_F(Start, SeasonTurnsAtTheBeginningOfJuly) {
 }
 
 TEST_F(Start, PlacesAreMirroredBackAndCountsReadAsFarAsTheyGo) {
-  test.writeFile(QStringLiteral("TopLeft.dat"), " 150 \r\n-300 \r\n 7 \r\n 8 \r\n 3000000000 \r\n 5 \r\n");
-  test.writeFile(QStringLiteral("Vext.dat"), " 12 \r\n 3 \r\n");
+  test.writeFile("TopLeft.dat", " 150 \r\n-300 \r\n 7 \r\n 8 \r\n 3000000000 \r\n 5 \r\n");
+  test.writeFile("Vext.dat", " 12 \r\n 3 \r\n");
   storeStarten(store);
   EXPECT_EQ(store.Fenster.FensterLeft[1], 300);
   EXPECT_EQ(store.Fenster.FensterTop[2], 7);
@@ -24,14 +24,14 @@ TEST_F(Start, PlacesAreMirroredBackAndCountsReadAsFarAsTheyGo) {
   EXPECT_EQ(store.VereinAnzahl, 3);
   EXPECT_EQ(store.RennenIdx, 0);
   FensterSpeichern(store);
-  const QByteArray file = test.file(QStringLiteral("TopLeft.dat"));
+  const QByteArray file = test.file("TopLeft.dat");
   EXPECT_TRUE(file.startsWith(" 150 \r\n 300 \r\n 7 \r\n 8 \r\n 0 \r\n 0 \r\n 0 \r\n"));
   EXPECT_EQ(file.count('\n'), 120);
 }
 
 TEST_F(Start, CountsOfMoreRecordsThanAFileMayHoldAreRefused) {
   for (const char *bytes : {" 2147483647 \r\n", " 0 \r\n 900000 \r\n", " 0 \r\n 0 \r\n 900000 \r\n"}) {
-    test.writeFile(QStringLiteral("Vext.dat"), bytes);
+    test.writeFile("Vext.dat", bytes);
     EXPECT_THROW(storeStarten(store), ConversionFault) << bytes;
   }
 }

@@ -3,14 +3,14 @@
 #include "core/RaceFiles.h"
 #include "platform/Files.h"
 #include "support/OtherMedia.h"
-#include "support/TestStore.h"
+#include "support/StoreTest.h"
 #include "timing/Ranking.h"
 
 #include <QRegularExpression>
 #include <QUrl>
 
 TEST_F(StoreTest, AllListsAreWrittenWithAPageThatLeadsToThemAndNothingElseChanges) {
-  test.takeOver(QStringLiteral(VEXT_BEISPIEL));
+  test.takeOver(VEXT_BEISPIEL);
   store.RennenIdx = store.AktRennen = 2;
   RennenLesen(store);
   RennDatenLaden(store);
@@ -28,13 +28,13 @@ TEST_F(StoreTest, AllListsAreWrittenWithAPageThatLeadsToThemAndNothingElseChange
   for (const Recording &list : lists)
     EXPECT_EQ(OtherMedia(list).differences(), QStringList()) << list.title.toStdString();
   Printers printers([] { return SystemPrinters(); }, {});
-  const QString folder = test.folder.filePath(QStringLiteral("Ausdrucke"));
+  const QString folder = test.folder.filePath("Ausdrucke");
   alleListenDrucken(store, printers, folder, [] { return QDateTime(QDate(2026, 1, 15), QTime(12, 0)); });
   EXPECT_EQ(printers.outcome().files.size(), lists.size() + 1);
-  const QString index = QString::fromUtf8(readFile(printers.outcome().files.last()));
-  static const QRegularExpression link(QStringLiteral("href=\"([^\"]+)\""));
+  const QString index = readFile(printers.outcome().files.last());
+  static const QRegularExpression link("href=\"([^\"]+)\"");
   int links = 0;
   for (auto found = link.globalMatch(index); found.hasNext(); ++links)
-    EXPECT_TRUE(fileExists(folder + QLatin1Char('/') + QUrl::fromPercentEncoding(found.next().captured(1).toLatin1())));
+    EXPECT_TRUE(fileExists(folder + u'/' + QUrl::fromPercentEncoding(found.next().captured(1).toLatin1())));
   EXPECT_EQ(links, lists.size());
 }

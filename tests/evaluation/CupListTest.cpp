@@ -3,21 +3,20 @@
 #include "evaluation/Cup.h"
 #include "evaluation/CupScoring.h"
 #include "platform/print/PrintMetrics.h"
-#include "support/OtherMedia.h"
 #include "support/CupRaces.h"
+#include "support/OtherMedia.h"
 
 #include <QRegularExpression>
 
 namespace {
 
-class CupListTest : public testing::Test {
-protected:
+struct CupListTest : testing::Test {
   CupListTest() { cupLaden(store); }
 
   /// The document as text; texts printed behind others have no position.
   QStringList print(const QStringList &keys, bool separate = false) {
-    Cupliste(store, druck, {QStringLiteral("Talcup"), separate, keys});
-    static const QRegularExpression behind(QStringLiteral("^[^|]*(?=\\|(, |  - | \\|))"));
+    Cupliste(store, druck, {"Talcup", separate, keys});
+    static const QRegularExpression behind("^[^|]*(?=\\|(, |  - | \\|))");
     EXPECT_EQ(OtherMedia(printed).differences(), QStringList());
     QStringList lines = asText(printed);
     lines.replaceInStrings(behind, QString());
@@ -30,7 +29,7 @@ protected:
     for (int person = 1; person <= first + second; ++person) {
       store.cup.CupLaeufer[person] = 1;
       store.cup.CupKlasse[person] = person <= first ? 0 : 8;
-      names << QStringLiteral("Name %1").arg(person, 3);
+      names << QString("Name %1").arg(person, 3);
     }
     return cupSchluessel(store.cup, names);
   }
@@ -56,8 +55,8 @@ TEST_F(CupListTest, pagesBreakByRowAndByClass) {
         std::tuple(8, 1, true, 2, 0), std::tuple(0, 0, false, 1, 0)}) {
     const QStringList lines = print(people(first, second), separate);
     EXPECT_EQ(printed.pages.size(), pages) << first << '+' << second;
-    EXPECT_EQ(lines.count(QStringLiteral("|  - Fortsetzung|")), continued);
-    EXPECT_EQ(lines.filter(QStringLiteral("Arial 9 bold | 1 |")).size(), first + second) << "a tie goes on";
+    EXPECT_EQ(lines.count("|  - Fortsetzung|"), continued);
+    EXPECT_EQ(lines.filter("Arial 9 bold | 1 |").size(), first + second) << "a tie goes on";
   }
 }
 
@@ -76,7 +75,7 @@ TEST_F(CupListTest, manyRoundsStayReadableAndInsideTheFrame) {
         EXPECT_GE(text->font.size, 7) << text->text.toStdString();
         const double end = text->x + PrintMetrics::textWidth(text->font, text->text);
         EXPECT_LT(end, 275);
-        if (text->text.contains(QLatin1Char(':'))) {
+        if (text->text.contains(u':')) {
           EXPECT_GT(text->x, right) << "a time runs into the one before";
           right = end;
         }

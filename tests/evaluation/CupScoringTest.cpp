@@ -1,6 +1,6 @@
 #include "evaluation/CupScoring.h"
 
-#include "support/TestStore.h"
+#include "support/StoreTest.h"
 
 namespace {
 

@@ -4,8 +4,7 @@
 
 namespace {
 
-class CupTest : public StoreTest {
-protected:
+struct CupTest : StoreTest {
   CupRaces cup{test};
 };
 
@@ -14,9 +13,9 @@ protected:
 TEST_F(CupTest, threeRacesWorkedOutByHand) {
   cupLaden(store);
   const CupErgebnis result = cupAuswerten(store, cup.all, 1);
-  EXPECT_EQ(teilnehmerZeilen(result.namen).first(), QStringLiteral("ADAM Ada"));
-  EXPECT_EQ(result.schluessel.first(), QStringLiteral("  09949 ADAM Ada       5"));
-  EXPECT_EQ(result.schluessel.last(), QStringLiteral("  89939 FUCHS Lea       6"));
+  EXPECT_EQ(teilnehmerZeilen(result.namen).first(), "ADAM Ada");
+  EXPECT_EQ(result.schluessel.first(), "  09949 ADAM Ada       5");
+  EXPECT_EQ(result.schluessel.last(), "  89939 FUCHS Lea       6");
   EXPECT_EQ(result.zeilen, cup.lines);
   EXPECT_EQ(store.cup.CupRang(5, 4), 99);
   EXPECT_EQ(store.cup.CupZeit(1, 3), 31);
@@ -24,10 +23,10 @@ TEST_F(CupTest, threeRacesWorkedOutByHand) {
 
 TEST_F(CupTest, typedPlacesAndPointsAreHeldToTheTable) {
   for (const auto &[typed, place] : {std::pair("0", 1), {"-3", 1}, {"7.6", 8}, {"101", 100}, {"x", 1}})
-    EXPECT_EQ(heldPlace(QLatin1String(typed)), place);
+    EXPECT_EQ(heldPlace(typed), place);
   for (const auto &[typed, stored, shown] : {std::tuple("12,5", true, "12"), {"40000", false, "12"}, {"", true, ""}}) {
-    EXPECT_EQ(storePoints(store.cup, 100, QLatin1String(typed)), stored) << typed;
-    EXPECT_EQ(pointsText(store.cup, 100), QLatin1String(shown));
+    EXPECT_EQ(storePoints(store.cup, 100, typed), stored) << typed;
+    EXPECT_EQ(pointsText(store.cup, 100), shown);
   }
 }
 
@@ -39,10 +38,10 @@ TEST_F(CupTest, aSmallerCupKeepsNobodyOfTheOneBefore) {
 
 TEST_F(CupTest, theLastMarkedRaceGivesCriteriaAndTheFirstTheClass) {
   const int young = cup.add("GRUBER Tom", 2001);
-  addResults(test, QStringLiteral("Gruppen"), {{young, 50}, {1, 49}}, [](RennenSatz &race) { race.WertKlassen = 0; });
+  addResults(test, "Gruppen", {{young, 50}, {1, 49}}, [](RennenSatz &race) { race.WertKlassen = 0; });
   store.Teilnehmer[1].KlasseGenau = 0; // as found in an untouched copy of a race
   RennDatenSpeichern(store);
-  addResults(test, QStringLiteral("Klassen"), {{young, 50}, {1, 49}}, [](RennenSatz &race) { race.ZuschlagMann = 2; });
+  addResults(test, "Klassen", {{young, 50}, {1, 49}}, [](RennenSatz &race) { race.ZuschlagMann = 2; });
   cupAuswerten(store, {5, 4}, 0); // by groups: one ranking, no surcharge
   EXPECT_EQ(store.cup.CupRang(1, 2), 2);
   EXPECT_EQ(store.cup.CupZeit(1, 2), 50);
@@ -56,16 +55,16 @@ TEST_F(CupTest, aClassBehindTheTableHasNoNameAndKeepsItsOrder) {
     store.Teilnehmer[row].KlasseGenau = qint16(162 - row); // order numbers, as in an untouched copy of a race
   RennDatenSpeichern(store);
   const CupErgebnis result = cupAuswerten(store, {3}, 0);
-  const QString unnamed = QString(26, QLatin1Char('-')) + QStringLiteral("----R1-Summe");
+  const QString unnamed = QString(26, u'-') + QString("----R1-Summe");
   EXPECT_EQ(result.zeilen.count(unnamed), 2);
-  EXPECT_TRUE(result.schluessel.last().startsWith(QStringLiteral("161")));
+  EXPECT_TRUE(result.schluessel.last().startsWith("161"));
 }
 
 TEST_F(CupTest, aNameIsOnePersonAndTheFirstOneGetsTheResults) {
   const int twin = cup.add("ADAM Ada", 1991), lower = cup.add("adam ada", 1991), nobody = cup.add("", 1991);
-  addResults(test, QStringLiteral("Namen"), {{nobody, 1}, {twin, 40}, {1, 39}, {lower, 41}, {twin, 42}});
+  addResults(test, "Namen", {{nobody, 1}, {twin, 40}, {1, 39}, {lower, 41}, {twin, 42}});
   const CupErgebnis result = cupAuswerten(store, {4}, 0);
-  EXPECT_EQ(result.namen, (QStringList{QStringLiteral("ADAM Ada"), QStringLiteral("adam ada")}));
+  EXPECT_EQ(result.namen, (QStringList{"ADAM Ada", "adam ada"}));
   EXPECT_EQ(store.cup.CupLaeufer[1], twin);
   EXPECT_EQ(store.cup.CupZeit(1, 1), 42) << "of two rows the last";
 }
@@ -80,19 +79,18 @@ TEST_F(CupTest, cupFile) {
   store.cup.CupPunkteTabelle[2] = 0;
   store.cup.CupPunkteTabelle[100] = -7;
   EXPECT_EQ(punkteZeilen(store.cup, false).size(), 8);
-  EXPECT_EQ(punkteZeilen(store.cup, true).last(), QStringLiteral("Platz 100: -7 P."));
-  chosen = {QStringLiteral("  Cup, groß "), {12, 3}};
+  EXPECT_EQ(punkteZeilen(store.cup, true).last(), "Platz 100: -7 P.");
+  chosen = {"  Cup, groß ", {12, 3}};
   cupSpeichern(store, chosen);
-  const QByteArray bytes = test.file(QStringLiteral("Cup.dat"));
+  const QByteArray bytes = test.file("Cup.dat");
   EXPECT_TRUE(bytes.startsWith("Cup, gro\xDF\r\n 20 \r\n 0 \r\n 10 \r\n"));
   EXPECT_TRUE(bytes.endsWith("\r\n-7 \r\n 12 \r\n 3 \r\n"));
   EXPECT_EQ(bytes.count('\n'), 103);
   const CupAuswahl read = cupLaden(store);
-  EXPECT_EQ(read.bezeichnung, QStringLiteral("Cup, groß"));
+  EXPECT_EQ(read.bezeichnung, "Cup, groß");
   EXPECT_EQ(read.rennen, chosen.rennen);
   EXPECT_EQ(store.cup.CupPunkteTabelle[100], -7);
-  test.writeFile(QStringLiteral("Cup.dat"), "Kurz\r\n 5 \r\n");
+  test.writeFile("Cup.dat", "Kurz\r\n 5 \r\n");
   EXPECT_TRUE(cupLaden(store).rennen.isEmpty());
-  EXPECT_EQ(punkteZeilen(store.cup, true).mid(0, 2),
-            (QStringList{QStringLiteral("Platz 1:  5 P."), QStringLiteral("Platz 2:  15 P.")}));
+  EXPECT_EQ(punkteZeilen(store.cup, true).mid(0, 2), (QStringList{"Platz 1:  5 P.", "Platz 2:  15 P."}));
 }

@@ -6,8 +6,7 @@
 
 namespace {
 
-class Form20Test : public ScreenTest<Form20> {
-protected:
+struct Form20Test : ScreenTest<Form20> {
   void open() { ScreenTest::open(*fake.printers); }
   void markAll() {
     for (const int line : {0, 1, 2})
@@ -25,37 +24,37 @@ TEST_F(Form20Test, evaluatesTheMarkedRacesAndPrintsOnce) {
   markAll();
   type("Text3", "5"); // held to the rounds
   press("Command1");
-  EXPECT_EQ(text("Text3"), QStringLiteral("4"));
+  EXPECT_EQ(text("Text3"), "4");
   QTest::mouseClick(find("Text3"), Qt::LeftButton);
   EXPECT_FALSE(enabled("Command2"));
   type("Text3", "-1");
   press("Command1");
-  EXPECT_EQ(text("Text3"), QStringLiteral("-1"));
+  EXPECT_EQ(text("Text3"), "-1");
   EXPECT_EQ(lines("List5"), cup.lines);
   press("Command2");
   EXPECT_EQ(fake.documents.size(), 1);
   EXPECT_FALSE(enabled("Command2"));
-  EXPECT_EQ(label("drucker"), QStringLiteral("Drucker: Laser"));
-  EXPECT_EQ(label("letzteDatei"), QStringLiteral("Cupliste.pdf"));
+  EXPECT_EQ(label("drucker"), "Drucker: Laser");
+  EXPECT_EQ(label("letzteDatei"), "Cupliste.pdf");
 }
 
 TEST_F(Form20Test, pointsAreTypedDownTheTable) {
   open();
   EXPECT_FALSE(enabled("Text2"));
   type("Text1", "9");
-  EXPECT_EQ(text("Text2"), QStringLiteral("1"));
+  EXPECT_EQ(text("Text2"), "1");
   key(Qt::Key_Return);
   keys("2.5");
   key(Qt::Key_Return);
-  EXPECT_EQ(text("Text1"), QStringLiteral("10"));
+  EXPECT_EQ(text("Text1"), "10");
   EXPECT_EQ(text("Text2"), QString());
   EXPECT_TRUE(focused("Text1"));
-  EXPECT_EQ(lines("List2").last(), QStringLiteral("Platz 9:  2 P."));
+  EXPECT_EQ(lines("List2").last(), "Platz 9:  2 P.");
   type("Text2", "99999");
   EXPECT_EQ(test.beeps, 1);
   EXPECT_EQ(store.cup.CupPunkteTabelle[10], 9999);
   type("Text1", "300");
-  EXPECT_EQ(text("Text1"), QStringLiteral("100"));
+  EXPECT_EQ(text("Text1"), "100");
 }
 
 TEST_F(Form20Test, closingKeepsTheChoiceAndOpensTheRaceOfBefore) {
@@ -70,9 +69,9 @@ TEST_F(Form20Test, closingKeepsTheChoiceAndOpensTheRaceOfBefore) {
   EXPECT_EQ(store.AktRennen, 2);
   EXPECT_EQ(store.Rennen.ZweiDurchgaenge, 1);
   EXPECT_EQ(store.Teilnehmer[1].Zeit2, 33);
-  EXPECT_TRUE(test.file(QStringLiteral("Cup.dat")).endsWith(" 0 \r\n 3 \r\n 1 \r\n"));
+  EXPECT_TRUE(test.file("Cup.dat").endsWith(" 0 \r\n 3 \r\n 1 \r\n"));
   open();
-  EXPECT_EQ(text("Text4"), QStringLiteral("Talcup"));
+  EXPECT_EQ(text("Text4"), "Talcup");
   EXPECT_EQ(find<MarkList>("List1")->marked(), (QList<int>{0, 2}));
   EXPECT_TRUE(enabled("Command1"));
 }

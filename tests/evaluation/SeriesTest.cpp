@@ -1,6 +1,6 @@
 #include "evaluation/Series.h"
 
-#include "support/TestStore.h"
+#include "support/StoreTest.h"
 
 namespace {
 
@@ -25,7 +25,7 @@ TEST_F(Series, TheSecondRunMovesForwardInEveryRow) {
 }
 
 TEST_F(Series, EveryExactClassIsRemembered) {
-  store.KlasseGenauName[0] = store.KlasseGenauName[159] = QStringLiteral("Klasse");
+  store.KlasseGenauName[0] = store.KlasseGenauName[159] = "Klasse";
   klassenNamenMerken(store);
-  EXPECT_EQ(store.cup.CupKlasseName[0] + store.cup.CupKlasseName[159], QStringLiteral("KlasseKlasse"));
+  EXPECT_EQ(store.cup.CupKlasseName[0] + store.cup.CupKlasseName[159], "KlasseKlasse");
 }

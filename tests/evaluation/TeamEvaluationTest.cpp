@@ -7,8 +7,7 @@ namespace {
 using enum WertungsFilter;
 using enum MitgliederOrdnung;
 
-class TeamEvaluationTest : public StoreTest {
-protected:
+struct TeamEvaluationTest : StoreTest {
   TeamEvaluationTest() { wertungVorbereiten(store); }
 
   QList<int> gezaehlt() const {
@@ -26,26 +25,21 @@ protected:
 
 TEST_F(TeamEvaluationTest, bestTimesAndAverages) {
   const Wertung clubs;
-  const QString name1 = QStringLiteral("SC Alm              "), name2 = QStringLiteral("TV Berg             ");
-  EXPECT_EQ(teamWertung(store, clubs),
-            (QStringList{QStringLiteral("     40,00 ") + name1 + QStringLiteral("      1"),
-                         QStringLiteral("     40,00 ") + name2 + QStringLiteral("      2")}));
-  EXPECT_EQ(
-      teamWertung(store, {Einheit::Mannschaft, WertungsArt::Durchschnitt}),
-      (QStringList{QStringLiteral("     41,00 Die Schnellen      3"), QStringLiteral("     60,00 Älter      7")}));
-  EXPECT_EQ(
-      teamWertung(store, {Einheit::Mannschaft, WertungsArt::Durchschnitt, NurMaennlich}),
-      (QStringList{QStringLiteral("     41,00 Die Schnellen      3"), QStringLiteral("     80,00 Älter      7")}));
+  const QString name1 = "SC Alm              ", name2 = "TV Berg             ";
+  EXPECT_EQ(teamWertung(store, clubs), (QStringList{QString("     40,00 ") + name1 + QString("      1"),
+                                                    QString("     40,00 ") + name2 + QString("      2")}));
+  EXPECT_EQ(teamWertung(store, {Einheit::Mannschaft, WertungsArt::Durchschnitt}),
+            (QStringList{"     41,00 Die Schnellen      3", "     60,00 Älter      7"}));
+  EXPECT_EQ(teamWertung(store, {Einheit::Mannschaft, WertungsArt::Durchschnitt, NurMaennlich}),
+            (QStringList{"     41,00 Die Schnellen      3", "     80,00 Älter      7"}));
 }
 
 TEST_F(TeamEvaluationTest, sumOfTheBestPutsIncompleteUnitsBehind) {
   QList<QStringList> lists;
   const auto keep = [&lists](const QStringList &times) { lists << times; };
   EXPECT_EQ(teamWertung(store, {Einheit::Mannschaft, WertungsArt::ZeitsummeDerBesten, Gemischt, 3}, keep),
-            (QStringList{QStringLiteral(" 100082,00 Die Schnellen      3"), QStringLiteral(" 100120,00 Älter      7"),
-                         QStringLiteral(" 300000,00 niemand      8")}));
-  EXPECT_EQ(lists.first(),
-            (QStringList{QStringLiteral("     40,00          3"), QStringLiteral("     42,00          4")}));
+            (QStringList{" 100082,00 Die Schnellen      3", " 100120,00 Älter      7", " 300000,00 niemand      8"}));
+  EXPECT_EQ(lists.first(), (QStringList{"     40,00          3", "     42,00          4"}));
   EXPECT_EQ(gezaehlt(), (QList<int>{1, 2, 3, 4}));
   teamWertung(store, {Einheit::Mannschaft, WertungsArt::Bestzeit});
   EXPECT_EQ(gezaehlt().size(), 4) << "the marks stay without a filter";
@@ -63,10 +57,10 @@ TEST_F(TeamEvaluationTest, membersInTheirOrders) {
   const Wertung teams{Einheit::Mannschaft, WertungsArt::Bestzeit};
   store.Teilnehmer[3].KlasseReihe = 12;
   store.Teilnehmer[4].KlasseReihe = 3;
-  EXPECT_EQ(mitgliederZeilen(store, teams, 3, NachZeit), (QStringList{QStringLiteral("   40,00   CERNY Ida        3"),
-                                                                      QStringLiteral("   42,00   DORN Uwe        4")}));
-  EXPECT_EQ(mitgliederZeilen(store, teams, 3, Alphabetisch).first(), QStringLiteral("   CERNY Ida        3"));
-  EXPECT_EQ(mitgliederZeilen(store, teams, 3, NachKlassen).first(), QStringLiteral("  3   DORN Uwe        4"));
+  EXPECT_EQ(mitgliederZeilen(store, teams, 3, NachZeit),
+            (QStringList{"   40,00   CERNY Ida        3", "   42,00   DORN Uwe        4"}));
+  EXPECT_EQ(mitgliederZeilen(store, teams, 3, Alphabetisch).first(), "   CERNY Ida        3");
+  EXPECT_EQ(mitgliederZeilen(store, teams, 3, NachKlassen).first(), "  3   DORN Uwe        4");
   EXPECT_EQ(mitgliederZeilen(store, {}, 2, NachZeit).size(), 2);
 }
 
@@ -77,7 +71,7 @@ TEST_F(TeamEvaluationTest, rowsKeepTheClubOfAnEarlierRaceButCountForNobody) {
   wertungVorbereiten(store);
   EXPECT_EQ(store.mannschaften.WertVereinIdx[4], 2);
   EXPECT_EQ(store.mannschaften.WertVereinIdx[6], 0);
-  EXPECT_EQ(teamWertung(store, {}).last().left(10), QStringLiteral("     42,00"));
+  EXPECT_EQ(teamWertung(store, {}).last().left(10), "     42,00");
   EXPECT_EQ(mitgliederZeilen(store, {}, 2, Alphabetisch).size(), 3);
 }
 
@@ -90,7 +84,7 @@ TEST_F(TeamEvaluationTest, aClassBehindTheTableHasNoName) {
 
 TEST_F(TeamEvaluationTest, furtherClubsTakeTheHundredthNumber) {
   for (int i = 3; i <= 102; ++i)
-    race.add(qPrintable(QStringLiteral("LÄUFER %1").arg(i)), 0, test.addClub(QStringLiteral("Klub %1").arg(i)), 0, 50);
+    race.add(qPrintable(QString("LÄUFER %1").arg(i)), 0, test.addClub(QString("Klub %1").arg(i)), 0, 50);
   wertungVorbereiten(store);
   EXPECT_EQ(store.mannschaften.WertVerein[99], 99);
   EXPECT_EQ(store.mannschaften.WertVerein[100], 102);
@@ -100,18 +94,18 @@ TEST_F(TeamEvaluationTest, furtherClubsTakeTheHundredthNumber) {
 }
 
 TEST_F(TeamEvaluationTest, theLastRowAndTheLastUnitsCount) {
-  const int club = test.addClub(QStringLiteral("Union"));
+  const int club = test.addClub("Union");
   auto &last = store.Teilnehmer[1000];
   std::swap(last, store.Teilnehmer[race.add("ZAHN Max", 1, club, 100, 50)]);
   race.add("ZAHN Leo", 1, club, 100, 70);
   last.GruppeNr = 100;
-  store.MannschaftName[100] = store.GruppeName[100] = QStringLiteral("Letzte");
+  store.MannschaftName[100] = store.GruppeName[100] = "Letzte";
   store.Teilnehmer[6].MannschaftNr = 9; // which has no name
   wertungVorbereiten(store);
   EXPECT_EQ(store.mannschaften.WertVereinIdx[1000], 3);
   EXPECT_EQ(mannschaftsZeilen(store).size(), 3);
-  EXPECT_EQ(mannschaftsZeilen(store).last(), QStringLiteral("  2 Letzte             100"));
-  EXPECT_EQ(gruppenZeilen(store).last(), QStringLiteral("Letzte"));
+  EXPECT_EQ(mannschaftsZeilen(store).last(), "  2 Letzte             100");
+  EXPECT_EQ(gruppenZeilen(store).last(), "Letzte");
   const std::pair<WertungsArt, double> values[] = {
       {WertungsArt::Bestzeit, 50}, {WertungsArt::Durchschnitt, 60}, {WertungsArt::ZeitsummeDerBesten, 120}};
   for (const auto &[art, value] : values) {

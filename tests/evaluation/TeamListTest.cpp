@@ -5,8 +5,7 @@
 
 namespace {
 
-class TeamListTest : public testing::Test {
-protected:
+struct TeamListTest : testing::Test {
   /// Prints what the evaluation gives, as the screen does.
   QStringList print(const Wertung &wertung) {
     wertungVorbereiten(store);
@@ -33,11 +32,11 @@ TEST_F(TeamListTest, teamsWithTheirMembers) {
 }
 
 TEST_F(TeamListTest, pagesBreakByTheLastPrintedRow) {
-  const QString unit = QStringLiteral("     40,00 Die Schnellen      3"), member = QStringLiteral("CERNY Ida        3");
+  const QString unit = "     40,00 Die Schnellen      3", member = "CERNY Ida        3";
   Mannschaftsliste(store, druck, {{Einheit::Mannschaft}, {unit}}, [&](int) { return QStringList(42, member); });
   EXPECT_EQ(printed.pages.size(), 2);
-  EXPECT_EQ(asText(printed).last().left(18), QStringLiteral("text 100.00 46.50 "));
+  EXPECT_EQ(asText(printed).last().left(18), "text 100.00 46.50 ");
   Mannschaftsliste(store, druck, {{Einheit::Mannschaft}, QStringList(20, unit)}, [](int) { return QStringList(); });
   EXPECT_EQ(printed.pages.size(), 2);
-  EXPECT_TRUE(asText(printed).contains(QStringLiteral("text 20.00 46.50 Arial 10 bold | 20 |")));
+  EXPECT_TRUE(asText(printed).contains("text 20.00 46.50 Arial 10 bold | 20 |"));
 }

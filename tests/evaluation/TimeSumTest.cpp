@@ -6,9 +6,8 @@
 
 namespace {
 
-class TimeSumTest : public StoreTest {
-protected:
-  int add(const char *name) { return test.addAthlete(QLatin1String(name), 1990, 1); }
+struct TimeSumTest : StoreTest {
+  int add(const char *name) { return test.addAthlete(name, 1990, 1); }
 
   /// Time and status of each row of the generated race, after a fresh load.
   QList<std::pair<double, int>> generated() {
@@ -31,23 +30,23 @@ protected:
 } // namespace
 
 TEST_F(TimeSumTest, whoIsMissingOrHasNoResultInARaceFallsOut) {
-  addResults(test, QStringLiteral("Erster"), {{e, 99}, {a, 40, 0, 77}, {b, 41, 3}, {c, 0}});
-  addResults(test, QStringLiteral("Zweiter"), {{a, 30.25}, {b, 31}, {c, 32}, {d, 33}});
-  store.MannschaftName[1] = QStringLiteral("Team");
+  addResults(test, "Erster", {{e, 99}, {a, 40, 0, 77}, {b, 41, 3}, {c, 0}});
+  addResults(test, "Zweiter", {{a, 30.25}, {b, 31}, {c, 32}, {d, 33}});
+  store.MannschaftName[1] = "Team";
   store.Teilnehmer[1].Zeit2 = 9;
   RennDatenSpeichern(store);
   zeitsummeErzeugen(store, {2, 1}, 3);
 
   EXPECT_EQ(generated(), (QList<std::pair<double, int>>{{70.25, 0}, {31, 3}, {32, 3}, {33, 3}}));
   EXPECT_EQ(store.Teilnehmer[1].Zeit2, 0);
-  EXPECT_EQ(store.MannschaftName[1], QStringLiteral("Team"));
+  EXPECT_EQ(store.MannschaftName[1], "Team");
   EXPECT_EQ(store.AktRennen, 3);
   RennenLesen(store);
   const auto &race = store.Rennen;
-  EXPECT_EQ(race.RennenName + race.RennenKurz + race.RennenNrText.trimmed(), QStringLiteral("KombilaufKombilauf3"));
+  EXPECT_EQ(race.RennenName + race.RennenKurz + race.RennenNrText.trimmed(), "KombilaufKombilauf3");
   EXPECT_EQ(fromDays(race.RennenDatum), QDate(2026, 1, 15));
 
-  const QByteArray file = test.file(QStringLiteral("Z 3.dat"));
+  const QByteArray file = test.file("Z 3.dat");
   EXPECT_EQ(file.count('\n'), 12010);
   EXPECT_TRUE(
       file.startsWith("Ers\r\nZwe\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n 1 \r\n 70,25 \r\n 40 \r\n 30,25 \r\n 0 \r\n"));
@@ -57,7 +56,7 @@ TEST_F(TimeSumTest, whoIsMissingOrHasNoResultInARaceFallsOut) {
 
 TEST_F(TimeSumTest, aSumThatNoFileGivesBackIsNoTime) {
   for (const char *name : {"A", "B"})
-    addResults(test, QLatin1String(name), {{a, 1e308}, {b, 1}});
+    addResults(test, name, {{a, 1e308}, {b, 1}});
   store.cup.CupStatus(2, 0) = 3; // of an earlier sum
   zeitsummeErzeugen(store, {2, 1}, 3);
   EXPECT_EQ(generated(), (QList<std::pair<double, int>>{{0, 0}, {2, 0}}));
@@ -67,8 +66,7 @@ TEST_F(TimeSumTest, aSumThatNoFileGivesBackIsNoTime) {
 
 TEST_F(TimeSumTest, surchargesComeFromTheRaceBefore) {
   const auto race = [&](const char *name, double surcharge) {
-    addResults(test, QLatin1String(name), {{a, 30}},
-               [surcharge](RennenSatz &record) { record.ZuschlagMann = surcharge; });
+    addResults(test, name, {{a, 30}}, [surcharge](RennenSatz &record) { record.ZuschlagMann = surcharge; });
   };
   race("A", 5);
   race("B", 0);
@@ -79,11 +77,11 @@ TEST_F(TimeSumTest, surchargesComeFromTheRaceBefore) {
   zeitsummeErzeugen(store, {3, 2, 1}, 5);
   EXPECT_EQ(blockOf(1), (QList<double>{102, 37, 35, 30}));
   zeitsummeErzeugen(store, {2, 1}, 6); // nothing of the larger one is left
-  EXPECT_EQ(store.cup.ZeitsummeRennenKurz[2] + store.cup.ZeitsummeRennenKurz[3], QStringLiteral("B"));
+  EXPECT_EQ(store.cup.ZeitsummeRennenKurz[2] + store.cup.ZeitsummeRennenKurz[3], "B");
 }
 
 TEST_F(TimeSumTest, numberOfTheNewRace) {
-  const auto line = [](int number) { return QStringLiteral(" %1    Lauf").arg(number); };
+  const auto line = [](int number) { return QString(" %1    Lauf").arg(number); };
   EXPECT_EQ(zeitsummeNummer({}), 1);
   EXPECT_EQ(zeitsummeNummer({line(9), line(12), line(3)}), 13);
   EXPECT_EQ(zeitsummeNummer({line(1234), line(124), line(7)}), 125) << "only three digits are read";

@@ -11,15 +11,15 @@ namespace {
 const QDate Today(2026, 1, 15);
 
 QString kindsOf(const char *lines) {
-  const Columns columns = recognisedColumns(tableFrom(lines, QStringLiteral("M.csv")));
+  const Columns columns = recognisedColumns(tableFrom(lines, "M.csv"));
   QStringList names;
   for (const Column kind : columns.kinds)
     names << nameOf(kind);
-  return (columns.heading ? QString() : QStringLiteral("ohne: ")) + names.join(QLatin1Char(' '));
+  return (columns.heading ? QString() : "ohne: ") + names.join(u' ');
 }
 
 Entry entry(const char *lines) {
-  const Table table = tableFrom(lines, QStringLiteral("M.csv"));
+  const Table table = tableFrom(lines, "M.csv");
   return entriesOf(table, recognisedColumns(table), Today).value(0);
 }
 
@@ -37,7 +37,7 @@ TEST(EntryColumns, AreKnownByTheirHeadingsOrByWhatStandsInThem) {
       {"HUBER Anna;12,50;2012-02-01\n", "ohne: Name Punkte Geburtsdatum"},
   };
   for (const auto &[lines, kinds] : cases)
-    EXPECT_EQ(kindsOf(lines), QString::fromUtf8(kinds)) << lines;
+    EXPECT_EQ(kindsOf(lines), kinds) << lines;
 }
 
 TEST(Entries, Names) {
@@ -55,7 +55,7 @@ TEST(Entries, Names) {
       {"", ""},
   };
   for (const auto &[typed, name] : cases)
-    EXPECT_EQ(nameFromWhole(QString::fromUtf8(typed)), QString::fromUtf8(name)) << typed;
+    EXPECT_EQ(nameFromWhole(typed), name) << typed;
 }
 
 TEST(Entries, BirthDatesAndSexes) {
@@ -75,24 +75,24 @@ TEST(Entries, BirthDatesAndSexes) {
                                                   {"1.13.2012", {}},
                                                   {"99999", {}}};
   for (const auto &[text, date] : dates) {
-    const auto birth = birthFrom(QLatin1String(text), Today);
+    const auto birth = birthFrom(text, Today);
     EXPECT_EQ(birth ? fromDays(birth->days) : QDate(), date) << text;
   }
   const std::pair<const char *, int> sexes[] = {{"m", 1}, {"W", 0}, {"Herren", 1}, {"Mädchen", 0}, {"männlich", 1},
                                                 {"f", 0}, {"d", 0}, {"Bub", 1},    {"x", 2},       {"", 2}};
   for (const auto &[text, sex] : sexes)
-    EXPECT_EQ(sexFrom(QString::fromUtf8(text)), sex) << text;
+    EXPECT_EQ(sexFrom(text), sex) << text;
 }
 
 TEST(Entries, AreShownAsTheRegisterWillKeepThem) {
   const Entry cut = entry("Name;Nr;Verein;Punkte;geb\nHuber Zoë Łucja;1234567890;SC;2.5;2012\n");
-  EXPECT_EQ(cut.athlete.Name, QStringLiteral("HUBER Zoë ?ucja"));
-  EXPECT_EQ(cut.athlete.OesvNr, QStringLiteral("123456789"));
+  EXPECT_EQ(cut.athlete.Name, "HUBER Zoë ?ucja");
+  EXPECT_EQ(cut.athlete.OesvNr, "123456789");
   EXPECT_EQ(cut.athlete.LaeuferPunkte, 2.5F);
-  EXPECT_EQ(cut.remarks.size(), 3) << cut.remarks.join(QLatin1Char('|')).toStdString(); // and no sex
+  EXPECT_EQ(cut.remarks.size(), 3) << cut.remarks.join(u'|').toStdString(); // and no sex
   EXPECT_EQ(entry(("Name;Jg\n" + QByteArray(200, 'x') + ";2012\n").constData()).athlete.Name.size(), 80);
-  EXPECT_TRUE(entry("Name;Jg\n;2012\n").trouble.contains(QStringLiteral("Name")));
-  EXPECT_TRUE(entry("Name;Jg\nHuber;31.2.2012\n").trouble.contains(QStringLiteral("31.2.2012")));
+  EXPECT_TRUE(entry("Name;Jg\n;2012\n").trouble.contains("Name"));
+  EXPECT_TRUE(entry("Name;Jg\nHuber;31.2.2012\n").trouble.contains("31.2.2012"));
 }
 
 TEST(Likeness, FindsSlipsOfThePen) {
@@ -100,12 +100,12 @@ TEST(Likeness, FindsSlipsOfThePen) {
   const std::tuple<const char *, int> persons[] = {{"HUBER Anna", 2012}, {"MÜLLER Eva", 2010}, {"WEIß Udo", 0}};
   int record = 0;
   for (const auto &[name, year] : persons)
-    names.add(foldedName(QString::fromUtf8(name)), year, ++record);
+    names.add(foldedName(name), year, ++record);
   const std::tuple<const char *, int, int> cases[] = {
       {"HUBER Ana", 2012, 1}, {"HUBR Anne", 2012, 1},       {"HUBER Ana", 2011, 0},
       {"HUBER Ana", 0, 1},    {"ANNA Huber", 1990, 1},      {"MUELER Eva", 2010, 2},
       {"WEISS Ude", 2013, 3}, {"HUBER Annemarie", 2012, 0}, {"MAIER Eva", 2010, 0}};
   for (const auto &[name, year, found] : cases)
-    EXPECT_EQ(names.similar(foldedName(QString::fromUtf8(name)), year), found) << name;
-  EXPECT_EQ(names.same(foldedName(QStringLiteral("Mueller-Eva"))), QList<int>{2});
+    EXPECT_EQ(names.similar(foldedName(name), year), found) << name;
+  EXPECT_EQ(names.same(foldedName("Mueller-Eva")), QList<int>{2});
 }

@@ -11,10 +11,10 @@ namespace {
 
 /// The table as "line: field|field" texts.
 QStringList read(const QByteArray &bytes) {
-  const Table table = tableFrom(bytes, QStringLiteral("M.csv"));
+  const Table table = tableFrom(bytes, "M.csv");
   QStringList lines;
   for (qsizetype i = 0; i < table.lines.size(); ++i)
-    lines << QStringLiteral("%1: ").arg(table.numbers[i]) + table.lines[i].join(QLatin1Char('|'));
+    lines << QString("%1: ").arg(table.numbers[i]) + table.lines[i].join(u'|');
   return lines;
 }
 
@@ -45,7 +45,7 @@ TEST(TableReader, Tables) {
        "1: Huber, Anna|1|2,5, 2: Mair, Eva|2|3,5, 3: Berg, Udo|1,1|"},
   };
   for (const auto &[bytes, lines] : cases)
-    EXPECT_EQ(read(bytes).join(QStringLiteral(", ")), QString::fromUtf8(lines)) << bytes.toStdString();
+    EXPECT_EQ(read(bytes).join(", "), lines) << bytes.toStdString();
 }
 
 TEST(TableReader, HostileTablesAreRefusedInWords) {
@@ -66,16 +66,16 @@ TEST(TableReader, HostileTablesAreRefusedInWords) {
       {QByteArray("a;b\n").repeated(20'001), "mehr als 20000 Zeilen"},
   };
   for (const auto &[bytes, words] : cases)
-    EXPECT_TRUE(refusalOf(bytes).contains(QString::fromUtf8(words)))
+    EXPECT_TRUE(refusalOf(bytes).contains(words))
         << bytes.left(20).toStdString() << ": " << refusalOf(bytes).toStdString();
 }
 
 TEST(TableReader, AGigabyteIsRefusedUnreadAndAPipeNotWaitedFor) {
   const QTemporaryDir folder;
-  QFile file(folder.filePath(QStringLiteral("M.csv")));
+  QFile file(folder.filePath("M.csv"));
   ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.resize(qint64(1) << 30));
   EXPECT_THROW(readTable(file.fileName()), TableFault);
-  EXPECT_THROW(readTable(QStringLiteral("/dev/zero")), Fault);
+  EXPECT_THROW(readTable("/dev/zero"), Fault);
   EXPECT_THROW(readTable(folder.path()), Fault);
-  EXPECT_THROW(readTable(folder.filePath(QStringLiteral("absent"))), Fault);
+  EXPECT_THROW(readTable(folder.filePath("absent")), Fault);
 }

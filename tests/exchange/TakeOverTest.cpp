@@ -5,7 +5,7 @@
 #include "platform/Files.h"
 #include "platform/ListTable.h"
 #include "raceprep/ParticipantList.h"
-#include "support/TestStore.h"
+#include "support/StoreTest.h"
 
 #include <algorithm>
 #include <csignal>
@@ -14,27 +14,26 @@
 namespace {
 
 /// Clubs 1 "SC Eins" and 2 "SC Zwei"; athletes 1 HUBER Anna of 2012, 2 a record without a name, 3 MAIR Eva of 2010.
-class TakeOverTest : public RaceTest {
-protected:
+struct TakeOverTest : RaceTest {
   TakeOverTest() { fill(test); }
 
   static void fill(TestStore &place) {
-    place.addClub(QStringLiteral("SC Eins"));
-    place.addClub(QStringLiteral("SC Zwei"));
-    place.addAthlete(QStringLiteral("HUBER Anna"), 2012, 0, 1);
+    place.addClub("SC Eins");
+    place.addClub("SC Zwei");
+    place.addAthlete("HUBER Anna", 2012, 0, 1);
     place.addAthlete(QString(), 1950, 1, 2);
-    place.addAthlete(QStringLiteral("MAIR Eva"), 2010, 0, 2);
+    place.addAthlete("MAIR Eva", 2010, 0, 2);
   }
 
   EntryPlan plan(const char *csv) const {
-    const Table table = tableFrom(csv, QStringLiteral("M.csv"));
+    const Table table = tableFrom(csv, "M.csv");
     return planFor(store, entriesOf(table, recognisedColumns(table), QDate(2026, 1, 15)));
   }
   QString verdicts(const EntryPlan &plan) const {
     QStringList words;
     for (const PlannedEntry &line : plan.lines)
       words << wordsFor(store, plan, line, false);
-    return words.join(QStringLiteral(" | "));
+    return words.join(" | ");
   }
   static void makeClubs(EntryPlan &plan) {
     for (auto &answer : plan.unknownClubs)
@@ -43,7 +42,7 @@ protected:
   QByteArray files() const {
     QByteArray all;
     for (const char *name : {"Laeufer.rec", "Verein.rec", "Vext.dat"})
-      all += test.file(QLatin1String(name));
+      all += test.file(name);
     return all;
   }
 };
@@ -71,7 +70,7 @@ TEST_F(TakeOverTest, TellsWhatALineIsBesideTheRegister) {
        "„31.2.12“"},
   };
   for (const auto &[csv, words] : cases)
-    EXPECT_EQ(verdicts(plan(csv)), QString::fromUtf8(words)) << csv;
+    EXPECT_EQ(verdicts(plan(csv)), words) << csv;
 }
 
 TEST_F(TakeOverTest, GivesTheFilesThatTypingWouldGive) {
@@ -79,12 +78,12 @@ TEST_F(TakeOverTest, GivesTheFilesThatTypingWouldGive) {
   makeClubs(three);
   takeOver(store, three, false);
   TestStore typed;
-  typed.addRace(QStringLiteral("Rennen"));
+  typed.addRace("Rennen");
   fill(typed);
   Store &hand = typed.store;
-  nextClub(hand, 2, QStringLiteral("SC Zwei"));
-  storeClubField(hand, 3, &VereinSatz::VereinName, QStringLiteral("SC Drei"));
-  storeClubField(hand, 3, &VereinSatz::VereinKurz, QStringLiteral("SC Drei"));
+  nextClub(hand, 2, "SC Zwei");
+  storeClubField(hand, 3, &VereinSatz::VereinName, "SC Drei");
+  storeClubField(hand, 3, &VereinSatz::VereinKurz, "SC Drei");
   const struct {
     int record;
     const char *name, *birth, *number;
@@ -95,18 +94,18 @@ TEST_F(TakeOverTest, GivesTheFilesThatTypingWouldGive) {
                  {5, "LANG Max", "3.4.2009", "", 1, 0, 0}};
   for (const auto &person : persons) {
     if (person.record > 3)
-      nextAthlete(hand, person.record - 1, QStringLiteral("x"), QStringLiteral("1.2.2012"));
-    changeAthlete(hand, person.record, [&](LaeuferSatz &athlete) { athlete.Name = QLatin1String(person.name); });
-    storeBirthDate(hand, person.record, QLatin1String(person.birth));
+      nextAthlete(hand, person.record - 1, "x", "1.2.2012");
+    changeAthlete(hand, person.record, [&](LaeuferSatz &athlete) { athlete.Name = person.name; });
+    storeBirthDate(hand, person.record, person.birth);
     changeAthlete(hand, person.record, [&](LaeuferSatz &athlete) {
-      athlete.OesvNr = QLatin1String(person.number);
+      athlete.OesvNr = person.number;
       athlete.Geschlecht = person.sex;
       athlete.Verein1 = person.club;
       athlete.LaeuferPunkte = person.points;
     });
   }
   for (const char *name : {"Laeufer.rec", "Verein.rec", "Vext.dat"})
-    EXPECT_EQ(test.file(QLatin1String(name)), typed.file(QLatin1String(name))) << name;
+    EXPECT_EQ(test.file(name), typed.file(name)) << name;
 }
 
 TEST_F(TakeOverTest, EntersIntoTheRaceWithTheClubOfTheTable) {
@@ -147,7 +146,7 @@ TEST_F(TakeOverTest, AFullRaceOrDiskLeavesAllAsItWas) {
   EXPECT_THROW(takeOver(store, three, true), TableFault);
   EXPECT_EQ(files(), before);
   for (int n = 4; n <= 9; ++n)
-    test.addAthlete(QStringLiteral("X %1").arg(n), 1990, 1);
+    test.addAthlete(QString("X %1").arg(n), 1990, 1);
   rlimit usual;
   getrlimit(RLIMIT_FSIZE, &usual);
   std::signal(SIGXFSZ, SIG_IGN);
@@ -156,8 +155,8 @@ TEST_F(TakeOverTest, AFullRaceOrDiskLeavesAllAsItWas) {
     setrlimit(RLIMIT_FSIZE, &small);
     EXPECT_THROW(takeOver(store, three, false), Fault) << most;
     setrlimit(RLIMIT_FSIZE, &usual);
-    EXPECT_EQ(verdicts(plan(Three)), QStringLiteral("unbekannter Verein „SC Drei“ | neu | neu"));
-    EXPECT_EQ(test.file(QStringLiteral("Vext.dat")), " 9 \r\n 2 \r\n 1 \r\n 0 \r\n");
+    EXPECT_EQ(verdicts(plan(Three)), "unbekannter Verein „SC Drei“ | neu | neu");
+    EXPECT_EQ(test.file("Vext.dat"), " 9 \r\n 2 \r\n 1 \r\n 0 \r\n");
   }
   takeOver(store, three, false);
   EXPECT_EQ(store.LaeuferAnzahl, 11);
@@ -166,9 +165,9 @@ TEST_F(TakeOverTest, AFullRaceOrDiskLeavesAllAsItWas) {
 
 TEST_F(TakeOverTest, TheRegisterOutAsATableAndInAgainIsTheSame) {
   TestStore example, empty;
-  example.takeOver(QStringLiteral(VEXT_BEISPIEL));
+  example.takeOver(VEXT_BEISPIEL);
   const QByteArray out = csvOf(athleteTable(example.store));
-  const Table table = tableFrom(out, QStringLiteral("Liste.csv"));
+  const Table table = tableFrom(out, "Liste.csv");
   EntryPlan all = planFor(empty.store, entriesOf(table, recognisedColumns(table), QDate(2026, 11, 15)));
   makeClubs(all);
   takeOver(empty.store, all, false);

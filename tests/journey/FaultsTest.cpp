@@ -1,7 +1,7 @@
 #include "core/RaceFiles.h"
 #include "platform/Files.h"
 #include "support/RealProgram.h"
-#include "support/TestStore.h"
+#include "support/StoreTest.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -20,17 +20,16 @@
 namespace {
 
 constexpr int Patience = 20'000; // milliseconds, for a busy machine
-const auto OpenTiming = QStringLiteral("Form1.Command3 click\nForm4.Command6 click\n");
-const auto TypeTime = OpenTiming + QStringLiteral("Form7.List2 line 0\nForm7.Text1 type 63,45\nForm7.Text1 key\n");
-const auto SaveOnWord = QStringLiteral("Form7 await weiter\nForm7.Command3 click\n");
-const auto CloseReport = QStringLiteral("Fehlerbericht press Schließen\n");
-const auto Exit = QStringLiteral("Form1.Command4 click\n");
+const auto OpenTiming = QString("Form1.Command3 click\nForm4.Command6 click\n");
+const auto TypeTime = OpenTiming + QString("Form7.List2 line 0\nForm7.Text1 type 63,45\nForm7.Text1 key\n");
+const auto SaveOnWord = QString("Form7 await weiter\nForm7.Command3 click\n");
+const auto CloseReport = QString("Fehlerbericht press Schließen\n");
+const auto Exit = QString("Form1.Command4 click\n");
 
-class DyingProgram : public testing::Test {
-protected:
+struct DyingProgram : testing::Test {
   DyingProgram() {
-    test.addAthlete(QStringLiteral("BERGER Karl"), 2010, 1);
-    test.addRace(QStringLiteral("Kinderrennen"));
+    test.addAthlete("BERGER Karl", 2010, 1);
+    test.addRace("Kinderrennen");
     test.enter(1, 1);
     RennDatenSpeichern(test.store);
   }
@@ -40,7 +39,7 @@ protected:
   void start(const QString &steps) {
     program.setProcessEnvironment(realProgram(home.path(), steps));
     program.setWorkingDirectory(test.folder.path());
-    program.start(QStringLiteral(VEXT_PROGRAM), QStringList());
+    program.start(VEXT_PROGRAM, QStringList());
   }
 
   /// Runs the program to its end; gives what it reported. The exit code is in `program`.
@@ -63,26 +62,26 @@ protected:
   void typeUntilCopied(const QString &then) {
     start(TypeTime + then);
     ASSERT_TRUE(QTest::qWaitFor([this] { return runningCopy().contains("\r\n63,45\r\n"); }, Patience));
-    ASSERT_FALSE(test.file(QStringLiteral("R 1.dat")).contains("63,45"));
+    ASSERT_FALSE(test.file("R 1.dat").contains("63,45"));
   }
 
-  void goOn() { test.writeFile(QStringLiteral("weiter"), {}); }
+  void goOn() { test.writeFile("weiter", {}); }
 
   /// The R file of the running copy that stands.
   QByteArray runningCopy() const {
-    QDirIterator files(home.path() + QStringLiteral("/VEXT/Sicherung"), {QStringLiteral("R 1.dat")}, QDir::Files,
+    QDirIterator files(home.path() + QString("/VEXT/Sicherung"), {"R 1.dat"}, QDir::Files,
                        QDirIterator::Subdirectories);
     while (files.hasNext())
-      if (const QString path = files.next(); path.contains(QStringLiteral("/Laufend/0")))
+      if (const QString path = files.next(); path.contains("/Laufend/0"))
         return readIfThere(path).value_or(QByteArray());
     return {};
   }
 
-  QStringList rescues() const { return QDir(test.folder.path()).entryList({QStringLiteral("Rettung *")}, QDir::Dirs); }
+  QStringList rescues() const { return QDir(test.folder.path()).entryList({"Rettung *"}, QDir::Dirs); }
 
   /// The next start offers the rescue; taken over, the race opens with its time. The start after it offers nothing.
   void expectTimeComesBack() {
-    run(QStringLiteral("Rettung press Übernehmen\n") + Exit);
+    run(QString("Rettung press Übernehmen\n") + Exit);
     EXPECT_EQ(program.exitCode(), 0);
     RennDatenLaden(test.store);
     EXPECT_EQ(test.store.Teilnehmer[1].Zeit1, 63.45);
@@ -109,14 +108,14 @@ class SaveThatFails : public DyingProgram, public testing::WithParamInterface<Ba
 
 TEST_P(SaveThatFails, IsReportedAndLosesNoTime) {
   typeUntilCopied(SaveOnWord + CloseReport);
-  const QString file = test.folder.filePath(QStringLiteral("R 1.dat"));
+  const QString file = test.folder.filePath("R 1.dat");
   QFile::remove(file);
   GetParam().spoil(QFile::encodeName(file));
   goOn();
   const QString report = end();
   EXPECT_EQ(program.exitCode(), 70);
-  EXPECT_TRUE(report.contains(QStringLiteral("R 1.dat"))) << report.toStdString();
-  EXPECT_TRUE(report.contains(QString::fromUtf8(GetParam().reason))) << report.toStdString();
+  EXPECT_TRUE(report.contains("R 1.dat")) << report.toStdString();
+  EXPECT_TRUE(report.contains(GetParam().reason)) << report.toStdString();
   EXPECT_EQ(rescues().size(), 1);
   ::remove(QFile::encodeName(file).constData());
   expectTimeComesBack();
@@ -142,8 +141,8 @@ TEST_F(DyingProgram, NoFileMayGrowAnyMore) {
   goOn();
   const QString report = end();
   EXPECT_EQ(program.exitCode(), 70);
-  EXPECT_TRUE(report.contains(QStringLiteral("darf nicht größer werden"))) << report.toStdString();
-  EXPECT_TRUE(report.contains(QStringLiteral("/Laufend/"))) << report.toStdString();
+  EXPECT_TRUE(report.contains("darf nicht größer werden")) << report.toStdString();
+  EXPECT_TRUE(report.contains("/Laufend/")) << report.toStdString();
   EXPECT_EQ(rescues(), QStringList());
   expectTimeComesBack();
 }
@@ -157,21 +156,21 @@ TEST_F(DyingProgram, KilledWhileTimesAreOnlyInMemory) {
 TEST_F(DyingProgram, TheOperatorMayLeaveAllAsItIs) {
   typeUntilCopied({});
   kill();
-  const QByteArray before = test.file(QStringLiteral("R 1.dat"));
-  run(QStringLiteral("Rettung press Alles lassen, wie es ist\n") + Exit);
+  const QByteArray before = test.file("R 1.dat");
+  run(QString("Rettung press Alles lassen, wie es ist\n") + Exit);
   run(Exit);
   EXPECT_EQ(program.exitCode(), 0);
-  EXPECT_EQ(test.file(QStringLiteral("R 1.dat")), before);
-  EXPECT_TRUE(test.file(rescues().value(0) + QStringLiteral("/R 1.dat")).contains("63,45"));
+  EXPECT_EQ(test.file("R 1.dat"), before);
+  EXPECT_TRUE(test.file(rescues().value(0) + QString("/R 1.dat")).contains("63,45"));
 }
 
 // A pipe in place of the file takes 64 KiB and then holds the program up in the middle of its write.
 TEST_F(DyingProgram, KilledInTheMiddleOfASave) {
   for (int number = 2; number <= 1000; ++number)
-    test.enter(test.addAthlete(QStringLiteral("LÄUFER %1").arg(number), 2010, 1), number);
+    test.enter(test.addAthlete(QString("LÄUFER %1").arg(number), 2010, 1), number);
   RennDatenSpeichern(test.store);
   typeUntilCopied(SaveOnWord);
-  const QByteArray file = QFile::encodeName(test.folder.filePath(QStringLiteral("R 1.dat")));
+  const QByteArray file = QFile::encodeName(test.folder.filePath("R 1.dat"));
   ASSERT_TRUE(::remove(file.constData()) == 0 && mkfifo(file.constData(), 0600) == 0);
   goOn();
   QByteArray written(100'000, '\0');
@@ -191,12 +190,12 @@ TEST_F(DyingProgram, KilledInTheMiddleOfASave) {
 }
 
 TEST_F(DyingProgram, ARaceFileThatIsNoRaceFileIsLeftAlone) {
-  const QByteArray r = test.file(QStringLiteral("R 1.dat")).replace("\r\n0\r\n 0 \r\n", "\r\nabc\r\n 0 \r\n");
-  test.writeFile(QStringLiteral("R 1.dat"), r);
-  const QString report = run(QStringLiteral("Form1.Command3 click\n") + CloseReport);
+  const QByteArray r = test.file("R 1.dat").replace("\r\n0\r\n 0 \r\n", "\r\nabc\r\n 0 \r\n");
+  test.writeFile("R 1.dat", r);
+  const QString report = run(QString("Form1.Command3 click\n") + CloseReport);
   EXPECT_EQ(program.exitCode(), 70);
-  EXPECT_TRUE(report.contains(QStringLiteral("R 1.dat“ steht in Zeile 8 „abc“"))) << report.toStdString();
-  EXPECT_EQ(test.file(QStringLiteral("R 1.dat")), r);
+  EXPECT_TRUE(report.contains("R 1.dat“ steht in Zeile 8 „abc“")) << report.toStdString();
+  EXPECT_EQ(test.file("R 1.dat"), r);
   EXPECT_EQ(rescues(), QStringList());
 }
 
@@ -208,5 +207,5 @@ TEST_F(DyingProgram, AnAthleteWithoutSexIsNamed) {
   LaeuferSchreiben(test.store, 1, karl);
   const QString report = run(OpenTiming + CloseReport);
   EXPECT_EQ(program.exitCode(), 70);
-  EXPECT_TRUE(report.contains(QStringLiteral("BERGER Karl"))) << report.toStdString();
+  EXPECT_TRUE(report.contains("BERGER Karl")) << report.toStdString();
 }

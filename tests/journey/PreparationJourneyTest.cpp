@@ -38,14 +38,13 @@ const std::map<int, Number> Numbers = {{1, {1, "61.5", 3}},  {2, {1, "60,93", 2}
                                        {16, {4, "51.2", 1}}, {17, {4, "51,20", 1}}, {21, {5, "59", 1}},
                                        {25, {6, "52.5", 1}}, {29, {7, "64", 1}},    {33, {8, "70,01", 1}}};
 
-class PreparationJourney : public RoofTest {
-protected:
+struct PreparationJourney : RoofTest {
   ~PreparationJourney() override { programm.reset(); }
 
   void startOnFolder() {
     programm.reset();
     store = std::make_unique<Store>(test.umgebung);
-    store->DatenOrdner = folder.path() + QLatin1Char('/');
+    store->DatenOrdner = folder.path() + u'/';
     storeStarten(*store);
     start(*store);
   }
@@ -104,7 +103,7 @@ protected:
     tabTo("Text2");
     type("Vereinslauf");
     press("Form4", "Command7");
-    EXPECT_EQ(lines("Form4", "List1"), QStringList{QStringLiteral(" 1    Vereinslauf")});
+    EXPECT_EQ(lines("Form4", "List1"), QStringList{" 1    Vereinslauf"});
     EXPECT_EQ(store->AktRennen, 0);
     press("Form4", "Command1");
     press("Form1", "Command3");
@@ -229,5 +228,5 @@ TEST_F(PreparationJourney, FromAnEmptyFolderToPlacesThatLast) {
   EXPECT_EQ(store->LaeuferAnzahl, Count);
   EXPECT_EQ(store->KlasseVon[14], 1996);
   EXPECT_EQ(store->KlasseBis[14], 2004);
-  EXPECT_EQ(store->MannschaftName[2], QStringLiteral("Die Älteren"));
+  EXPECT_EQ(store->MannschaftName[2], "Die Älteren");
 }

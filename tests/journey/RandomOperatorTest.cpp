@@ -24,12 +24,10 @@ namespace {
 using Files = QMap<QString, QByteArray>;
 
 /// What is pasted, beside long ones: each is meant to hurt some field.
-const auto Pasted =
-    QStringLiteral("|0|-1|1|7|21|83,45|1.5|-0.00001|1E-05|1,7976931348623157E+308|-1E+308|32768|2147483648|"
-                   "29.2.2023|1.1.1|31.12.9999|83|BÄR Änne-Łucja ß€|eins, zwei; \"drei\" %1 %2 <b>&x|"
-                   "oben\nunten\tdaneben\r|   |Logo.jpg");
-const QStringList Texts = Pasted.split(QLatin1Char('|'))
-                          << QString(400, QLatin1Char('9')) << QString(300, QLatin1Char('W'));
+const QString Pasted = "|0|-1|1|7|21|83,45|1.5|-0.00001|1E-05|1,7976931348623157E+308|-1E+308|32768|2147483648|"
+                       "29.2.2023|1.1.1|31.12.9999|83|BÄR Änne-Łucja ß€|eins, zwei; \"drei\" %1 %2 <b>&x|"
+                       "oben\nunten\tdaneben\r|   |Logo.jpg";
+const QStringList Texts = Pasted.split(u'|') << QString(400, u'9') << QString(300, u'W');
 
 constexpr Qt::Key Keys[] = {Qt::Key_Tab,  Qt::Key_Backtab, Qt::Key_Return, Qt::Key_Space, Qt::Key_Escape,
                             Qt::Key_Down, Qt::Key_Up,      Qt::Key_Home,   Qt::Key_End,   Qt::Key_PageDown,
@@ -37,16 +35,15 @@ constexpr Qt::Key Keys[] = {Qt::Key_Tab,  Qt::Key_Backtab, Qt::Key_Return, Qt::K
 
 /// Faults that are told: they end the program, and the operator's work is rescued. The others come where the lines of
 /// an R file have slipped.
-const QStringList ToldFaults = {QStringLiteral("das Geschlecht fehlt")};
-const QStringList SlippedFaults = {QStringLiteral("ist weder 0 noch 1"), QStringLiteral("keine Zeit in Sekunden"),
-                                   QStringLiteral("die Zahl ist zu groß für ihre Spalte")};
+const QStringList ToldFaults = {"das Geschlecht fehlt"};
+const QStringList SlippedFaults = {"ist weder 0 noch 1", "keine Zeit in Sekunden",
+                                   "die Zahl ist zu groß für ihre Spalte"};
 
 int setting(const char *name, int otherwise) {
   return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : otherwise;
 }
 
-class RandomOperator : public RoofTest {
-protected:
+struct RandomOperator : RoofTest {
   ~RandomOperator() override { programm.reset(); }
 
   int below(qsizetype limit) { return int(random() % unsigned(limit)); }
@@ -56,9 +53,9 @@ protected:
   void startAnew() {
     programm.reset();
     own = std::make_unique<TestStore>();
-    own->takeOver(QStringLiteral(VEXT_BEISPIEL));
+    own->takeOver(VEXT_BEISPIEL);
     for (const char *name : {"Notizen.txt", "R 77.dat alt", "K 1.lst~"})
-      own->writeFile(QLatin1String(name), "bleibt");
+      own->writeFile(name, "bleibt");
     own->store.nachDemSpeichern = [this] { readAgain(); };
     RoofTest::start(own->store);
     if (!withHints)
@@ -106,7 +103,7 @@ protected:
   QList<QWidget *> controls(const QWidget *window) {
     QList<QWidget *> all;
     for (auto *child : window->findChildren<QWidget *>())
-      if (child->isVisible() && child->isEnabled() && !child->objectName().startsWith(QLatin1String("qt_")) &&
+      if (child->isVisible() && child->isEnabled() && !child->objectName().startsWith("qt_") &&
           (qobject_cast<QAbstractButton *>(child) || qobject_cast<QLineEdit *>(child) ||
            qobject_cast<QComboBox *>(child) || qobject_cast<LineList *>(child) || qobject_cast<CellLabel *>(child)))
         all << child;
@@ -114,7 +111,7 @@ protected:
   }
 
   void tell(const QWidget *widget, const QString &what) {
-    last = widget->window()->objectName() + QLatin1Char('.') + widget->objectName() + QLatin1Char(' ') + what;
+    last = widget->window()->objectName() + u'.' + widget->objectName() + u' ' + what;
     if (qEnvironmentVariableIsSet("VEXT_OPERATOR_TRACE"))
       std::fprintf(stderr, "%s\n", qPrintable(last));
   }
@@ -123,7 +120,7 @@ protected:
     const int line = below(std::max<qsizetype>(list->lines().size(), 1));
     list->scrollTo(list->model()->index(line, 0));
     const QPoint place = list->visualRect(list->model()->index(line, 0)).center();
-    tell(list, QStringLiteral("line %1").arg(line));
+    tell(list, QString("line %1").arg(line));
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
     if (sometimes(20))
       QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
@@ -142,14 +139,14 @@ protected:
   }
 
   void press(QWidget *control) {
-    tell(control, QStringLiteral("press"));
+    tell(control, "press");
     QTest::mouseClick(control, Qt::LeftButton, {}, {8, control->height() / 2});
   }
 
   void pressKeys(QWidget *control) {
     for (int count = 1 + below(4); count > 0 && control; --count, control = QApplication::focusWidget()) {
       const Qt::Key key = oneOf(Keys);
-      tell(control, QStringLiteral("key %1").arg(key, 0, 16));
+      tell(control, QString("key %1").arg(key, 0, 16));
       QTest::keyClick(control, key);
     }
   }
@@ -189,7 +186,7 @@ protected:
     window->activateWindow();
     QCoreApplication::processEvents();
     if (sometimes(3)) {
-      tell(window, QStringLiteral("close"));
+      tell(window, "close");
       window->close();
     } else if (control->isVisible() && control->isEnabled()) {
       ++worked[window->objectName() + control->objectName()];
@@ -209,8 +206,8 @@ protected:
 
   static bool mayChange(const QString &name, const QSet<int> &races) {
     static const QRegularExpression common(
-        QStringLiteral("\\A(Verein|Laeufer|Rennen)\\.rec\\z|\\A(Vext|TopLeft|Cup|werbung)\\.dat\\z"));
-    static const QRegularExpression ofRace(QStringLiteral("\\A[RZKMG] ([0-9]+)\\.(dat|lst)\\z"));
+        "\\A(Verein|Laeufer|Rennen)\\.rec\\z|\\A(Vext|TopLeft|Cup|werbung)\\.dat\\z");
+    static const QRegularExpression ofRace("\\A[RZKMG] ([0-9]+)\\.(dat|lst)\\z");
     const auto match = ofRace.match(name);
     return common.match(name).hasMatch() || (match.hasMatch() && races.contains(match.captured(1).toInt()));
   }
@@ -254,7 +251,7 @@ protected:
       for (const auto *control : controls(window)) {
         const auto *list = qobject_cast<const LineList *>(control);
         all += control->objectName().toUtf8() + shownIn(control).toUtf8() + (control->hasFocus() ? "*" : "");
-        all += list ? list->lines().join(QLatin1Char('\n')).toUtf8() : QByteArray();
+        all += list ? list->lines().join(u'\n').toUtf8() : QByteArray();
       }
     return QCryptographicHash::hash(all, QCryptographicHash::Sha1);
   }
@@ -299,7 +296,6 @@ TEST_F(RandomOperator, HurtsNothing) {
 TEST(RandomOperatorWalk, HasAndSeesTheSameWithAndWithoutHints) {
   struct Walk : RandomOperator {
     void TestBody() override {}
-    using RandomOperator::walk;
   };
   const int steps = setting("VEXT_OPERATOR_STEPS", 300);
   const auto with = Walk().walk(steps, true), without = Walk().walk(steps, false);

@@ -16,8 +16,8 @@ using TimingJourney = RoofTest;
 // The second race of the example has been timed; its numbers 1 to 21 stand in four classes and are typed over. The
 // numbers 4, 11 and 16 keep their status and so no place; 21 and 23 hold their old times when the places are looked at.
 TEST_F(TimingJourney, TwentyTimesByKeyboardAndOneCutShortByTheClosing) {
-  test.takeOver(QStringLiteral(VEXT_BEISPIEL));
-  auto expected = test.file(QStringLiteral("R 2.dat")).split('\n');
+  test.takeOver(VEXT_BEISPIEL);
+  auto expected = test.file("R 2.dat").split('\n');
   const auto setTime = [&](int number, const QByteArray &time) {
     for (qsizetype row = 0; row + LinesARow < expected.size(); row += LinesARow)
       if (expected[row + NumberLine].trimmed().toInt() == number)
@@ -27,7 +27,7 @@ TEST_F(TimingJourney, TwentyTimesByKeyboardAndOneCutShortByTheClosing) {
   start();
   press("Form1", "Command3");
   chooseLine("Form4", "List1", 4);
-  ASSERT_EQ(text("Form4", "Text2"), QStringLiteral("Nachtslalom mit Gästen"));
+  ASSERT_EQ(text("Form4", "Text2"), "Nachtslalom mit Gästen");
   press("Form4", "Command6");
   arriveAt("Form7");
   for (int number = 1; number <= 20; ++number) {
@@ -43,20 +43,17 @@ TEST_F(TimingJourney, TwentyTimesByKeyboardAndOneCutShortByTheClosing) {
   const QStringList result = lines("Form13", "List2");
   QStringList order; // the start numbers of each class by place
   for (const QString &line : result)
-    if (line.startsWith(QStringLiteral("Rang")))
+    if (line.startsWith("Rang"))
       order << QString();
     else if (!line.isEmpty())
-      order.last() += line.mid(31, 5).trimmed() + QLatin1Char(' ');
-  EXPECT_EQ(order.mid(0, 4),
-            QStringList({QStringLiteral("3 2 1 "), QStringLiteral("7 6 5 "), QStringLiteral("14 12 13 10 9 8 "),
-                         QStringLiteral("21 20 23 18 19 17 15 ")}));
-  EXPECT_TRUE(result.contains(
-      QStringLiteral("   2. UNTERWÖGER Michael          20 Allg. Kl. un    42,45    46,88    89,33     1,57")));
+      order.last() += line.mid(31, 5).trimmed() + u' ';
+  EXPECT_EQ(order.mid(0, 4), QStringList({"3 2 1 ", "7 6 5 ", "14 12 13 10 9 8 ", "21 20 23 18 19 17 15 "}));
+  EXPECT_TRUE(result.contains("   2. UNTERWÖGER Michael          20 Allg. Kl. un    42,45    46,88    89,33     1,57"));
 
   chooseLine("Form7", "List2", 20);
   type("37.4");
   window("Form7")->close();
   setTime(21, "37,4");
   EXPECT_EQ(visible(), "Form4");
-  EXPECT_EQ(test.file(QStringLiteral("R 2.dat")), expected.join('\n'));
+  EXPECT_EQ(test.file("R 2.dat"), expected.join('\n'));
 }

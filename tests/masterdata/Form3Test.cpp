@@ -8,11 +8,10 @@
 
 namespace {
 
-class Form3Test : public ScreenTest<Form3> {
-protected:
+struct Form3Test : ScreenTest<Form3> {
   void openWith(std::initializer_list<const char *> names, int sex = 0) {
     for (const char *name : names)
-      test.addAthlete(QLatin1String(name), 1990, sex);
+      test.addAthlete(name, 1990, sex);
     open();
   }
   LaeuferSatz record(int n) { return LaeuferLesen(store, n); }
@@ -24,16 +23,16 @@ TEST_F(Form3Test, IndexActsAtEachKeyAndIsHeldToTheRegister) {
   openWith({"A", "B", "C"});
   for (const auto &[typed, shown] : {std::pair("1", "1A"), {"9999", "3C"}, {"2", "2B"}, {"x", "1A"}}) {
     type("Text1", typed);
-    EXPECT_EQ(text("Text1") + text("Text2"), QLatin1String(shown)) << typed;
+    EXPECT_EQ(text("Text1") + text("Text2"), shown) << typed;
   }
   press("Command2");
   EXPECT_EQ(test.beeps, 1);
-  EXPECT_EQ(text("Text2"), QStringLiteral("A"));
+  EXPECT_EQ(text("Text2"), "A");
 }
 
 TEST_F(Form3Test, EachFieldIsStoredOnceWhenItIsLeft) {
   for (const char *club : {"SK A", "SK B"})
-    test.addClub(QLatin1String(club));
+    test.addClub(club);
   openWith({"A"}, 2);
   type("Text3", " 4711 ");
   type("Text4", "83");
@@ -48,19 +47,19 @@ TEST_F(Form3Test, EachFieldIsStoredOnceWhenItIsLeft) {
     key(arrow);
     EXPECT_EQ(record(1).Geschlecht, sex);
   }
-  EXPECT_EQ(record(1).OesvNr.trimmed() + text("Text4"), QStringLiteral("471101.01.1983"));
+  EXPECT_EQ(record(1).OesvNr.trimmed() + text("Text4"), "471101.01.1983");
   EXPECT_EQ(record(1).LaeuferPunkte, 2.5F);
   EXPECT_EQ(record(1).Verein2, 2);
   type("Text5", "1000000000000000"); // would be shown as 1E+15 and read as 1
   find("Text4")->setFocus();
-  EXPECT_EQ(text("Text5"), QStringLiteral("2,5"));
+  EXPECT_EQ(text("Text5"), "2,5");
   type("Text5", "3,5"); // the point alone is a decimal sign
   form->close();
   EXPECT_EQ(record(1).LaeuferPunkte, 3.0F);
 }
 
 TEST_F(Form3Test, FieldsStayTogetherAndAClubIsToldWhole) {
-  const auto club = QStringLiteral("WSV <Tannberg> am Arlberg");
+  const auto club = QString("WSV <Tannberg> am Arlberg");
   test.addClub(club);
   openWith({"A"});
   const auto lowest = [this] { return find("Text5")->mapTo(form.get(), QPoint()).y(); };
@@ -83,17 +82,17 @@ TEST_F(Form3Test, WritesOnlyIntoTheAthleteShown) {
   type("Text2", "ZZ");
   record(1);
   key(Qt::Key_Tab);
-  EXPECT_EQ(lines("List1").join(QLatin1Char('|')), QStringLiteral("A        1|C        3|ZZ        2"));
+  EXPECT_EQ(lines("List1").join(u'|'), "A        1|C        3|ZZ        2");
   EXPECT_EQ(find<LineList>("List1")->chosenLine(), 2);
 }
 
 TEST_F(Form3Test, NewEntryTakesAFreeRecordOrRenamesTheLast) {
   openWith({"A", " ", "C"});
   for (const auto &[name, record] : {std::pair("B", "2"), {"D", "3"}}) {
-    form->neuaufnehmen(QLatin1String(name));
-    EXPECT_EQ(text("Text1"), QLatin1String(record));
+    form->neuaufnehmen(name);
+    EXPECT_EQ(text("Text1"), record);
     EXPECT_TRUE(find("Text2")->hasFocus());
     key(Qt::Key_Tab);
   }
-  EXPECT_EQ(lines("List1").join(QLatin1Char('|')), QStringLiteral("A        1|B        2|D        3"));
+  EXPECT_EQ(lines("List1").join(u'|'), "A        1|B        2|D        3");
 }

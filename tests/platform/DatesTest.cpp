@@ -16,15 +16,15 @@ TEST(Dates, DaysCountFromTheEndOf1899) {
 }
 
 TEST(Dates, TypedDates) {
-  const std::pair<const char *, std::optional<QDate>> cases[] = {{"1.2.1983", QDate(1983, 2, 1)},
-                                                                 {"01.02.29", QDate(2029, 2, 1)},
-                                                                 {"1.2.30", QDate(1930, 2, 1)},
-                                                                 {"29.2.2025", {}},
-                                                                 {"1.2.983", {}},
-                                                                 {"1/2/1983", {}},
-                                                                 {"", {}},
-                                                                 {"2005", {}}};
+  const std::pair<QString, std::optional<QDate>> cases[] = {{"1.2.1983", QDate(1983, 2, 1)},
+                                                            {"01.02.29", QDate(2029, 2, 1)},
+                                                            {"1.2.30", QDate(1930, 2, 1)},
+                                                            {"29.2.2025", {}},
+                                                            {"1.2.983", {}},
+                                                            {"1/2/1983", {}},
+                                                            {"", {}},
+                                                            {"2005", {}}};
   for (const auto &[text, date] : cases)
-    EXPECT_EQ(typedDate(QString::fromUtf8(text)), date) << text;
-  EXPECT_EQ(shortDate(QDate(2026, 3, 7)), QStringLiteral("07.03.2026"));
+    EXPECT_EQ(typedDate(text), date) << text.toStdString();
+  EXPECT_EQ(shortDate(QDate(2026, 3, 7)), "07.03.2026");
 }

@@ -12,23 +12,22 @@ namespace {
 
 QString reportOf(const QString &path, int error) {
   errno = error;
-  return FileFault(path, QStringLiteral("geöffnet")).report();
+  return FileFault(path, "geöffnet").report();
 }
 
 } // namespace
 
 TEST(Faults, TheSystemsReasonsAreGerman) {
-  const QString path = QStringLiteral("TopLeft.dat");
-  EXPECT_EQ(reportOf(path, EEXIST), QStringLiteral("Die Datei „TopLeft.dat“ konnte nicht geöffnet werden: unter diesem "
-                                                   "Namen liegt schon etwas anderes."));
+  const QString path = "TopLeft.dat";
+  EXPECT_EQ(reportOf(path, EEXIST), "Die Datei „TopLeft.dat“ konnte nicht geöffnet werden: unter diesem "
+                                    "Namen liegt schon etwas anderes.");
   for (const int error : {ENOSPC, EACCES, EROFS, EISDIR, ENOENT, EIO, EEXIST, ENOTDIR, EMFILE, ENFILE, EINTR, ENOMEM,
                           ENAMETOOLONG, ELOOP, ENODEV})
-    EXPECT_FALSE(reportOf(path, error).contains(QStringLiteral("Betriebssystems ("))) << error;
+    EXPECT_FALSE(reportOf(path, error).contains("Betriebssystems (")) << error;
 }
 
 TEST(Faults, AFolderInTheFilesPlaceIsToldAndNoReasonIsToldTwice) {
   const QTemporaryDir folder;
-  EXPECT_TRUE(reportOf(folder.path(), ENOENT).endsWith(QStringLiteral("liegt ein Ordner.")));
-  EXPECT_TRUE(
-      FileFault(QStringLiteral("x"), QStringLiteral("gelesen")).report().endsWith(QStringLiteral("keinen Grund.")));
+  EXPECT_TRUE(reportOf(folder.path(), ENOENT).endsWith("liegt ein Ordner."));
+  EXPECT_TRUE(FileFault("x", "gelesen").report().endsWith("keinen Grund."));
 }

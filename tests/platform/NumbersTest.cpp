@@ -7,11 +7,11 @@
 #include <limits>
 
 TEST(Numbers, LeadingNumberStopsAtWhatDoesNotFit) {
-  const std::pair<const char *, double> cases[] = {
-      {"12,5", 12}, {"12.5", 12.5}, {".5", 0.5},    {"-2.5", -2.5}, {"-----", 0}, {"7abc", 7}, {"", 0},
-      {"  +3", 3},  {"1e3", 1},     {"1.2.3", 1.2}, {"0x10", 0},    {"5.", 5},    {"\t7", 0},  {"1 2", 1}};
+  const std::pair<QString, double> cases[] = {{"12,5", 12}, {"12.5", 12.5}, {".5", 0.5}, {"-2.5", -2.5}, {"-----", 0},
+                                              {"7abc", 7},  {"", 0},        {"  +3", 3}, {"1e3", 1},     {"1.2.3", 1.2},
+                                              {"0x10", 0},  {"5.", 5},      {"\t7", 0},  {"1 2", 1}};
   for (const auto &[text, value] : cases)
-    EXPECT_EQ(leadingNumber(QString::fromUtf8(text)), value) << text;
+    EXPECT_EQ(leadingNumber(text), value) << text.toStdString();
 }
 
 TEST(Numbers, WholeNumberRoundsHalvesToEven) {
@@ -28,41 +28,40 @@ TEST(Numbers, WholeNumberRoundsHalvesToEven) {
 }
 
 TEST(Numbers, RegionalNumberTakesAllOrNothing) {
-  const std::pair<const char *, std::optional<double>> cases[] = {
+  const std::pair<QString, std::optional<double>> cases[] = {
       {"63,45", 63.45},   {" 5, ", 5.0}, {",5", 0.5},   {"-7", -7.0}, {"1E+15", 1e15}, {"1E-05", 1e-5},
       {"", std::nullopt}, {"1.5", {}},   {"1,2,3", {}}, {",", {}},    {"1e3", {}},     {"inf", {}},
       {"1.234,5", {}},    {"12,5a", {}}, {"1 234", {}}, {"5\n", {}},  {"1E+999", {}}};
   for (const auto &[text, value] : cases)
-    EXPECT_EQ(regionalNumber(QString::fromUtf8(text)), value) << text;
+    EXPECT_EQ(regionalNumber(text), value) << text.toStdString();
 }
 
 TEST(Numbers, PlainTextOfDoublesAndSingles) {
   const std::pair<double, const char *> cases[] = {{63.45, "63,45"},           {0.1 + 0.2, "0,3"}, {-0.0, "0"},
                                                    {41.125 + 40.33, "81,455"}, {1e15, "1E+15"},    {0.00001, "1E-05"}};
   for (const auto &[value, text] : cases)
-    EXPECT_EQ(plainText(value), QLatin1String(text));
-  EXPECT_EQ(plainText(12.3F), QStringLiteral("12,3"));
-  EXPECT_EQ(plainText(12345678.F), QStringLiteral("12345680"));
-  EXPECT_EQ(spacedText(7) + spacedText(-0.5), QStringLiteral(" 7-0,5"));
+    EXPECT_EQ(plainText(value), text);
+  EXPECT_EQ(plainText(12.3F), "12,3");
+  EXPECT_EQ(plainText(12345678.F), "12345680");
+  EXPECT_EQ(spacedText(7) + spacedText(-0.5), " 7-0,5");
 }
 
 // What is typed and taken is the same number when it is read again.
 TEST(Numbers, WhatIsTakenIsReadAgain) {
   for (const char *text : {"63,45", "-0,5", "1E+15", "1E-05", "1,7976931348623E+308", "4,94065645841247E-324"}) {
-    const double time = *regionalNumber(QString::fromUtf8(text));
+    const double time = *regionalNumber(QString(text));
     EXPECT_TRUE(readsBack(time)) << text;
     EXPECT_DOUBLE_EQ(*regionalNumber(fileText(time)), time) << text;
   }
   constexpr double Endless = std::numeric_limits<double>::infinity();
   for (const double time : {std::numeric_limits<double>::max(), -Endless, Endless - Endless}) {
     EXPECT_FALSE(readsBack(time)) << time;
-    EXPECT_EQ(fileText(time), QStringLiteral("0"));
+    EXPECT_EQ(fileText(time), "0");
   }
-  for (const QString &text :
-       {QString(400, QLatin1Char('9')), QStringLiteral("1000000000000000"), QStringLiteral("-.00009")})
+  for (const QString &text : QStringList{QString(400, u'9'), "1000000000000000", "-.00009"})
     EXPECT_FALSE(typedSingle(text) || typedNumber(text)) << text.toStdString();
   for (const char *text : {"999999000000000", "-12345678", "0", "abc"}) {
-    const QString typed = QString::fromUtf8(text), single = plainText(*typedSingle(typed));
+    const QString typed = text, single = plainText(*typedSingle(typed));
     EXPECT_EQ(leadingNumber(plainText(*typedNumber(typed))), leadingNumber(typed)) << text;
     EXPECT_EQ(plainText(float(leadingNumber(single))), single) << text;
   }
@@ -84,7 +83,7 @@ TEST(Numbers, MasksRoundTheDecimalText) {
     QStringList texts;
     for (const double value : values)
       texts << masked(value, mask);
-    EXPECT_EQ(texts.join(QLatin1Char(' ')), QLatin1String(expected)) << mask;
+    EXPECT_EQ(texts.join(u' '), expected) << mask;
   }
-  EXPECT_EQ(masked(1234.565F, "0#.00"), QStringLiteral("1234,57")); // 1234,5649 by eight digits
+  EXPECT_EQ(masked(1234.565F, "0#.00"), "1234,57"); // 1234,5649 by eight digits
 }

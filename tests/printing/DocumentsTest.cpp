@@ -4,7 +4,7 @@
 #include "core/SingleTimes.h"
 #include "platform/Dates.h"
 #include "support/OtherMedia.h"
-#include "support/TestStore.h"
+#include "support/StoreTest.h"
 #include "timing/Ranking.h"
 
 #include <QDir>
@@ -36,18 +36,17 @@ const QList<Person> Field{{1, "HUBER Lena", 2014, 0, 1, 0, 0, 30.1, 0, 31.2},
                           {10, "ZACHER Udo", 1972, 1, 1, 5, 0, 0, 1}};
 
 /// Each document printed is compared with the text in tests/data/<folder>/<document>.txt.
-class DocumentsTest : public testing::Test {
-protected:
+struct DocumentsTest : testing::Test {
   DocumentsTest() {
     QDir::setCurrent(test.folder.path()); // for the logo
-    store.OrganisationName = QStringLiteral("Schiklub Übelbach");
-    test.addClub(QStringLiteral("SK Alm"));
+    store.OrganisationName = "Schiklub Übelbach";
+    test.addClub("SK Alm");
     VereinSatz longName;
-    longName.VereinName = QStringLiteral("Turnverein Bergheim an der Enge");
+    longName.VereinName = "Turnverein Bergheim an der Enge";
     VereinSchreiben(store, 2, longName);
-    test.addClub(QStringLiteral("Schiunion Oberes Inntal Nord"));
-    test.addRace(QStringLiteral("Vereinsmeisterschaft im Riesentorlauf der Sektion Hinterberg"));
-    store.Rennen.RennenOrt = QStringLiteral("Hinterberg");
+    test.addClub("Schiunion Oberes Inntal Nord");
+    test.addRace("Vereinsmeisterschaft im Riesentorlauf der Sektion Hinterberg");
+    store.Rennen.RennenOrt = "Hinterberg";
     store.Rennen.RennenDatum = toDays(QDate(2026, 1, 10));
     store.Rennen.ZuschlagGast = 2;
     store.KlasseName.fill({});
@@ -55,8 +54,8 @@ protected:
   void TearDown() override { QDir::setCurrent(before); }
 
   void addClass(int k, const char *name, int von, int bis, int order, int orderOfGuests) {
-    store.KlasseName[k] = store.KlasseGenauName[exactClass(k, 0, 0, 0)] = QLatin1String(name);
-    store.KlasseGenauName[exactClass(k, 0, 1, 0)] = store.KlasseName[k] + QStringLiteral(" Gäste");
+    store.KlasseName[k] = store.KlasseGenauName[exactClass(k, 0, 0, 0)] = name;
+    store.KlasseGenauName[exactClass(k, 0, 1, 0)] = store.KlasseName[k] + QString(" Gäste");
     store.KlasseReihenfolge(k, 0, 0, 0) = qint16(order);
     store.KlasseReihenfolge(k, 0, 1, 0) = qint16(orderOfGuests);
     store.KlasseVon[k] = von;
@@ -64,8 +63,7 @@ protected:
   }
   void enter(const QList<Person> &persons) {
     for (const Person &p : persons) {
-      auto &row =
-          store.Teilnehmer[test.enter(test.addAthlete(QString::fromUtf8(p.name), p.year, p.sex, p.club), p.startNr)];
+      auto &row = store.Teilnehmer[test.enter(test.addAthlete(p.name, p.year, p.sex, p.club), p.startNr)];
       std::tie(row.GruppeNr, row.Gast, row.Zeit1, row.Status1) = std::tie(p.gruppe, p.gast, p.zeit1, p.status1);
       if (store.Rennen.ZweiDurchgaenge == 1)
         std::tie(row.Zeit2, row.Status2) = std::tie(p.zeit2, p.status2);
@@ -75,17 +73,16 @@ protected:
   }
   /// Of each page its number, its bands or lines, and the first and last row below each.
   static QString outline(const QStringList &lines) {
-    static const QRegularExpression mark(QStringLiteral("Seite|^fill|11 italic|width 1 0|Name 1"));
-    static const QRegularExpression between(QStringLiteral("(\n[^\n]*Name 1[^\n]*)(?:\n[^\n]*Name 1[^\n]*)+(?=(?1))"));
-    return lines.filter(mark).join(QLatin1Char('\n')).replace(between, QStringLiteral("\\1"));
+    static const QRegularExpression mark("Seite|^fill|11 italic|width 1 0|Name 1");
+    static const QRegularExpression between("(\n[^\n]*Name 1[^\n]*)(?:\n[^\n]*Name 1[^\n]*)+(?=(?1))");
+    return lines.filter(mark).join(u'\n').replace(between, "\\1");
   }
   void compare(const Recording &printed) {
     ++documents;
-    const QString file = folder + QLatin1Char('/') + printed.name + QStringLiteral(".txt");
+    const QString file = folder + u'/' + printed.name + QString(".txt");
     const QStringList lines = asText(printed);
-    const QString text = folder == QLatin1String("Seiten") ? outline(lines) : lines.join(QLatin1Char('\n'));
-    EXPECT_EQ(text.toStdString(), expectedPrint(file.toUtf8()).join(QLatin1Char('\n')).toStdString())
-        << file.toStdString();
+    const QString text = folder == "Seiten" ? outline(lines) : lines.join(u'\n');
+    EXPECT_EQ(text.toStdString(), expectedPrint(file.toUtf8()).join(u'\n').toStdString()) << file.toStdString();
     EXPECT_EQ(OtherMedia(printed).differences(), QStringList()) << file.toStdString();
   }
   void printLists() {
@@ -108,10 +105,10 @@ protected:
 
 // "Kinder" and their guests are one section, the guests of "Jugend" and "Allgemein" another.
 TEST_F(DocumentsTest, TwoRunsByClasses) {
-  folder = QStringLiteral("Klassen");
+  folder = "Klassen";
   store.Rennen.ZweiDurchgaenge = store.Rennen.WertGaeste = store.Rennen.BestzeitAbKlasse = 1;
-  store.Rennen.RennenKurz = QStringLiteral("Riesentorlauf");
-  store.Rennen.Kurssetzung = QStringLiteral("Karl Kurz");
+  store.Rennen.RennenKurz = "Riesentorlauf";
+  store.Rennen.Kurssetzung = "Karl Kurz";
   store.Rennen.UrkundeBild = store.Rennen.BestzeitText = 4;
   addClass(1, "Kinder", 2012, 2016, 1, 1);
   addClass(2, "Jugend", 2005, 2011, 3, 2);
@@ -120,8 +117,8 @@ TEST_F(DocumentsTest, TwoRunsByClasses) {
   Urkunde(store, druck, 5, {});
   printLists();
   Titelblatt(store, druck, {});
-  store.cup.ZeitsummeRennenKurz[1] = QStringLiteral("Slalom");
-  store.cup.ZeitsummeRennenKurz[2] = QStringLiteral("Super-G");
+  store.cup.ZeitsummeRennenKurz[1] = "Slalom";
+  store.cup.ZeitsummeRennenKurz[2] = "Super-G";
   store.cup.CupZeit(5, 1) = 15;
   store.cup.CupZeit(5, 2) = 25;
   singleTimesSpeichern(store);
@@ -130,23 +127,23 @@ TEST_F(DocumentsTest, TwoRunsByClasses) {
 }
 
 TEST_F(DocumentsTest, OneRunByGroups) {
-  folder = QStringLiteral("Gruppen");
+  folder = "Gruppen";
   store.Rennen.WertKlassen = 0;
-  store.Rennen.Rennleiter = QStringLiteral("Rudi Rot");
-  store.Rennen.Tore = QStringLiteral("34 Tore");
+  store.Rennen.Rennleiter = "Rudi Rot";
+  store.Rennen.Tore = "34 Tore";
   store.Rennen.BestzeitText = 3;
   store.Rennen.UrkundeBild = 8;
-  store.GruppeName[2] = QStringLiteral("Firma Alm");
-  store.GruppeName[5] = QStringLiteral("Gäste");
+  store.GruppeName[2] = "Firma Alm";
+  store.GruppeName[5] = "Gäste";
   addClass(1, "Alle", 1950, 2020, 1, 1);
   enter(Field);
-  test.writeFile(QStringLiteral("Logo.jpg"), "any picture");
+  test.writeFile("Logo.jpg", "any picture");
   printLists();
-  Urkunde(store, druck, 5, UrkundenText{QStringLiteral("hat an der"), QString(), QStringLiteral("teilgenommen.")});
-  QImage(100, 50, QImage::Format_RGB32).save(store.DatenOrdner + QStringLiteral("b.jpg"));
+  Urkunde(store, druck, 5, UrkundenText{"hat an der", QString(), "teilgenommen."});
+  QImage(100, 50, QImage::Format_RGB32).save(store.DatenOrdner + QString("b.jpg"));
   Werbung werbung;
-  werbung.fill({true, QStringLiteral("b.jpg"), QStringLiteral("20,5"), QStringLiteral("240"), QStringLiteral("200")});
-  werbung[0].datei = QStringLiteral("fehlt.jpg");
+  werbung.fill({true, "b.jpg", "20,5", "240", "200"});
+  werbung[0].datei = "fehlt.jpg";
   werbung[1].gewaehlt = false;
   Titelblatt(store, druck, werbung);
   EXPECT_EQ(documents, 7);
@@ -154,7 +151,7 @@ TEST_F(DocumentsTest, OneRunByGroups) {
 
 // The second class begins at the foot of the first page and goes on to a third.
 TEST_F(DocumentsTest, PagesBreakByRowAndByClass) {
-  folder = QStringLiteral("Seiten");
+  folder = "Seiten";
   addClass(1, "Eins", 1980, 1980, 1, 1);
   addClass(2, "Zwei", 1990, 1990, 2, 2);
   QList<Person> persons;

@@ -9,11 +9,11 @@ TEST_F(Form28Test, TheChosenPrinterBecomesTheCurrentOne) {
   FakePrinters fake;
   form = std::make_unique<Form28>(desk, *fake.printers);
   desk.show(*form);
-  EXPECT_EQ(lines("List1"), (QStringList{QStringLiteral("Laser"), QStringLiteral("Alt")}));
+  EXPECT_EQ(lines("List1"), (QStringList{"Laser", "Alt"}));
   EXPECT_FALSE(find("Command2")->isEnabled());
   clickLine("List1", 1);
-  EXPECT_EQ(fake.printers->DeviceName(), QStringLiteral("Laser"));
+  EXPECT_EQ(fake.printers->DeviceName(), "Laser");
   press("Command2");
   EXPECT_FALSE(form->isVisible());
-  EXPECT_EQ(fake.printers->DeviceName(), QStringLiteral("Alt"));
+  EXPECT_EQ(fake.printers->DeviceName(), "Alt");
 }

@@ -11,15 +11,14 @@
 
 namespace {
 
-class Form8Test : public ScreenTest<Form8> {
-protected:
+struct Form8Test : ScreenTest<Form8> {
   Form8Test() {
-    const int club = test.addClub(QStringLiteral("SK Übelbach")), other = test.addClub(QStringLiteral("TV"));
-    test.addRace(QStringLiteral("Riesentorlauf"));
+    const int club = test.addClub("SK Übelbach"), other = test.addClub("TV");
+    test.addRace("Riesentorlauf");
     for (const auto &[name, seconds, from] :
          {std::tuple("BERGER Anna", 40, club), std::tuple("ÖLLINGER Karl", 38, other),
           std::tuple("MOSER Hans", 41, club), std::tuple("STEINER Eva", 42, club)})
-      store.Teilnehmer[test.enter(test.addAthlete(QString::fromUtf8(name), 1990, 1, from), 11)].Zeit1 = seconds;
+      store.Teilnehmer[test.enter(test.addAthlete(name, 1990, 1, from), 11)].Zeit1 = seconds;
     store.Teilnehmer[4].Status1 = 3;
     KlassenZuordnen(store);
   }
@@ -32,9 +31,7 @@ protected:
       key(Qt::Key_Down);
   }
   /// Whether the last document has that text.
-  bool printed(const char *text) {
-    return asText(fake.documents.last()).join(QLatin1Char('\n')).contains(QString::fromUtf8(text));
-  }
+  bool printed(const char *text) { return asText(fake.documents.last()).join(u'\n').contains(text); }
 
   FakePrinters fake;
 };
@@ -42,14 +39,13 @@ protected:
 } // namespace
 
 TEST_F(Form8Test, OpensWithTheStoredChoicesAndTheRankedParticipants) {
-  store.KlasseGenauName.fill(QStringLiteral("Herren"));
+  store.KlasseGenauName.fill("Herren");
   store.Rennen.UrkundeBild = 9;
   store.Rennen.BestzeitText = 3;
   store.Rennen.BestzeitAbKlasse = 17;
   open();
   ASSERT_EQ(lines("List2").size(), 3);
-  EXPECT_EQ(lines("List2")[0],
-            QStringLiteral("   1. ÖLLINGER Karl             Herren").leftJustified(64) + QLatin1Char('2'));
+  EXPECT_EQ(lines("List2")[0], QString("   1. ÖLLINGER Karl             Herren").leftJustified(64) + u'2');
   EXPECT_TRUE(choice("Combo1") == 0 && choice("Combo2") == 3 && choice("Combo4") == 17);
   EXPECT_EQ(store.Rennen.UrkundeBild, 9) << "a choice beyond the list stays until a pick";
   pick("Combo1", 2);
@@ -69,9 +65,9 @@ TEST_F(Form8Test, EachButtonPrintsItsDocumentAndIsUsableAgain) {
         std::pair("Command9", "Alphabetische Teilnehmerliste"), std::pair("Command2", "Startliste 2.Durchgang"),
         std::pair("Command7", "Nicht in der Wertung"), std::pair("Command8", "Titelblatt")}) {
     press(button);
-    EXPECT_EQ(fake.documents.last().name, QLatin1String(document));
+    EXPECT_EQ(fake.documents.last().name, document);
     EXPECT_TRUE(find(button)->isEnabled());
-    EXPECT_EQ(label("letzteDatei"), QLatin1String(document) + QStringLiteral(".pdf"));
+    EXPECT_EQ(label("letzteDatei"), QLatin1String(document) + QString(".pdf"));
   }
   press("Check1");
   press("Command3");
@@ -87,8 +83,8 @@ TEST_F(Form8Test, CertificatesOfTheMarkedLinesEachADocumentUntilThePrinterRefuse
   clickLine("List2", 2);
   press("Command5");
   EXPECT_TRUE(printed("MOSER Hans") && printed("belegte den"));
-  EXPECT_EQ(fake.documents.last().title, QStringLiteral("Riesentorlauf – Urkunde – MOSER Hans"));
-  EXPECT_EQ(label("dateiTitel"), QStringLiteral("2 Dateien, die letzte"));
+  EXPECT_EQ(fake.documents.last().title, "Riesentorlauf – Urkunde – MOSER Hans");
+  EXPECT_EQ(label("dateiTitel"), "2 Dateien, die letzte");
   press("Check2");
   type("Text2", "Meisterschaft");
   press("Command5");
@@ -99,7 +95,7 @@ TEST_F(Form8Test, CertificatesOfTheMarkedLinesEachADocumentUntilThePrinterRefuse
   QTimer watch;
   QObject::connect(&watch, &QTimer::timeout, [&] {
     if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
-      reports += box->text().contains(QStringLiteral("Der Drucker ist nicht bereit."));
+      reports += box->text().contains("Der Drucker ist nicht bereit.");
       box->accept();
     }
   });
@@ -111,27 +107,27 @@ TEST_F(Form8Test, CertificatesOfTheMarkedLinesEachADocumentUntilThePrinterRefuse
 }
 
 TEST_F(Form8Test, TellsWhereTheFileIsAndWhichPictureIsMissing) {
-  test.writeFile(QStringLiteral("werbung1.jpg"), "no picture");
+  test.writeFile("werbung1.jpg", "no picture");
   Werbung werbung = WerbungLesen(store);
   werbung[0].gewaehlt = true;
   WerbungSchreiben(store, werbung);
   open();
   EXPECT_FALSE(shown("ausgabe"));
   press("Command8");
-  EXPECT_EQ(label("dateiOrdner").remove(QChar(0x200B)), QFileInfo(QStringLiteral("Ausdrucke")).absoluteFilePath());
-  EXPECT_TRUE(label("bilderFehlen").endsWith(QStringLiteral("fehlt: werbung1.jpg")));
+  EXPECT_EQ(label("dateiOrdner").remove(QChar(0x200B)), QFileInfo("Ausdrucke").absoluteFilePath());
+  EXPECT_TRUE(label("bilderFehlen").endsWith("fehlt: werbung1.jpg"));
   press("Command3");
   EXPECT_FALSE(shown("bilderFehlen"));
 }
 
 TEST_F(Form8Test, ClosingWritesTheBannersOfATitlePageAndNoRaceZero) {
-  const QByteArray before = test.file(QStringLiteral("Rennen.rec"));
+  const QByteArray before = test.file("Rennen.rec");
   store.AktRennen = 0;
   open();
   pick("Combo1", 3);
   press("Command8");
-  EXPECT_FALSE(test.hasFile(QStringLiteral("werbung.dat")));
+  EXPECT_FALSE(test.hasFile("werbung.dat"));
   form->close();
-  EXPECT_TRUE(test.hasFile(QStringLiteral("werbung.dat")));
-  EXPECT_EQ(test.file(QStringLiteral("Rennen.rec")), before);
+  EXPECT_TRUE(test.hasFile("werbung.dat"));
+  EXPECT_EQ(test.file("Rennen.rec"), before);
 }

@@ -1,11 +1,10 @@
 #include "raceprep/ClassOrder.h"
 
-#include "support/TestStore.h"
+#include "support/StoreTest.h"
 
 namespace {
 
-class ClassOrder : public RaceTest {
-protected:
+struct ClassOrder : RaceTest {
   KlasseNummerRaster raster{"KlasseNummerRaster"};
 };
 
@@ -16,13 +15,13 @@ TEST_F(ClassOrder, CellsRunOnBehindAnEmptyRowAndNumbersReturnToTheirClass) {
   store.KlasseName[2].clear();
   store.KlasseReihenfolge(2, 1, 1, 1) = 99;
   store.KlasseReihenfolge(3, 1, 1, 1) = 4;
-  store.KlasseGenauName[8] = QStringLiteral("Mini");
+  store.KlasseGenauName[8] = "Mini";
   raster[159] = 30000; // of another race
   loadGrid(store, raster);
   EXPECT_EQ(raster[15], 4);
   EXPECT_EQ(raster[159], 0);
-  EXPECT_EQ(store.KlasseGenauName[8], QStringLiteral("Mini")); // built where missing only
-  EXPECT_EQ(store.KlasseGenauName[15], QStringLiteral("Kinder U8 männlich Gäste Boarder"));
+  EXPECT_EQ(store.KlasseGenauName[8], "Mini"); // built where missing only
+  EXPECT_EQ(store.KlasseGenauName[15], "Kinder U8 männlich Gäste Boarder");
   raster[15] = 6;
   storeGrid(store, raster);
   EXPECT_EQ(store.KlasseReihenfolge(3, 1, 1, 1), 6);
@@ -44,7 +43,7 @@ TEST_F(ClassOrder, HeadingsStandOverTheColumnsThatApply) {
     race.WertGeschlecht = quint8(sexes);
     race.WertGaeste = quint8(guests);
     race.WertBoarder = quint8(boarders);
-    EXPECT_EQ(gridHeadings(race).join(QLatin1Char(',')), QString::fromUtf8(headings));
+    EXPECT_EQ(gridHeadings(race).join(u','), headings);
   }
 }
 

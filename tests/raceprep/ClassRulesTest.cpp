@@ -1,6 +1,6 @@
 #include "raceprep/ClassRules.h"
 
-#include "support/TestStore.h"
+#include "support/StoreTest.h"
 
 namespace {
 

@@ -12,21 +12,21 @@ class CupKopieTest : public ScreenTest<CupKopie>, public testing::WithParamInter
 
 TEST_P(CupKopieTest, CopiesUnderTheTypedNumberOrClosesInSilence) {
   const bool good = GetParam();
-  test.addRace(QStringLiteral("Rennen"));
+  test.addRace("Rennen");
   test.enter(3, 9);
-  QString onRegister = QStringLiteral("x");
+  QString onRegister = "x";
   const auto raceText = [&] { return onRegister; };
   open(raceText);
   const QSignalSpy copied(form.get(), &CupKopie::copied);
-  onRegister = QStringLiteral("getippt");
-  EXPECT_EQ(text("Text2"), QStringLiteral("2"));
+  onRegister = "getippt";
+  EXPECT_EQ(text("Text2"), "2");
   keys({good ? Qt::Key_4 : Qt::Key_0, Qt::Key_Return, Qt::Key_Space}); // the number replaces the marked proposal
   press("Command16");
   EXPECT_FALSE(form->isVisible());
   EXPECT_EQ(copied.count(), good);
   EXPECT_EQ(store.RennenAnzahl, good ? 4 : 1);
-  EXPECT_EQ(test.file(QStringLiteral("Rennen.rec")).contains("Kopie v. getippt"), good);
-  EXPECT_EQ(test.hasFile(QStringLiteral("R 4.dat")) && test.file(QStringLiteral("R 4.dat")).contains(" 9 "), good);
+  EXPECT_EQ(test.file("Rennen.rec").contains("Kopie v. getippt"), good);
+  EXPECT_EQ(test.hasFile("R 4.dat") && test.file("R 4.dat").contains(" 9 "), good);
 }
 
 INSTANTIATE_TEST_SUITE_P(NumberTyped, CupKopieTest, testing::Bool());

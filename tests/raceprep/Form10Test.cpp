@@ -5,10 +5,9 @@
 
 namespace {
 
-class Form10Test : public ScreenTest<Form10> {
-protected:
+struct Form10Test : ScreenTest<Form10> {
   Form10Test() {
-    test.addRace(QStringLiteral("Rennen"));
+    test.addRace("Rennen");
     open();
   }
   void chooseClass(int n) { clickLine("List1", n - 1); }
@@ -17,7 +16,7 @@ protected:
 } // namespace
 
 TEST_F(Form10Test, YearsLeftByAClickOrByClosingAreStoredBeforeIt) {
-  const int row = test.enter(test.addAthlete(QStringLiteral("A"), 2016, 1));
+  const int row = test.enter(test.addAthlete("A", 2016, 1));
   chooseClass(4);
   type("Text1", "2016");
   chooseClass(6);
@@ -27,19 +26,19 @@ TEST_F(Form10Test, YearsLeftByAClickOrByClosingAreStoredBeforeIt) {
   form->close();
   EXPECT_EQ(store.KlasseBis[7], 2010);
   EXPECT_EQ(store.Teilnehmer[row].KlasseNr, 4);
-  EXPECT_TRUE(test.file(QStringLiteral("K 1.lst")).contains("Kinder U9\r\n 2016 \r\n 2017 \r\n"));
+  EXPECT_TRUE(test.file("K 1.lst").contains("Kinder U9\r\n 2016 \r\n 2017 \r\n"));
 }
 
 TEST_F(Form10Test, ClassesBehind16CanBeClickedAndGetYearsButNoName) {
   chooseClass(18);
-  EXPECT_EQ(text("Text5"), QStringLiteral("18"));
+  EXPECT_EQ(text("Text5"), "18");
   type("Text6", "X");
   key(Qt::Key_Return);
   keys("9999"); // "19499999" is held to this year
   key(Qt::Key_Return);
   EXPECT_TRUE(find("Text2")->hasFocus());
-  EXPECT_EQ(text("Text1"), QStringLiteral("2026"));
-  EXPECT_EQ(store.KlasseName[18], QStringLiteral("AK 4"));
+  EXPECT_EQ(text("Text1"), "2026");
+  EXPECT_EQ(store.KlasseName[18], "AK 4");
 }
 
 TEST_F(Form10Test, DeletesAChosenClass) {
@@ -48,7 +47,7 @@ TEST_F(Form10Test, DeletesAChosenClass) {
   chooseClass(1);
   press("Command5");
   EXPECT_EQ(lines("List1").size(), 19);
-  EXPECT_TRUE(lines("List1").first().startsWith(QStringLiteral(" 1 Bambini 2")));
+  EXPECT_TRUE(lines("List1").first().startsWith(" 1 Bambini 2"));
   EXPECT_EQ(store.KlasseReihenfolge(1, 0, 0, 0), 7); // stays with the row
   EXPECT_FALSE(enabled("Text6"));
 }

@@ -4,9 +4,8 @@
 
 namespace {
 
-class Form14Test : public ScreenTest<Form14> {
-protected:
-  Form14Test() { test.addRace(QStringLiteral("Lauf")); }
+struct Form14Test : ScreenTest<Form14> {
+  Form14Test() { test.addRace("Lauf"); }
   bool ticked(const char *name) { return find<QAbstractButton>(name)->isChecked(); }
   /// The record as the file has it.
   const RennenSatz &stored() {
@@ -30,7 +29,7 @@ TEST_F(Form14Test, SwitchesAndSecondsReachTheRecord) {
   EXPECT_EQ(race.WertKlassen + race.WertGaeste, 0);
   EXPECT_EQ(race.ZuschlagGast, -2.5);
   EXPECT_EQ(race.ZuschlagMann, 1.5);
-  EXPECT_EQ(text("Text1"), QStringLiteral("-2,5"));
+  EXPECT_EQ(text("Text1"), "-2,5");
   open();
   find("Text2")->setFocus(); // 1,5 read with a point
   press("Command1");
@@ -38,7 +37,7 @@ TEST_F(Form14Test, SwitchesAndSecondsReachTheRecord) {
   open();
   type("Text2", "-.00001"); // would be shown as -1E-05 and read as -1
   find("Text1")->setFocus();
-  EXPECT_EQ(text("Text2"), QStringLiteral("1"));
+  EXPECT_EQ(text("Text2"), "1");
   EXPECT_EQ(test.beeps, 1);
   store.AktRennen = store.RennenIdx = 0; // no record to write
   open();

@@ -6,14 +6,13 @@
 
 namespace {
 
-class Form15Test : public ScreenTest<Form15> {
-protected:
+struct Form15Test : ScreenTest<Form15> {
   Form15Test() {
-    test.addRace(QStringLiteral("Rennen"));
+    test.addRace("Rennen");
     store.Rennen.WertGeschlecht = 1;
     open();
   }
-  CellLabel *cell(int n) { return find<CellLabel>(qPrintable(QStringLiteral("Label3_%1").arg(n))); }
+  CellLabel *cell(int n) { return find<CellLabel>(qPrintable(QString("Label3_%1").arg(n))); }
   std::string number(int n) { return cell(n)->text().toStdString(); }
   void pressCell(int n) { QTest::mouseClick(cell(n), Qt::LeftButton); }
 };
@@ -24,14 +23,14 @@ TEST_F(Form15Test, NameLeftByAPressOnAnotherCellGoesToTheOldOneUntilAllIsCleared
   pressCell(0);
   type("Text1", " Mini ");
   pressCell(8);
-  EXPECT_EQ(store.KlasseGenauName[0], QStringLiteral("Mini"));
+  EXPECT_EQ(store.KlasseGenauName[0], "Mini");
   for (const auto &[answer, kept] : {std::pair("Command6", "2"), {"Command5", "0"}}) {
     press("Command4");
     press(answer);
     EXPECT_EQ(number(8), kept);
     EXPECT_FALSE(shown("Command5"));
   }
-  EXPECT_EQ(store.KlasseGenauName[0], QStringLiteral("Bambini 1 weiblich"));
+  EXPECT_EQ(store.KlasseGenauName[0], "Bambini 1 weiblich");
 }
 
 TEST_F(Form15Test, TypedNumberIsShownByTheButtonAndCountsFromTheClosing) {
@@ -48,11 +47,11 @@ TEST_F(Form15Test, TypedNumberIsShownByTheButtonAndCountsFromTheClosing) {
   EXPECT_EQ(number(8), "1");
   EXPECT_EQ(store.KlasseReihenfolge(2, 0, 0, 0), 0);
   bool savedBefore = true;
-  QObject::connect(form.get(), &Form15::saving, [&] { savedBefore = test.hasFile(QStringLiteral("K 1.lst")); });
+  QObject::connect(form.get(), &Form15::saving, [&] { savedBefore = test.hasFile("K 1.lst"); });
   form->close();
   EXPECT_FALSE(savedBefore);
   EXPECT_EQ(store.KlasseReihenfolge(2, 0, 0, 0), 1);
-  EXPECT_EQ(test.file(QStringLiteral("K 1.lst")), classFile(store, store.KlasseReihenfolge));
+  EXPECT_EQ(test.file("K 1.lst"), classFile(store, store.KlasseReihenfolge));
 }
 
 TEST_F(Form15Test, AfterClearingTheFieldsShowTheNewValuesOfTheirCell) {
@@ -64,7 +63,7 @@ TEST_F(Form15Test, AfterClearingTheFieldsShowTheNewValuesOfTheirCell) {
   find("Text2")->setFocus();
   form->close();
   EXPECT_EQ(store.KlasseReihenfolge(1, 0, 0, 0), 0);
-  EXPECT_NE(store.KlasseGenauName[0], QStringLiteral("Damen und Herren"));
+  EXPECT_NE(store.KlasseGenauName[0], "Damen und Herren");
 }
 
 TEST_F(Form15Test, KeysWalkOverVisibleCellsAndPressThem) {

@@ -11,11 +11,10 @@ const QList<const char *> Locked = {"Command4",  "Command5",  "Command6",  "Comm
                                     "Command12", "Command13", "Command14", "Command15", "Command17"};
 const QList<const char *> Buttons = Locked + QList<const char *>{"Command16", "Command18"};
 
-class Form4Test : public ScreenTest<Form4> {
-protected:
+struct Form4Test : ScreenTest<Form4> {
   Form4Test() {
-    test.addRace(QStringLiteral("Slalom"));
-    test.addRace(QStringLiteral("Abfahrt"));
+    test.addRace("Slalom");
+    test.addRace("Abfahrt");
     openRegister(printers);
   }
   void openRegister(FakePrinters &with) {
@@ -35,19 +34,19 @@ protected:
 
 TEST_F(Form4Test, LinesOpenTheirRaceAndPlusMakesOneThatGetsItsName) {
   clickLine("List1", 1);
-  EXPECT_EQ(text("Text2"), QStringLiteral("Slalom"));
+  EXPECT_EQ(text("Text2"), "Slalom");
   key(Qt::Key_Up);
-  EXPECT_EQ(text("Text1"), QStringLiteral("2"));
+  EXPECT_EQ(text("Text1"), "2");
   EXPECT_EQ(store.AktRennen, 2);
   for (int i = 0; i < 2; ++i) { // a nameless race is followed by none
     press("Command3");
     EXPECT_EQ(store.RennenAnzahl, 3);
-    EXPECT_EQ(text("Text1"), QStringLiteral("3"));
+    EXPECT_EQ(text("Text1"), "3");
   }
   type("Text2", " Super-G ");
   press("Command7");
-  EXPECT_EQ(lines("List1").first(), QStringLiteral(" 3    Super-G"));
-  EXPECT_EQ(test.file(QStringLiteral("Rennen.rec")).mid(2 * 1137, 8), "Super-G ");
+  EXPECT_EQ(lines("List1").first(), " 3    Super-G");
+  EXPECT_EQ(test.file("Rennen.rec").mid(2 * 1137, 8), "Super-G ");
 }
 
 TEST_F(Form4Test, AClickIntoTheNameLocksElevenButtonsUntilItIsStored) {
@@ -66,7 +65,7 @@ TEST_F(Form4Test, AClickIntoTheNameLocksElevenButtonsUntilItIsStored) {
 
 TEST_F(Form4Test, ButtonsNeedANameAndListsAPrinter) {
   EXPECT_EQ(opening(), 13);
-  find<QLineEdit>("Text2")->setText(QStringLiteral("  "));
+  find<QLineEdit>("Text2")->setText("  ");
   EXPECT_EQ(opening(), 3);
   openRegister(none);
   EXPECT_EQ(opening(), 12);

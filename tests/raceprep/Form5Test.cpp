@@ -7,13 +7,12 @@
 
 namespace {
 
-class Form5Test : public ScreenTest<Form5> {
-protected:
+struct Form5Test : ScreenTest<Form5> {
   Form5Test() {
-    test.addClub(QStringLiteral("SK A"));
+    test.addClub("SK A");
     for (const char *name : {"Abt Ida", "Berger Max", "Cerny Udo"})
-      test.addAthlete(QLatin1String(name), 1990, 1, 1);
-    test.addRace(QStringLiteral("Ortslauf"));
+      test.addAthlete(name, 1990, 1, 1);
+    test.addRace("Ortslauf");
   }
   void openWith(std::initializer_list<int> athletes) {
     for (const int athlete : athletes)
@@ -29,7 +28,7 @@ TEST_F(Form5Test, AddsNobodyTwiceAndDeletes) {
   clickLine("List1", 1);
   EXPECT_FALSE(enabled("Command2"));
   clickLine("List2", 0);
-  EXPECT_EQ(label("Label5") + label("Label7"), QStringLiteral("Berger Max1"));
+  EXPECT_EQ(label("Label5") + label("Label7"), "Berger Max1");
   const QSignalSpy deleted(form.get(), &Form5::teilnehmerGeloescht);
   press("Command3");
   EXPECT_EQ(deleted.count(), 1);
@@ -45,13 +44,13 @@ TEST_F(Form5Test, FiltersAndOrder) {
   EXPECT_EQ(lines("List1").size(), 1);
   type("Text2", " ce");
   key(Qt::Key_Return);
-  EXPECT_EQ(text("Text1") + text("Text2"), QStringLiteral("BergCE"));
+  EXPECT_EQ(text("Text1") + text("Text2"), "BergCE");
   EXPECT_EQ(lines("List2").size(), 1);
   press("Command4");
   press("Command6");
   find("Combo1")->setFocus();
   key(Qt::Key_End);
-  EXPECT_TRUE(lines("List2").first().startsWith(QStringLiteral("997  Berger")));
+  EXPECT_TRUE(lines("List2").first().startsWith("997  Berger"));
   EXPECT_EQ(lines("List1").size(), 3);
 }
 
@@ -79,7 +78,7 @@ TEST_F(Form5Test, KeysDoubleClicksAndNewEntryAskForTheOtherScreens) {
   EXPECT_EQ(athlete.value(0).value(0).toInt(), 1);
   EXPECT_EQ(athlete.value(1).value(0).toInt(), 3);
   EXPECT_EQ(row.value(0).value(0).toInt(), 2);
-  EXPECT_EQ(fresh.value(0).value(0).toString(), QStringLiteral("Zobl"));
+  EXPECT_EQ(fresh.value(0).value(0).toString(), "Zobl");
 }
 
 TEST_F(Form5Test, RegisterOnTopIsStoredOnReturnAndOnClosing) {
@@ -88,16 +87,16 @@ TEST_F(Form5Test, RegisterOnTopIsStoredOnReturnAndOnClosing) {
   const auto takeNew = [&](const char *name) {
     desk.show(athletes);
     ASSERT_TRUE(QTest::qWaitForWindowActive(&athletes));
-    athletes.neuaufnehmen(QLatin1String(name));
+    athletes.neuaufnehmen(name);
   };
   takeNew("Dorn");
   desk.show(*form);
   ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
-  EXPECT_TRUE(lines("List1").last().startsWith(QStringLiteral("Cerny"))); // until "alle zeigen"
+  EXPECT_TRUE(lines("List1").last().startsWith("Cerny")); // until "alle zeigen"
   press("Command4");
-  EXPECT_TRUE(lines("List1").last().startsWith(QStringLiteral("Dorn")));
+  EXPECT_TRUE(lines("List1").last().startsWith("Dorn"));
   takeNew("Ehn");
   form->close();
-  EXPECT_EQ(test.file(QStringLiteral("Laeufer.rec")).mid(2 * LaeuferLaenge, 4), "Ehn ");
-  EXPECT_TRUE(test.file(QStringLiteral("R 1.dat")).startsWith(" 2 \r\n"));
+  EXPECT_EQ(test.file("Laeufer.rec").mid(2 * LaeuferLaenge, 4), "Ehn ");
+  EXPECT_TRUE(test.file("R 1.dat").startsWith(" 2 \r\n"));
 }

@@ -6,18 +6,16 @@
 
 namespace {
 
-class Form6Test : public ScreenTest<Form6> {
-protected:
+struct Form6Test : ScreenTest<Form6> {
   Form6Test() {
-    test.addClub(QStringLiteral("SC Alm"));
-    test.addRace(QStringLiteral("Lauf"));
+    test.addClub("SC Alm");
+    test.addRace("Lauf");
   }
 
   /// Participants in rows 1 to `count` with their row as number, in class 2.
   void enter(int count, bool numbered = true) {
     for (int row = 1; row <= count; ++row) {
-      test.enter(test.addAthlete(QStringLiteral("LÄUFER %1").arg(row, 3), 2000 + row % 2, row % 2, 1),
-                 numbered ? row : 0);
+      test.enter(test.addAthlete(QString("LÄUFER %1").arg(row, 3), 2000 + row % 2, row % 2, 1), numbered ? row : 0);
       store.Teilnehmer[row].KlasseNr = 2;
     }
   }
@@ -29,16 +27,16 @@ protected:
 
 TEST_F(Form6Test, SelectionShowsTheParticipantAndKeysStoreHim) {
   enter(2);
-  store.MannschaftName[3] = QStringLiteral("Rot");
+  store.MannschaftName[3] = "Rot";
   store.Teilnehmer[1].MannschaftNr = 3;
   store.Teilnehmer[2].MannschaftNr = 300; // not in the list
   open();
   key(Qt::Key_Down);
-  EXPECT_EQ(combo("Combo3")->currentText(), QStringLiteral("Rot"));
+  EXPECT_EQ(combo("Combo3")->currentText(), "Rot");
   key(Qt::Key_Tab);
   keys("007");
   key(Qt::Key_Tab);
-  EXPECT_EQ(lines("List1").last(), QStringLiteral("    7  LÄUFER   1          1"));
+  EXPECT_EQ(lines("List1").last(), "    7  LÄUFER   1          1");
   EXPECT_EQ(find<LineList>("List1")->chosenLine(), 1);
   keys({Qt::Key_Tab, Qt::Key_End, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Space}); // no club, a guest
   clickLine("List1", 0);
@@ -46,7 +44,7 @@ TEST_F(Form6Test, SelectionShowsTheParticipantAndKeysStoreHim) {
   combo("Combo3")->setFocus();
   form->close();
   EXPECT_EQ(store.Teilnehmer[2].MannschaftNr, 300);
-  EXPECT_TRUE(test.file(QStringLiteral("R 1.dat")).startsWith(" 1 \r\n 7 \r\n 2 \r\n 4 \r\n"));
+  EXPECT_TRUE(test.file("R 1.dat").startsWith(" 1 \r\n 7 \r\n 2 \r\n 4 \r\n"));
 }
 
 TEST_F(Form6Test, NumberInUseIsRedAndDropped) {
@@ -74,7 +72,7 @@ TEST_F(Form6Test, FlagsAfterTheDrawGoToTheRowBehindTheLastLine) {
     EXPECT_TRUE(!shown("Command2") && !shown("Text2") && find("List1")->hasFocus());
     EXPECT_EQ(test.beeps, 1); // the first reserve does not fit
   }
-  EXPECT_EQ(lines("List1")[2].left(7), QStringLiteral("    3  "));
+  EXPECT_EQ(lines("List1")[2].left(7), "    3  ");
   press("Check2");
   combo("Combo4")->setFocus();
   key(Qt::Key_Down);
@@ -94,7 +92,7 @@ TEST_F(Form6Test, ClassRunByKeysAndDeletion) {
   keys({Qt::Key_Tab, Qt::Key_Down, Qt::Key_Down, Qt::Key_Tab}); // class 2
   keys("100");
   keys({Qt::Key_Tab, Qt::Key_Return});
-  EXPECT_EQ(lines("List1")[0], QStringLiteral("  100  LÄUFER   1          1"));
+  EXPECT_EQ(lines("List1")[0], "  100  LÄUFER   1          1");
   open();
   press("Command6");
   press("Command7");
@@ -106,7 +104,7 @@ TEST_F(Form6Test, OnTopOfTheParticipantList) {
   enter(3);
   open();
   form->teilnehmerWaehlen(2);
-  EXPECT_EQ(label("Label6"), QStringLiteral("2"));
+  EXPECT_EQ(label("Label6"), "2");
   type("Text1", "5");
   key(Qt::Key_Return);
   EXPECT_TRUE(focused("List1") && store.Teilnehmer[2].StartNr == 5);
@@ -117,6 +115,6 @@ TEST_F(Form6Test, OnTopOfTheParticipantList) {
   EXPECT_EQ(label("Label6"), QString());
   store.Teilnehmer[3] = {};
   form->zeilenVerschoben();
-  EXPECT_EQ(label("Label2") + label("Label6"), QStringLiteral("bitte Teilnehmer anklicken !"));
+  EXPECT_EQ(label("Label2") + label("Label6"), "bitte Teilnehmer anklicken !");
   EXPECT_FALSE(enabled("Text1") || shown("Check1") || shown("Combo1"));
 }

@@ -2,51 +2,50 @@
 
 #include "core/RaceFiles.h"
 #include "platform/Numbers.h"
-#include "support/TestStore.h"
+#include "support/StoreTest.h"
 
 namespace {
 
-class ParticipantListTest : public StoreTest {
-protected:
+struct ParticipantListTest : StoreTest {
   /// The lines without the numbers at their ends.
   std::string shown(const char *beginning, int order) {
     QStringList heads;
-    for (const auto &line : TeilnehmerlisteFuellen(store, QString::fromUtf8(beginning), order))
+    for (const auto &line : TeilnehmerlisteFuellen(store, beginning, order))
       heads.append(trimmedBlanks(line.chopped(10)));
-    return heads.join(QLatin1Char('|')).toStdString();
+    return heads.join(u'|').toStdString();
   }
 };
 
 } // namespace
 
 TEST_F(ParticipantListTest, LineCarriesClubRowAndRecord) {
-  test.addClub(QStringLiteral("Ein sehr langer Vereinsname"));
-  test.enter(test.addAthlete(QStringLiteral("HUBER Anna"), 1990, 0, 1));
+  test.addClub("Ein sehr langer Vereinsname");
+  test.enter(test.addAthlete("HUBER Anna", 1990, 0, 1));
   const QStringList lines = TeilnehmerlisteFuellen(store, {}, ByName);
-  EXPECT_EQ(lines, QStringList(QStringLiteral("HUBER Anna    --- Ein sehr langer Vere") +
-                               QString(50, QLatin1Char(' ')) + QStringLiteral("0001000001")));
+  EXPECT_EQ(lines,
+            QStringList(QString("HUBER Anna    --- Ein sehr langer Vere") + QString(50, u' ') + QString("0001000001")));
   EXPECT_EQ(rowOfLine(lines[0]), 1);
 }
 
 TEST_F(ParticipantListTest, OrdersAndFilters) {
   for (const char *name : {"Maß", "MASER", "Abt", "D", "E", "F", "G", "H", "I", "J"})
-    test.enter(test.addAthlete(QString::fromUtf8(name), 1990, 0));
+    test.enter(test.addAthlete(name, 1990, 0));
   EXPECT_EQ(shown("", ByName), "Abt|D|E|F|G|H|I|J|MASER|Maß");
   EXPECT_EQ(shown("", ByEntry).substr(0, 22), "1  Maß|10  J|2  MASER");
   EXPECT_EQ(shown("", LatestFirst).substr(0, 13), "990  J|991  I");
   EXPECT_EQ(shown("MA", ByName), "MASER|Maß");
   EXPECT_EQ(shown("MAß", ByName), "Maß");
   EXPECT_EQ(shown("ma", ByName), "");
-  EXPECT_EQ(athleteLines(store, QStringLiteral("MAS")), QStringList(QStringLiteral("MASER                    2")));
+  EXPECT_EQ(athleteLines(store, "MAS"), QStringList("MASER                    2"));
 }
 
 TEST_F(ParticipantListTest, SearchesKeepLengthAndBlanksInside) {
   const std::tuple<const char *, const char *, const char *> cases[] = {
       {"  hub an ", "HUB AN", "Hub an"}, {"groß", "GROß", "Groß"}, {"öller", "ÖLLER", "Öller"}, {" ", "", ""}};
   for (const auto &[typed, searched, shown] : cases) {
-    EXPECT_EQ(athleteSearch(QString::fromUtf8(typed)), QString::fromUtf8(searched));
-    EXPECT_EQ(participantSearch(QString::fromUtf8(typed)), QString::fromUtf8(searched));
-    EXPECT_EQ(athleteSearchShown(QString::fromUtf8(typed)), QString::fromUtf8(shown));
+    EXPECT_EQ(athleteSearch(typed), searched);
+    EXPECT_EQ(participantSearch(typed), searched);
+    EXPECT_EQ(athleteSearchShown(typed), shown);
   }
 }
 

@@ -1,7 +1,7 @@
 #include "raceprep/RaceCopy.h"
 
 #include "core/RaceFiles.h"
-#include "support/TestStore.h"
+#include "support/StoreTest.h"
 
 using RaceCopy = RaceTest;
 
@@ -15,27 +15,27 @@ TEST_F(RaceCopy, CleanAndFullParticipantsByteForByte) {
   store.Teilnehmer[1] = {5, 1, 8, 2, 3, 1, 2.5F, 63.45, 0, 1, 1, 4, 70, 2, 1, 57, 12};
   for (const auto &[withResults, expected] : cases) {
     copyRace(store, 2, {}, withResults);
-    EXPECT_EQ(test.file(QStringLiteral("R 2.dat")), expected + reserve);
+    EXPECT_EQ(test.file("R 2.dat"), expected + reserve);
   }
 }
 
 TEST_F(RaceCopy, ForeignNamesStayWhereTheRaceHasNone) {
-  test.writeFile(QStringLiteral("M 2.lst"), "alt\r\n");
-  store.GruppeName[2] = QStringLiteral("Gruppe");
+  test.writeFile("M 2.lst", "alt\r\n");
+  store.GruppeName[2] = "Gruppe";
   copyRace(store, 2, {}, false);
-  EXPECT_EQ(test.file(QStringLiteral("R 2.dat")), "");
-  EXPECT_EQ(test.file(QStringLiteral("M 2.lst")), "alt\r\n");
-  EXPECT_TRUE(test.file(QStringLiteral("G 2.lst")).startsWith("\r\nGruppe\r\n"));
-  EXPECT_EQ(test.file(QStringLiteral("K 2.lst")), classFile(store, store.KlasseReihenfolge));
+  EXPECT_EQ(test.file("R 2.dat"), "");
+  EXPECT_EQ(test.file("M 2.lst"), "alt\r\n");
+  EXPECT_TRUE(test.file("G 2.lst").startsWith("\r\nGruppe\r\n"));
+  EXPECT_EQ(test.file("K 2.lst"), classFile(store, store.KlasseReihenfolge));
 }
 
 TEST_F(RaceCopy, RecordFarAheadRaisesTheCountAndLeavesZeroBytesBetween) {
   store.Rennen.ZweiDurchgaenge = 1;
-  copyRace(store, 200, QStringLiteral("Lauf "), false);
+  copyRace(store, 200, "Lauf ", false);
   EXPECT_EQ(store.RennenAnzahl, 200);
   EXPECT_EQ(store.RennenIdx, 1);
-  EXPECT_EQ(store.Rennen.RennenName, QStringLiteral("Rennen"));
-  const QByteArray records = test.file(QStringLiteral("Rennen.rec"));
+  EXPECT_EQ(store.Rennen.RennenName, "Rennen");
+  const QByteArray records = test.file("Rennen.rec");
   EXPECT_EQ(records.mid(199 * 1137, 15), "Kopie v. Lauf  ");
   EXPECT_EQ(records.mid(1137, 198 * 1137), QByteArray(198 * 1137, '\0'));
   store.RennenIdx = 200;

@@ -1,16 +1,15 @@
 #include "raceprep/StartNumbers.h"
 
 #include "core/RaceFiles.h"
-#include "support/TestStore.h"
+#include "support/StoreTest.h"
 
 #include <numeric>
 
 namespace {
 
-class StartNumbers : public RaceTest {
-protected:
+struct StartNumbers : RaceTest {
   int enter(const char *name, int order, int klasse = 1, int startNr = 0) {
-    const int row = test.enter(test.addAthlete(QString::fromUtf8(name), 2000, 0), startNr);
+    const int row = test.enter(test.addAthlete(name, 2000, 0), startNr);
     store.Teilnehmer[row].KlasseReihe = order;
     store.Teilnehmer[row].KlasseNr = klasse;
     return row;
@@ -50,7 +49,7 @@ TEST_F(StartNumbers, DrawOfTwoDigitsThenTheName) {
     order.append({int(same.zufallszahl() * 100), -row});
   std::sort(order.begin(), order.end());
   const QStringList lines = nummernAuslosen(store, 0);
-  EXPECT_EQ(lines[0].left(8), QStringLiteral("007%1   ").arg(order[0].first, 2, 10, QLatin1Char('0')));
+  EXPECT_EQ(lines[0].left(8), QString("007%1   ").arg(order[0].first, 2, 10, QChar(u'0')));
   for (int i = 0; i < 150; ++i)
     ASSERT_EQ(store.Teilnehmer[-order[i].second].StartNr, i + 1);
   EXPECT_NE(nummernAuslosen(store, 0), lines);
@@ -59,7 +58,7 @@ TEST_F(StartNumbers, DrawOfTwoDigitsThenTheName) {
 TEST_F(StartNumbers, NobodyIsLeftOutOfTheDraw) {
   std::mt19937 random(2026);
   for (int i = 1; i <= 60; ++i)
-    test.addAthlete(i % 8 == 0 ? QString() : QStringLiteral("ÄRMEL Zoë"), 2000, 0);
+    test.addAthlete(i % 8 == 0 ? QString() : "ÄRMEL Zoë", 2000, 0);
   for (int field = 0; field < 50; ++field) {
     RennDatenLaden(store);
     for (int row = 1; row <= 1000; row += 1 + int(random() % 60)) {

@@ -20,50 +20,50 @@ constexpr double Never = 1e9;
 constexpr int Hung = 1000;
 /// What may be lost of the typing: the time between two running copies, and what the timer may be late.
 constexpr long Promise = 2000, Lateness = 100;
-const QStringList JustEnd{QStringLiteral("Form1.Command4 click")};
-const auto Answers = QStringLiteral("Fehlerbericht press Schließen\nRettung press Übernehmen|Fertigstellen|Weiter");
+const QStringList JustEnd{"Form1.Command4 click"};
+const auto Answers = QString("Fehlerbericht press Schließen\nRettung press Übernehmen|Fertigstellen|Weiter");
 
 struct Place {
   Place() { makeEvent(data()); }
-  QString data() const { return root.filePath(QStringLiteral("Daten")); }
-  QString home() const { return root.filePath(QStringLiteral("Heim")); }
-  QString log() const { return root.filePath(QStringLiteral("Aufrufe")); }
+  QString data() const { return root.filePath("Daten"); }
+  QString home() const { return root.filePath("Heim"); }
+  QString log() const { return root.filePath("Aufrufe"); }
 
   QTemporaryDir root;
 };
 
 QProcessEnvironment environment(const Place &place, const QStringList &steps, const Mishap &mishap) {
-  auto all = realProgram(place.home(), steps.join(QLatin1Char('\n')));
+  auto all = realProgram(place.home(), steps.join(u'\n'));
   const std::pair<const char *, QString> own[] = {
-      {"LD_PRELOAD", QStringLiteral(VEXT_FILECALLS)},
-      {"QT_NO_GLIB", QStringLiteral("1")},
+      {"LD_PRELOAD", VEXT_FILECALLS},
+      {"QT_NO_GLIB", "1"},
       {"OPERATOR_ANSWERS", Answers},
       {"OPERATOR_LOG", place.log()},
       {"FILECALLS_LOG", place.log()},
-      {"FILECALLS_FOLDERS", place.data() + QLatin1Char(':') + place.home() + QStringLiteral("/VEXT")},
+      {"FILECALLS_FOLDERS", place.data() + u':' + place.home() + QString("/VEXT")},
       {"FILECALLS_AT", QString::number(mishap.call)},
       {"FILECALLS_DO", QString::fromLatin1(mishap.act)}};
   for (const auto &[name, value] : own)
-    all.insert(QLatin1String(name), value);
+    all.insert(name, value);
   return all;
 }
 
 void readCall(Run &run, const QStringList &words) {
   run.calls << words.value(2);
   run.end = words.value(1).toLong();
-  if (words.last() == QStringLiteral("!") && run.firstFailure < 0)
+  if (words.last() == "!" && run.firstFailure < 0)
     run.firstFailure = run.end;
 }
 
 void readLog(Run &run, const QString &path) {
-  run.log = QString::fromUtf8(readFile(path)).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+  run.log = QString::fromUtf8(readFile(path)).split(u'\n', Qt::SkipEmptyParts);
   for (const auto &line : std::as_const(run.log)) {
-    const QStringList words = line.split(QLatin1Char(' '));
-    if (words.first() == QStringLiteral("step"))
+    const QStringList words = line.split(u' ');
+    if (words.first() == "step")
       run.steps.push_back({words.value(1).toLong() - 1'000'000, words.value(2).toDouble() / 1000});
-    else if (words.first() != QStringLiteral("answer"))
+    else if (words.first() != "answer")
       readCall(run, words);
-    else if (words.value(3) == QStringLiteral("Rettung"))
+    else if (words.value(3) == "Rettung")
       ++run.answers;
   }
 }
@@ -72,19 +72,19 @@ void readLog(Run &run, const QString &path) {
 Run runProgram(const Place &place, const QStringList &steps, const Mishap &mishap, int syncDelay = 0) {
   auto all = environment(place, steps, mishap);
   if (syncDelay > 0)
-    all.insert(QStringLiteral("FILECALLS_DELAY"), QString::number(syncDelay));
+    all.insert("FILECALLS_DELAY", QString::number(syncDelay));
   else
-    all.insert(QStringLiteral("FILECALLS_CLOCK"), QStringLiteral("1"));
+    all.insert("FILECALLS_CLOCK", "1");
   QFile::remove(place.log());
   QProcess program;
   program.setProcessEnvironment(all);
   program.setWorkingDirectory(place.data());
-  program.start(QStringLiteral(VEXT_PROGRAM), QStringList());
+  program.start(VEXT_PROGRAM, QStringList());
   Run run;
   const bool ended = program.waitForFinished(Patience);
   run.code = !ended ? Hung : program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -program.exitCode();
   run.killed = run.code == -SIGKILL;
-  run.errors = QString::fromUtf8(program.readAllStandardError());
+  run.errors = program.readAllStandardError();
   readLog(run, place.log());
   return run;
 }
@@ -92,13 +92,13 @@ Run runProgram(const Place &place, const QStringList &steps, const Mishap &misha
 QStringList textsOf(const Session &session) {
   QStringList texts;
   for (const auto &step : session.steps)
-    texts << QString::fromUtf8(step.text);
+    texts << step.text;
   return texts;
 }
 
 bool isTyping(const Step &step) {
-  const QString verb = QString::fromUtf8(step.text).section(QLatin1Char(' '), 1, 1);
-  return verb == QStringLiteral("type") || verb == QStringLiteral("key") || verb == QStringLiteral("line");
+  const QString verb = QString::fromUtf8(step.text).section(u' ', 1, 1);
+  return verb == "type" || verb == "key" || verb == "line";
 }
 
 std::map<QString, qint64> sizesIn(const QString &folder) {
@@ -111,7 +111,7 @@ std::map<QString, qint64> sizesIn(const QString &folder) {
 /// Counts of Vext.dat; empty if there is none.
 QList<int> countsIn(const QString &folder) {
   QList<int> counts;
-  for (const auto &line : readFile(folder + QStringLiteral("/Vext.dat")).split('\n'))
+  for (const auto &line : readFile(folder + QString("/Vext.dat")).split('\n'))
     counts << line.trimmed().toInt();
   return counts;
 }
@@ -149,7 +149,7 @@ QStringList requiredFacts(const Session &session, const Run &run, const Mishap &
   QStringList facts;
   for (size_t step = 0; step < session.steps.size(); ++step)
     if (session.steps[step].fact && mustComeBack(session, run, step, mishap))
-      facts << QString::fromUtf8(session.steps[step].fact);
+      facts << session.steps[step].fact;
   return facts;
 }
 
@@ -157,8 +157,8 @@ QStringList ofRace(const QStringList &facts, int race) {
   const QString number = QString::number(race);
   QStringList own;
   for (const auto &fact : facts)
-    if (fact.startsWith(number + QLatin1Char('/')) || fact.startsWith(number + QLatin1Char(' ')) ||
-        fact.startsWith(QStringLiteral("Rennen ") + number + QLatin1Char(' ')))
+    if (fact.startsWith(number + u'/') || fact.startsWith(number + u' ') ||
+        fact.startsWith(QString("Rennen ") + number + u' '))
       own << fact;
   return own;
 }
@@ -167,19 +167,17 @@ QStringList ofRace(const QStringList &facts, int race) {
 QString accountOf(const char *which, const Mishap &mishap, const Run &run) {
   qsizetype end = run.log.size();
   for (qsizetype line = 0; line < run.log.size(); ++line)
-    if (run.log[line].endsWith(QStringLiteral(" !")) || run.log[line].endsWith(QStringLiteral(" *"))) {
+    if (run.log[line].endsWith(" !") || run.log[line].endsWith(" *")) {
       end = line + 1;
       break;
     }
-  return QStringLiteral("%1: %2 at %3, code %4%5\n  %6\n%7")
-      .arg(QLatin1String(which), QString::fromLatin1(mishap.act))
+  return QString("%1: %2 at %3, code %4%5\n  %6\n%7")
+      .arg(which, QString::fromLatin1(mishap.act))
       .arg(mishap.call)
       .arg(run.code)
-      .arg(run.killed ? QStringLiteral(", killed") : QString(),
-           run.log.mid(qMax<qsizetype>(0, end - 5), 8).join(QStringLiteral("\n  ")),
-           QStringList(run.errors.split(QLatin1Char('\n'))
-                           .filter(QRegularExpression(QStringLiteral("VEXT:|ERROR:|SUMMARY:|runtime error"))))
-               .join(QLatin1Char('\n')));
+      .arg(run.killed ? ", killed" : QString(), run.log.mid(qMax<qsizetype>(0, end - 5), 8).join("\n  "),
+           QStringList(run.errors.split(u'\n').filter(QRegularExpression("VEXT:|ERROR:|SUMMARY:|runtime error")))
+               .join(u'\n'));
 }
 
 void addErrors(std::vector<Case> &cases, const Case &base, Mishap Case::*mishap, int call, const CallKind &kind) {
@@ -224,7 +222,7 @@ bool Run::isAccounted(const Mishap &mishap, size_t wanted) const {
   if (killed)
     return mishap.isDeath();
   if (code >= 70 && code <= 72)
-    return errors.contains(QStringLiteral("VEXT: "));
+    return errors.contains("VEXT: ");
   return code == 0 && steps.size() == wanted;
 }
 
@@ -242,11 +240,11 @@ Drill::Drill(const Session &session) : m_session(session) {
 QString Drill::trouble() const {
   QStringList missing;
   for (const auto &step : m_session.steps)
-    if (step.fact && !m_after.contains(QString::fromUtf8(step.fact)))
-      missing << QString::fromUtf8(step.fact);
+    if (step.fact && !m_after.contains(step.fact))
+      missing << step.fact;
   if (m_run.code == 0 && missing.isEmpty())
     return {};
-  return accountOf(m_session.name, {}, m_run) + QStringLiteral("\nmissing: ") + missing.join(QStringLiteral("; "));
+  return accountOf(m_session.name, {}, m_run) + QString("\nmissing: ") + missing.join("; ");
 }
 
 std::vector<Case> Drill::cases() const {
@@ -266,20 +264,20 @@ Findings Drill::run(const Case &what) const {
   const Run session = runProgram(place, textsOf(m_session), what.first);
   findings.account = accountOf("session", what.first, session);
   if (!session.isAccounted(what.first, m_session.steps.size()))
-    findings.unreported << QStringLiteral("session");
+    findings.unreported << "session";
   const auto sizes = sizesIn(place.data());
   const bool lower = isLower(countsIn(place.data()), counts);
   Run next;
   if (what.second.call > 0) {
     next = runProgram(place, JustEnd, what.second);
-    findings.account += QLatin1Char('\n') + accountOf("next start", what.second, next);
+    findings.account += u'\n' + accountOf("next start", what.second, next);
     if (!next.isAccounted(what.second, 1))
-      findings.unreported << QStringLiteral("next start");
+      findings.unreported << "next start";
   }
   const Run last = runProgram(place, JustEnd, {});
-  findings.account += QLatin1Char('\n') + accountOf("last start", {}, last);
+  findings.account += u'\n' + accountOf("last start", {}, last);
   if (last.code != 0 || last.steps.size() != 1)
-    findings.unreported << QStringLiteral("last start");
+    findings.unreported << "last start";
   findings.offered = next.answers + last.answers > 0;
   for (const auto &[name, size] : m_sizes) {
     const auto now = sizes.find(name);
@@ -287,10 +285,10 @@ Findings Drill::run(const Case &what) const {
       findings.wiped << name;
   }
   if ((lower && !findings.offered) || isLower(countsIn(place.data()), counts))
-    findings.wiped << QStringLiteral("counts");
+    findings.wiped << "counts";
   for (const auto &[name, size] : sizesIn(place.data()))
     if (const auto old = m_sizes.find(name); old != m_sizes.end() && size < old->second)
-      findings.wiped << name + QStringLiteral(" at the end");
+      findings.wiped << name + QString(" at the end");
   judgeFacts(findings, requiredFacts(m_session, session, what.first), place.data());
   return findings;
 }
@@ -312,7 +310,7 @@ void Drill::judgeFacts(Findings &findings, const QStringList &required, const QS
   if (m_session.replacedRace > 0) {
     const auto race = ofRace(facts, m_session.replacedRace);
     if (race != ofRace(m_before, m_session.replacedRace) && race != ofRace(m_after, m_session.replacedRace))
-      findings.mixed << QStringLiteral("race %1").arg(m_session.replacedRace);
+      findings.mixed << QString("race %1").arg(m_session.replacedRace);
   }
 }
 

@@ -21,21 +21,17 @@ struct Line {
 };
 
 QString nameOf(const Case &what) {
-  static const std::map<QByteArray, QString> errors = {{"28", QStringLiteral("ENOSPC")},
-                                                       {"5", QStringLiteral("EIO")},
-                                                       {"13", QStringLiteral("EACCES")},
-                                                       {"24", QStringLiteral("EMFILE")},
-                                                       {"4", QStringLiteral("EINTR")}};
+  static const std::map<QByteArray, QString> errors = {
+      {"28", "ENOSPC"}, {"5", "EIO"}, {"13", "EACCES"}, {"24", "EMFILE"}, {"4", "EINTR"}};
   const bool second = what.second.call > 0;
   QByteArray act = second ? what.second.act : what.first.act;
   const bool forGood = act.endsWith('+');
   if (forGood)
     act.chop(1);
   const auto error = errors.find(act);
-  return QLatin1String(what.session->name) + QStringLiteral(" | ") +
-         (error == errors.end() ? QString::fromLatin1(act)
-                                : error->second + (forGood ? QStringLiteral(" for good") : QStringLiteral(" once"))) +
-         (second ? QStringLiteral(", next start") : QString());
+  return QLatin1String(what.session->name) + QString(" | ") +
+         (error == errors.end() ? QString::fromLatin1(act) : error->second + (forGood ? " for good" : " once")) +
+         (second ? ", next start" : QString());
 }
 
 class Table {
@@ -81,7 +77,7 @@ private:
                                        {"mixed", findings.mixed},
                                        {"unreported", findings.unreported}})
       if (!texts.isEmpty())
-        out << label << ": " << texts.join(QStringLiteral("; ")) << "\n";
+        out << label << ": " << texts.join("; ") << "\n";
     out << findings.account << "\n\n";
     out.flush();
   }
@@ -125,13 +121,13 @@ int runAllSessions(size_t each) {
 int runOne(const QStringList &words) {
   Table table;
   const auto session = std::find_if(sessions().begin(), sessions().end(),
-                                    [&](const Session &each) { return QString::fromUtf8(each.name) == words.first(); });
+                                    [&](const Session &each) { return each.name == words.first(); });
   if (session == sessions().end())
     return 2;
   const auto mishap = [&](qsizetype at) { return Mishap{words.value(at).toInt(), words.value(at + 1).toLatin1()}; };
   const Drill drill(*session);
   const Findings findings = drill.run({&*session, mishap(1), mishap(3)});
-  QTextStream(stdout) << findings.all().join(QLatin1Char('\n')) << "\n" << findings.account << "\n";
+  QTextStream(stdout) << findings.all().join(u'\n') << "\n" << findings.account << "\n";
   return findings.all().isEmpty() ? 0 : 1;
 }
 

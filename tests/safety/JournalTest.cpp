@@ -3,7 +3,7 @@
 #include "core/RaceFiles.h"
 #include "platform/Faults.h"
 #include "platform/Files.h"
-#include "support/TestStore.h"
+#include "support/StoreTest.h"
 
 #include <QDir>
 
@@ -11,13 +11,12 @@ namespace {
 
 const QDateTime Morning(QDate(2026, 1, 15), QTime(10, 42, 7));
 
-class JournalOfARace : public RaceTest {
-protected:
+struct JournalOfARace : RaceTest {
   JournalOfARace() {
-    test.addClub(QStringLiteral("SC Ötz"));
-    test.addClub(QStringLiteral("=SC"));
-    test.addAthlete(QStringLiteral("WEIßKIRCHNER Antonia"), 2012, 0, 1);
-    test.addAthlete(QStringLiteral("BERGER Karl"), 2010, 1, 1);
+    test.addClub("SC Ötz");
+    test.addClub("=SC");
+    test.addAthlete("WEIßKIRCHNER Antonia", 2012, 0, 1);
+    test.addAthlete("BERGER Karl", 2010, 1, 1);
     test.enter(1, 28);
     test.enter(2, 3);
     store.Teilnehmer[1].Zeit1 = 45.98;
@@ -27,10 +26,10 @@ protected:
 
   void look(const QDateTime &when = Morning) { journal.look(when)(); }
   /// The lines since the last call, without time of day and race, one text.
-  QString lines(const QString &day = QStringLiteral("2026-01-15")) {
-    const QString name = QStringLiteral("Protokoll/%1.csv").arg(day);
-    const QString all = test.hasFile(name) ? QString::fromUtf8(test.file(name)) : QString();
-    return all.mid(std::exchange(m_read[day], all.size())).replace(QStringLiteral("\r\n"), QStringLiteral("|"));
+  QByteArray lines(const QString &day = "2026-01-15") {
+    const QString name = QString("Protokoll/%1.csv").arg(day);
+    const QByteArray all = test.hasFile(name) ? test.file(name) : QByteArray();
+    return all.mid(std::exchange(m_read[day], all.size())).replace("\r\n", "|");
   }
 
   Journal journal{store};
@@ -53,11 +52,11 @@ TEST_F(JournalOfARace, EachChangedValueIsALine) {
       {[&] { row.Zeit1 = 62.384, row.Status2 = 3, row.KlasseGenau = 7; },
        "10:42:07;1;28;WEIßKIRCHNER Antonia;Zeit 1;46,38;1:02,38 (62,384)|"
        "10:42:07;1;28;WEIßKIRCHNER Antonia;Status 2;ok;dis|"},
-      {[&] { store.GruppeName[7] = QStringLiteral("Asse"), row.GruppeNr = 7, row.VereinNr = 4; },
+      {[&] { store.GruppeName[7] = "Asse", row.GruppeNr = 7, row.VereinNr = 4; },
        "10:42:07;1;;;Gruppe 7;;Asse|10:42:07;1;28;WEIßKIRCHNER Antonia;Verein;SC Ötz;ohne|"
        "10:42:07;1;28;WEIßKIRCHNER Antonia;Gruppe;;Asse|"},
       {[&] {
-         store.KlasseName[3].clear(), store.KlasseGenauName[9] = QStringLiteral("Zwerge; klein");
+         store.KlasseName[3].clear(), store.KlasseGenauName[9] = "Zwerge; klein";
          store.KlasseReihenfolge(3, 1, 0, 0) = 4;
        },
        "10:42:07;1;;;Bezeichnung der Klasse 2.2;;\"Zwerge; klein\"|"
@@ -81,20 +80,20 @@ TEST_F(JournalOfARace, EachChangedValueIsALine) {
   for (const auto &[change, expected] : cases) {
     change();
     look();
-    EXPECT_EQ(lines(), QString::fromUtf8(expected));
+    EXPECT_EQ(lines(), expected);
   }
 }
 
 TEST_F(JournalOfARace, WhatWasTypedRightAfterOpeningIsToldAndTheOpeningIsNot) {
-  test.addRace(QStringLiteral("Zweites"));
+  test.addRace("Zweites");
   look();
   store.AktRennen = 1;
   store.KlasseReihenfolge(3, 1, 0, 0) = 4; // left from the race before
-  QFile::remove(store.DatenOrdner + QStringLiteral("K 1.lst"));
+  QFile::remove(store.DatenOrdner + QString("K 1.lst"));
   RennDatenLaden(store);
   store.Teilnehmer[2].Zeit1 = 50;
   look();
-  EXPECT_TRUE(lines().endsWith(QStringLiteral("nachher|10:42:07;1;3;BERGER Karl;Zeit 1;;50,00|")));
+  EXPECT_TRUE(lines().endsWith("nachher|10:42:07;1;3;BERGER Karl;Zeit 1;;50,00|"));
   store.TabellenRennen = -1;
   store.Teilnehmer[2].Zeit1 = 0;
   look();
@@ -105,22 +104,22 @@ TEST_F(JournalOfARace, RefusedLinesComeLaterAndATornLineIsLeftBehind) {
   const auto type = [&](double time) { store.Teilnehmer[1].Zeit1 = time; };
   type(9);
   look();
-  QDir(store.DatenOrdner + QStringLiteral("Protokoll")).removeRecursively();
-  test.writeFile(QStringLiteral("Protokoll"), "kein Ordner");
+  QDir(store.DatenOrdner + QString("Protokoll")).removeRecursively();
+  test.writeFile("Protokoll", "kein Ordner");
   type(1);
   EXPECT_THROW(look(), Fault);
   type(2);
   EXPECT_THROW(look(), Fault);
-  QFile::remove(store.DatenOrdner + QStringLiteral("Protokoll"));
+  QFile::remove(store.DatenOrdner + QString("Protokoll"));
   look();
-  const QString who = QStringLiteral("10:42:07;1;28;WEIßKIRCHNER Antonia;Zeit 1;");
-  EXPECT_TRUE(test.file(QStringLiteral("Protokoll/2026-01-15.csv")).startsWith("\xEF\xBB\xBFUhrzeit"));
-  EXPECT_TRUE(lines().endsWith(who + QStringLiteral("9,00;1,00|") + who + QStringLiteral("1,00;2,00|")));
-  test.writeFile(QStringLiteral("Protokoll/2026-01-16.csv"), "10:42:07;1;28;WEI");
+  const QString who = "10:42:07;1;28;WEIßKIRCHNER Antonia;Zeit 1;";
+  EXPECT_TRUE(test.file("Protokoll/2026-01-15.csv").startsWith("\xEF\xBB\xBFUhrzeit"));
+  EXPECT_TRUE(lines().endsWith((who + QString("9,00;1,00|") + who + QString("1,00;2,00|")).toUtf8()));
+  test.writeFile("Protokoll/2026-01-16.csv", "10:42:07;1;28;WEI");
   type(3);
   look(Morning.addDays(1));
   type(4);
   look(Morning.addDays(1));
-  EXPECT_EQ(lines(QStringLiteral("2026-01-16")), QStringLiteral("10:42:07;1;28;WEI|") + who +
-                                                     QStringLiteral("2,00;3,00|") + who + QStringLiteral("3,00;4,00|"));
+  EXPECT_EQ(lines("2026-01-16"),
+            QString("10:42:07;1;28;WEI|") + who + QString("2,00;3,00|") + who + QString("3,00;4,00|"));
 }

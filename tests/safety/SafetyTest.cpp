@@ -4,7 +4,7 @@
 #include "platform/Faults.h"
 #include "platform/Files.h"
 #include "raceprep/RaceCopy.h"
-#include "support/TestStore.h"
+#include "support/StoreTest.h"
 
 #include <QDir>
 
@@ -14,25 +14,23 @@ namespace {
 
 /// A time in January 2026.
 QDateTime at(const QString &time) {
-  return QDateTime::fromString(QStringLiteral("2026-01-") + time, QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+  return QDateTime::fromString(QString("2026-01-") + time, "yyyy-MM-dd HH:mm:ss");
 }
 
 /// Copies with their running numbers: "7: 15 11:59:01, 8: …".
 QList<SafetyCopies::Name> copies(const char *list) {
   QList<SafetyCopies::Name> all;
-  for (const QString &copy : QString::fromLatin1(list).split(QStringLiteral(", "), Qt::SkipEmptyParts))
-    all << SafetyCopies::Name{copy.section(QStringLiteral(": "), 0, 0).toInt(),
-                              at(copy.section(QStringLiteral(": "), 1))};
+  for (const QString &copy : QString::fromLatin1(list).split(", ", Qt::SkipEmptyParts))
+    all << SafetyCopies::Name{copy.section(": ", 0, 0).toInt(), at(copy.section(": ", 1))};
   return all;
 }
 
 /// The data location of the user and the data folder are folders of the test; `last` is the run that died.
-class SafetyOfARace : public StoreTest {
-protected:
+struct SafetyOfARace : StoreTest {
   SafetyOfARace() {
     qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
-    test.addAthlete(QStringLiteral("BERGER Karl"), 2010, 1);
-    test.addRace(QStringLiteral("Kinderrennen"));
+    test.addAthlete("BERGER Karl", 2010, 1);
+    test.addRace("Kinderrennen");
     test.enter(1, 1);
     RennDatenSpeichern(store);
     run();
@@ -76,12 +74,12 @@ protected:
 
   /// The folder of this safety, and a folder in it.
   QString safetyFolder(const QString &name = {}) const {
-    const QString all = home.path() + QStringLiteral("/VEXT/Sicherung/");
-    return all + folders(all, QStringLiteral("*")).value(0) + QLatin1Char('/') + name;
+    const QString all = home.path() + QString("/VEXT/Sicherung/");
+    return all + folders(all, "*").value(0) + u'/' + name;
   }
   QString runningCopy() const {
-    const QString all = safetyFolder(QStringLiteral("Laufend/"));
-    return all + folders(all, QStringLiteral("*")).value(0);
+    const QString all = safetyFolder("Laufend/");
+    return all + folders(all, "*").value(0);
   }
 
   double timeInFile() {
@@ -95,7 +93,7 @@ protected:
   static QStringList folders(const QString &under, const QString &pattern) {
     return QDir(under).entryList({pattern}, QDir::Dirs | QDir::NoDotAndDotDot);
   }
-  QStringList rescues() const { return folders(test.folder.path(), QStringLiteral("Rettung *")); }
+  QStringList rescues() const { return folders(test.folder.path(), "Rettung *"); }
 
   QTemporaryDir home;
   Store next{test.umgebung};
@@ -126,64 +124,62 @@ TEST(SafetyCopies, FewerAreKeptTheOlderTheyAre) {
       {"those without a number are the oldest", "0: 15 11:59:00, 1: 15 11:58:00, 2: 15 11:58:01, 3: 15 11:58:02",
        "0: 15 11:59:00"}};
   for (const auto &[what, all, gone] : cases)
-    EXPECT_EQ(outgrown(copies(all), at(QStringLiteral("15 12:00:00"))), copies(gone)) << what;
+    EXPECT_EQ(outgrown(copies(all), at("15 12:00:00")), copies(gone)) << what;
 }
 
 TEST_F(SafetyOfARace, CopiesAreMadeOfWhatChangedAndFailuresAreTold) {
   std::mutex writing;
-  SafetyCopies copies(test.folder.path(), home.path() + QStringLiteral("/Kopien"));
-  const QString all = home.path() + QStringLiteral("/Kopien/");
-  copies.make(at(QStringLiteral("15 10:00:00")), writing);
-  copies.make(at(QStringLiteral("15 10:00:01")), writing);
+  SafetyCopies copies(test.folder.path(), home.path() + QString("/Kopien"));
+  const QString all = home.path() + QString("/Kopien/");
+  copies.make(at("15 10:00:00"), writing);
+  copies.make(at("15 10:00:01"), writing);
   type(1);
   RennDatenSpeichern(store);
-  mkfifo(QFile::encodeName(test.folder.filePath(QStringLiteral("R 9.dat"))).constData(), 0600);
-  EXPECT_THROW(copies.make(at(QStringLiteral("15 10:00:02")), writing), Fault);
-  const QStringList made = folders(all, QStringLiteral("*"));
+  mkfifo(QFile::encodeName(test.folder.filePath("R 9.dat")).constData(), 0600);
+  EXPECT_THROW(copies.make(at("15 10:00:02"), writing), Fault);
+  const QStringList made = folders(all, "*");
   ASSERT_EQ(made.size(), 2);
-  EXPECT_NE(readFile(all + made[0] + QStringLiteral("/R 1.dat")), test.file(QStringLiteral("R 1.dat")));
+  EXPECT_NE(readFile(all + made[0] + QString("/R 1.dat")), test.file("R 1.dat"));
   for (const char *name : {"R 1.dat", "Laeufer.rec"})
-    EXPECT_EQ(readFile(all + made[1] + QLatin1Char('/') + QLatin1String(name)), test.file(QLatin1String(name)));
-  const QString taken = home.path() + QStringLiteral("/besetzt");
+    EXPECT_EQ(readFile(all + made[1] + u'/' + QLatin1String(name)), test.file(name));
+  const QString taken = home.path() + QString("/besetzt");
   writeFile(taken, {});
-  EXPECT_THROW(SafetyCopies(test.folder.path(), taken).make(at(QStringLiteral("15 10:00:03")), writing), Fault);
+  EXPECT_THROW(SafetyCopies(test.folder.path(), taken).make(at("15 10:00:03"), writing), Fault);
 }
 
 TEST_F(SafetyOfARace, TimesOfADeadRunAreOfferedOnceAndTakenOver) {
-  const QByteArray before = test.file(QStringLiteral("R 1.dat"));
-  store.MannschaftName[3] = QStringLiteral("Eisbären");
+  const QByteArray before = test.file("R 1.dat");
+  store.MannschaftName[3] = "Eisbären";
   store.Rennen.ZweiDurchgaenge = 1;
-  last->screens = [] {
-    return QList<SavedFile>{{QStringLiteral("Cup.dat"), "Cup\r\n"}, {noteName(), "Zeit „46,3“ bei Nr. 28\n"}};
-  };
+  last->screens = [] { return QList<SavedFile>{{"Cup.dat", "Cup\r\n"}, {noteName(), "Zeit „46,3“ bei Nr. 28\n"}}; };
   type(63.45);
   const auto offer = startAgain();
   ASSERT_TRUE(offer);
   for (const char *part : {"1 „Kinderrennen“", "Zeit „46,3“ bei Nr. 28", "Cup.dat", "M 1.lst"})
-    EXPECT_TRUE(offer->text.contains(QString::fromUtf8(part))) << part << " in " << offer->text.toStdString();
-  EXPECT_EQ(test.file(QStringLiteral("R 1.dat")), before);
+    EXPECT_TRUE(offer->text.contains(part)) << part << " in " << offer->text.toStdString();
+  EXPECT_EQ(test.file("R 1.dat"), before);
   offer->accepted();
   EXPECT_EQ(timeInFile(), 63.45);
-  EXPECT_TRUE(test.file(QStringLiteral("M 1.lst")).startsWith("\r\n\r\nEisb\xe4ren\r\n"));
-  EXPECT_EQ(test.file(QStringLiteral("Cup.dat")), "Cup\r\n");
-  EXPECT_EQ(test.file(QStringLiteral("Rennen.rec")).at(332), '\1');
+  EXPECT_TRUE(test.file("M 1.lst").startsWith("\r\n\r\nEisb\xe4ren\r\n"));
+  EXPECT_EQ(test.file("Cup.dat"), "Cup\r\n");
+  EXPECT_EQ(test.file("Rennen.rec").at(332), '\1');
   ASSERT_EQ(rescues().size(), 1);
   const QString folder = test.folder.filePath(rescues()[0]);
-  EXPECT_EQ(readFile(folder + QStringLiteral("/R 1.dat vorher")), before);
+  EXPECT_EQ(readFile(folder + QString("/R 1.dat vorher")), before);
   EXPECT_FALSE(startAgain());
   EXPECT_EQ(rescues().size(), 1);
   // Birth dates and names are nobody else's business.
   for (const QString &path : {folder, safetyFolder()})
     EXPECT_FALSE(QFile::permissions(path) & (QFileDevice::ReadGroup | QFileDevice::ReadOther)) << path.toStdString();
-  EXPECT_FALSE(QFile::permissions(folder + QStringLiteral("/R 1.dat")) & QFileDevice::ReadOther);
+  EXPECT_FALSE(QFile::permissions(folder + QString("/R 1.dat")) & QFileDevice::ReadOther);
 }
 
 TEST_F(SafetyOfARace, HalfASaveIsRescuedAndAHalfCopyIsNot) {
   type(63.45);
-  test.writeFile(QStringLiteral("R 1.dat"), test.file(QStringLiteral("R 1.dat")).left(40));
-  const QString half = safetyFolder(QStringLiteral("Laufend/unfertig"));
+  test.writeFile("R 1.dat", test.file("R 1.dat").left(40));
+  const QString half = safetyFolder("Laufend/unfertig");
   makeFolder(half);
-  writeFile(half + QStringLiteral("/R 1.dat"), " 1 \r\n");
+  writeFile(half + QString("/R 1.dat"), " 1 \r\n");
   const auto offer = startAgain();
   ASSERT_TRUE(offer);
   offer->accepted();
@@ -191,15 +187,14 @@ TEST_F(SafetyOfARace, HalfASaveIsRescuedAndAHalfCopyIsNot) {
 }
 
 TEST_F(SafetyOfARace, ADamagedCopyIsKeptAndOfferedAsFarAsItCanBeRead) {
-  const std::pair<const char *, QString> cases[] = {{"a flipped bit", QStringLiteral("K 1.lst")},
-                                                    {"no manifest", QStringLiteral("Inhalt.txt")}};
+  const std::pair<const char *, QString> cases[] = {{"a flipped bit", "K 1.lst"}, {"no manifest", "Inhalt.txt"}};
   for (const auto &[name, file] : cases) {
     SCOPED_TRACE(name);
     RennDatenLaden(store);
     run();
     store.KlasseGenauName[3] = QString::fromLatin1(name);
     type(store.Teilnehmer[1].Zeit1 + 1);
-    const QString path = runningCopy() + QLatin1Char('/') + file;
+    const QString path = runningCopy() + u'/' + file;
     const QByteArray whole = readFile(path);
     writeFile(path, QByteArray(whole).replace("1", "2"));
     for (int start = 0; start < 2; ++start) {
@@ -208,26 +203,26 @@ TEST_F(SafetyOfARace, ADamagedCopyIsKeptAndOfferedAsFarAsItCanBeRead) {
       EXPECT_TRUE(offer->text.contains(file)) << offer->text.toStdString();
     }
     offers().first().accepted();
-    EXPECT_EQ(timeInFile() == store.Teilnehmer[1].Zeit1, file != QStringLiteral("Inhalt.txt"));
+    EXPECT_EQ(timeInFile() == store.Teilnehmer[1].Zeit1, file != "Inhalt.txt");
     EXPECT_FALSE(startAgain());
     // Later the disk reads it after all.
-    const QString aside = safetyFolder(QStringLiteral("Beschaedigt/"));
-    writeFile(aside + folders(aside, QStringLiteral("*")).last() + QLatin1Char('/') + file, whole);
+    const QString aside = safetyFolder("Beschaedigt/");
+    writeFile(aside + folders(aside, "*").last() + u'/' + file, whole);
     const auto offer = startAgain();
     ASSERT_TRUE(offer);
     offer->accepted();
     EXPECT_EQ(timeInFile(), store.Teilnehmer[1].Zeit1);
-    EXPECT_EQ(folders(aside, QStringLiteral("*")), QStringList());
+    EXPECT_EQ(folders(aside, "*"), QStringList());
   }
 }
 
 TEST_F(SafetyOfARace, WhatCannotBeReadAtAllIsPutAside) {
-  writeFile(safetyFolder(QStringLiteral("Laufend")), "kein Ordner");
+  writeFile(safetyFolder("Laufend"), "kein Ordner");
   EXPECT_FALSE(startAgain());
   run();
   type(63.45);
   EXPECT_TRUE(startAgain());
-  EXPECT_EQ(filesIn(safetyFolder(QStringLiteral("Beschaedigt"))).size(), 1);
+  EXPECT_EQ(filesIn(safetyFolder("Beschaedigt")).size(), 1);
 }
 
 TEST_F(SafetyOfARace, NothingIsOfferedWithoutNews) {
@@ -236,7 +231,7 @@ TEST_F(SafetyOfARace, NothingIsOfferedWithoutNews) {
       {"clean end", [&] { type(2), last->finish(); }},
       {"only opened, without a class file",
        [&] {
-         QFile::remove(store.DatenOrdner + QStringLiteral("K 1.lst"));
+         QFile::remove(store.DatenOrdner + QString("K 1.lst"));
          store.KlasseReihenfolge(3, 1, 0, 0) = 7;
          RennDatenLaden(store);
          last->tick();
@@ -251,9 +246,9 @@ TEST_F(SafetyOfARace, NothingIsOfferedWithoutNews) {
        }},
       {"half loaded",
        [&] {
-         test.writeFile(QStringLiteral("R 1.dat"), " 1 \r\n 7 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n0\r\nabc\r\n");
+         test.writeFile("R 1.dat", " 1 \r\n 7 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n0\r\nabc\r\n");
          EXPECT_THROW(RennDatenLaden(store), ConversionFault);
-         EXPECT_TRUE(last->rescue().contains(QStringLiteral("nichts")));
+         EXPECT_TRUE(last->rescue().contains("nichts"));
        }},
   };
   for (const auto &[name, die] : cases) {
@@ -283,19 +278,19 @@ TEST_F(SafetyOfARace, AFaultRescuesAtOnceAndIsRescuedOnlyOnce) {
 TEST_F(SafetyOfARace, AHalfCopyOverARaceIsFinishedOrTakenBack) {
   for (const bool finish : {true, false}) {
     SCOPED_TRACE(finish);
-    copyRace(store, 2, QStringLiteral("alt"), true);
+    copyRace(store, 2, "alt", true);
     last->wait();
     QList<QByteArray> before, after;
-    const QStringList names{QStringLiteral("R 2.dat"), QStringLiteral("K 2.lst"), QStringLiteral("Rennen.rec")};
+    const QStringList names{"R 2.dat", "K 2.lst", "Rennen.rec"};
     for (const auto &name : names)
       before << test.file(name);
     store.Teilnehmer[1].Zeit1 += 1;
-    store.KlasseName[3] += QStringLiteral("neu");
+    store.KlasseName[3] += "neu";
     store.nachDemErsetzen = [] {};
-    copyRace(store, 2, QStringLiteral("neu"), true);
+    copyRace(store, 2, "neu", true);
     for (const auto &name : names)
       after << test.file(name);
-    test.writeFile(QStringLiteral("K 2.lst"), before[1].left(100));
+    test.writeFile("K 2.lst", before[1].left(100));
     const auto offer = startAgain();
     ASSERT_TRUE(offer);
     (finish ? offer->accepted : offer->declined)();
@@ -315,16 +310,16 @@ TEST_F(SafetyOfARace, CountsThatVextDatLostComeFromTheSafetyCopy) {
       {"", true}, {" 1 \r\n", true}, {" 1 \r\n 0 \r\n 1 \r\n 0 \r\n", false}, {" 0 \r\n 0 \r\n 0 \r\n 0 \r\n", false}};
   for (const auto &[state, asked] : cases) {
     SCOPED_TRACE(state);
-    test.writeFile(QStringLiteral("Vext.dat"), state);
+    test.writeFile("Vext.dat", state);
     offers();
     const auto offer = again->lostCounts();
     ASSERT_EQ(offer.has_value(), asked);
     if (!asked)
       continue;
     offer->accepted();
-    EXPECT_EQ(test.file(QStringLiteral("Vext.dat")), " 1 \r\n 0 \r\n 1 \r\n 0 \r\n");
+    EXPECT_EQ(test.file("Vext.dat"), " 1 \r\n 0 \r\n 1 \r\n 0 \r\n");
   }
-  QFile::remove(store.DatenOrdner + QStringLiteral("Vext.dat"));
+  QFile::remove(store.DatenOrdner + QString("Vext.dat"));
   offers();
   EXPECT_FALSE(again->lostCounts());
 }
@@ -341,7 +336,7 @@ TEST_F(SafetyOfARace, FoldersAndRunningProgramsDoNotMixUp) {
   EXPECT_FALSE(second.claim());
   EXPECT_TRUE(offersOf(second).isEmpty());
   second.start();
-  EXPECT_TRUE(line.contains(QStringLiteral("läuft in diesem Ordner schon"))) << line.toStdString();
+  EXPECT_TRUE(line.contains("läuft in diesem Ordner schon")) << line.toStdString();
   second.finish();
   EXPECT_TRUE(startAgain());
 }
@@ -350,7 +345,7 @@ TEST_F(SafetyOfARace, ALockOfADeadProgramHoldsNobodyWhateverItHolds) {
   for (const char *content : {"", "1\nvext\nhost\n"}) {
     type(63.45);
     last.reset();
-    writeFile(safetyFolder(QStringLiteral("VEXT.lock")), content);
+    writeFile(safetyFolder("VEXT.lock"), content);
     EXPECT_TRUE(startAgain());
     again.reset();
     run();
@@ -359,10 +354,10 @@ TEST_F(SafetyOfARace, ALockOfADeadProgramHoldsNobodyWhateverItHolds) {
 
 TEST_F(SafetyOfARace, AFolderThatWasRenamedFindsItsCopies) {
   type(63.45);
-  const QString moved = test.folder.path() + QStringLiteral(" umbenannt");
+  const QString moved = test.folder.path() + QString(" umbenannt");
   last.reset();
   ASSERT_TRUE(QDir().rename(test.folder.path(), moved));
-  store.DatenOrdner = moved + QLatin1Char('/');
+  store.DatenOrdner = moved + u'/';
   const auto offer = startAgain();
   ASSERT_TRUE(offer);
   offer->accepted();
@@ -373,14 +368,13 @@ TEST_F(SafetyOfARace, AFolderThatWasRenamedFindsItsCopies) {
 TEST_F(SafetyOfARace, TroubleIsALineForTheScreensUntilItIsGone) {
   QStringList lines;
   last->hint = [&](const QString &text) { lines << text; };
-  const QString running = safetyFolder(QStringLiteral("Laufend"));
+  const QString running = safetyFolder("Laufend");
   writeFile(running, {});
   type(1);
   QFile::remove(running);
   type(2);
   ASSERT_EQ(lines.size(), 2);
-  EXPECT_TRUE(lines[0].startsWith(QStringLiteral("Die laufende Sicherung ist nicht gelungen.")))
-      << lines[0].toStdString();
+  EXPECT_TRUE(lines[0].startsWith("Die laufende Sicherung ist nicht gelungen.")) << lines[0].toStdString();
   EXPECT_EQ(lines[1], QString());
 }
 
@@ -388,20 +382,20 @@ TEST_F(SafetyOfARace, TheJournalNotesRecordsAndTheLastTimesAndTellsTheMenuOfItsT
   QStringList lines, menu;
   last->hint = [&](const QString &text) { lines << text; };
   last->journalHint = [&](const QString &text) { menu << text; };
-  const QString folder = test.folder.filePath(QStringLiteral("Protokoll"));
+  const QString folder = test.folder.filePath("Protokoll");
   last->wait(); // for the first look at the registers
   writeFile(folder, {});
-  test.addAthlete(QStringLiteral("NEU Eva"), 2012, 0);
+  test.addAthlete("NEU Eva", 2012, 0);
   type(1);
   QFile::remove(folder);
   type(2);
   ASSERT_EQ(menu.size(), 2);
-  EXPECT_TRUE(menu[0].startsWith(QStringLiteral("Der Eintrag ins Protokoll"))) << menu[0].toStdString();
+  EXPECT_TRUE(menu[0].startsWith("Der Eintrag ins Protokoll")) << menu[0].toStdString();
   EXPECT_EQ(menu[1], QString());
   EXPECT_EQ(lines, QStringList());
   store.Teilnehmer[1].Zeit1 = 63.45;
   last->finish();
-  const QByteArray all = readFile(folder + QLatin1Char('/') + filesIn(folder).value(0));
+  const QByteArray all = readFile(folder + u'/' + filesIn(folder).value(0));
   for (const char *part : {";;;NEU Eva;Name;;NEU Eva\r\n", ";1;1;BERGER Karl;Zeit 1;;1,00\r\n", "2,00;1:03,45\r\n"})
     EXPECT_TRUE(all.contains(part)) << part << " in " << all.toStdString();
 }

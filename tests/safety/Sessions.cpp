@@ -93,7 +93,7 @@ const std::vector<Step> Classes = {
 
 class Facts {
 public:
-  void add(const QString &what, const QString &value) { lines << what + QLatin1Char(' ') + value; }
+  void add(const QString &what, const QString &value) { lines << what + u' ' + value; }
   void add(const QString &what, double value) { add(what, QString::number(value)); }
 
   QStringList lines;
@@ -102,42 +102,42 @@ public:
 void addRegisters(Facts &facts, const Store &store) {
   for (int n = 1; n <= store.VereinAnzahl; ++n) {
     const VereinSatz club = VereinLesen(store, n);
-    const QString who = QStringLiteral("Verein %1").arg(n);
+    const QString who = QString("Verein %1").arg(n);
     facts.add(who, trimmedBlanks(club.VereinName));
-    facts.add(who + QStringLiteral(" kurz"), trimmedBlanks(club.VereinKurz));
+    facts.add(who + QString(" kurz"), trimmedBlanks(club.VereinKurz));
   }
   for (int n = 1; n <= store.LaeuferAnzahl; ++n) {
     const LaeuferSatz athlete = LaeuferLesen(store, n);
-    const QString who = QStringLiteral("Läufer %1").arg(n);
+    const QString who = QString("Läufer %1").arg(n);
     facts.add(who, athlete.Name);
-    facts.add(who + QStringLiteral(" geboren"), athlete.Geburtsdatum);
-    facts.add(who + QStringLiteral(" Geschlecht"), athlete.Geschlecht);
+    facts.add(who + QString(" geboren"), athlete.Geburtsdatum);
+    facts.add(who + QString(" Geschlecht"), athlete.Geschlecht);
   }
 }
 
 void addParticipants(Facts &facts, const Store &store) {
   for (int row = 1; store.Teilnehmer[row].LaeuferNr != 0; ++row) {
     const auto &line = store.Teilnehmer[row];
-    const QString who = QStringLiteral("%1/%2 ").arg(store.AktRennen).arg(row);
-    facts.add(who + QStringLiteral("Läufer"), line.LaeuferNr);
-    facts.add(who + QStringLiteral("Nummer"), line.StartNr);
-    facts.add(who + QStringLiteral("bezahlt"), line.Bezahlt);
-    facts.add(who + QStringLiteral("Zeit"), line.Zeit1);
+    const QString who = QString("%1/%2 ").arg(store.AktRennen).arg(row);
+    facts.add(who + QString("Läufer"), line.LaeuferNr);
+    facts.add(who + QString("Nummer"), line.StartNr);
+    facts.add(who + QString("bezahlt"), line.Bezahlt);
+    facts.add(who + QString("Zeit"), line.Zeit1);
   }
 }
 
 void addRace(Facts &facts, Store &store, int race) {
   store.RennenIdx = store.AktRennen = race;
   RennenLesen(store);
-  facts.add(QStringLiteral("Rennen %1").arg(race), store.Rennen.RennenName);
+  facts.add(QString("Rennen %1").arg(race), store.Rennen.RennenName);
   RennDatenLaden(store);
   addParticipants(facts, store);
   for (const auto &[letter, names] : {std::pair('M', store.MannschaftName[1]), {'G', store.GruppeName[1]}})
-    facts.add(QStringLiteral("%1 %2").arg(race).arg(QLatin1Char(letter)), names);
+    facts.add(QString("%1 %2").arg(race).arg(QLatin1Char(letter)), names);
   for (int klasse = 1; klasse <= 20; ++klasse) {
-    facts.add(QStringLiteral("%1 Klasse %2").arg(race).arg(klasse), store.KlasseName[klasse]);
-    facts.add(QStringLiteral("%1 Reihe %2").arg(race).arg(klasse), store.KlasseReihenfolge(klasse, 0, 0, 0));
-    facts.add(QStringLiteral("%1 genau %2").arg(race).arg(klasse), store.KlasseGenauName[exactClass(klasse, 0, 0, 0)]);
+    facts.add(QString("%1 Klasse %2").arg(race).arg(klasse), store.KlasseName[klasse]);
+    facts.add(QString("%1 Reihe %2").arg(race).arg(klasse), store.KlasseReihenfolge(klasse, 0, 0, 0));
+    facts.add(QString("%1 genau %2").arg(race).arg(klasse), store.KlasseGenauName[exactClass(klasse, 0, 0, 0)]);
   }
 }
 
@@ -153,13 +153,13 @@ void makeEvent(const QString &folder) {
   TestStore test;
   auto &store = test.store;
   for (const char *club : {"SC Alm", "TV Berg"})
-    test.addClub(QString::fromUtf8(club));
+    test.addClub(club);
   for (const char *name : {"ADAM Lena", "BERG Max", "CERNY Ida"})
-    test.addAthlete(QString::fromUtf8(name), 2012, 0, 1);
+    test.addAthlete(name, 2012, 0, 1);
   for (const char *race : {"Kinderrennen", "Vereinslauf"}) {
-    test.addRace(QString::fromUtf8(race));
-    store.MannschaftName[1] = QStringLiteral("Mannschaft ") + store.Rennen.RennenName;
-    store.GruppeName[1] = QStringLiteral("Gruppe ") + store.Rennen.RennenName;
+    test.addRace(race);
+    store.MannschaftName[1] = QString("Mannschaft ") + store.Rennen.RennenName;
+    store.GruppeName[1] = QString("Gruppe ") + store.Rennen.RennenName;
     for (int athlete = 1; athlete <= 3; ++athlete)
       test.enter(athlete, athlete);
     if (store.AktRennen == 2)
@@ -167,18 +167,18 @@ void makeEvent(const QString &folder) {
     RennDatenSpeichern(store);
   }
   auto cup = cupLaden(store);
-  cup.bezeichnung = QStringLiteral("Talcup");
+  cup.bezeichnung = "Talcup";
   cupSpeichern(store, cup);
   FensterSpeichern(store);
   QDir().mkpath(folder);
   for (const auto &name : QDir(test.folder.path()).entryList(QDir::Files))
-    QFile::copy(test.folder.filePath(name), folder + QLatin1Char('/') + name);
+    QFile::copy(test.folder.filePath(name), folder + u'/' + name);
 }
 
 QStringList factsOf(const QString &folder) {
   Umgebung umgebung;
   Store store(umgebung);
-  store.DatenOrdner = folder + QLatin1Char('/');
+  store.DatenOrdner = folder + u'/';
   storeStarten(store);
   alleDateienOeffnen(store);
   Facts facts;
@@ -186,8 +186,8 @@ QStringList factsOf(const QString &folder) {
   for (int race = 1; race <= store.RennenAnzahl; ++race)
     addRace(facts, store, race);
   const auto cup = cupLaden(store);
-  facts.add(QStringLiteral("Cup"), cup.bezeichnung);
+  facts.add("Cup", cup.bezeichnung);
   for (int place = 1; place <= 9; ++place)
-    facts.add(QStringLiteral("Cup %1").arg(place), store.cup.CupPunkteTabelle[place]);
+    facts.add(QString("Cup %1").arg(place), store.cup.CupPunkteTabelle[place]);
   return facts.lines;
 }

@@ -18,25 +18,24 @@ struct CupRaces {
   explicit CupRaces(TestStore &into) : test(into) {
     const int a = add("ADAM Ada", 1990), b = add("BERG Bo", 1990), c = add("CERNY Ida", 1990);
     const int d = add("DORN Uwe", 1990), e = add("EDER Max", 1990), f = add("FUCHS Lea", 2005);
-    addResults(test, QStringLiteral("Lauf 1"),
-               {{a, 40, 0, 41}, {b, 42, 0, 43}, {c, 42, 0, 41}, {d, 45, 0, 44}, {e, 50, 3}, {f, 50}});
-    addResults(test, QStringLiteral("Lauf 2"),
+    addResults(test, "Lauf 1", {{a, 40, 0, 41}, {b, 42, 0, 43}, {c, 42, 0, 41}, {d, 45, 0, 44}, {e, 50, 3}, {f, 50}});
+    addResults(test, "Lauf 2",
                {{a, 30, 0, 33}, {b, 31, 0, 31}, {c, 32, 0, 0, 3}, {d, 33, 0, 30}, {e, 34, 0, 34}, {f, 40, 0, 39}},
                [](RennenSatz &race) { race.ZweiDurchgaenge = 1; });
-    addResults(test, QStringLiteral("Lauf 3"), {{b, 60}, {c, 61}, {d, 62}, {e, 63}});
+    addResults(test, "Lauf 3", {{b, 60}, {c, 61}, {d, 62}, {e, 63}});
   }
 
-  int add(const char *name, int year) { return test.addAthlete(QLatin1String(name), year, 1, club); }
+  int add(const char *name, int year) { return test.addAthlete(name, year, 1, club); }
 
   TestStore &test;
-  int club = test.addClub(QStringLiteral("SC Alm"));
+  int club = test.addClub("SC Alm");
   const QList<int> all{3, 2, 1};
-  const QStringList lines{QStringLiteral("Herren------------------------R1----R2----R3----R4-Summe"),
-                          QStringLiteral("   1. ADAM Ada                20    20    10     X    50"),
-                          QStringLiteral("   1. BERG Bo                  X    15    15    20    50"),
-                          QStringLiteral("   3. CERNY Ida               15    10     X    15    40"),
-                          QStringLiteral("   4. DORN Uwe                 X     8    20    10    38"),
-                          QStringLiteral("   5. EDER Max                 X     5     8     8    21"),
-                          QStringLiteral("Jugend------------------------R1----R2----R3----R4-Summe"),
-                          QStringLiteral("   1. FUCHS Lea               20    20    20     X    60")};
+  const QStringList lines{"Herren------------------------R1----R2----R3----R4-Summe",
+                          "   1. ADAM Ada                20    20    10     X    50",
+                          "   1. BERG Bo                  X    15    15    20    50",
+                          "   3. CERNY Ida               15    10     X    15    40",
+                          "   4. DORN Uwe                 X     8    20    10    38",
+                          "   5. EDER Max                 X     5     8     8    21",
+                          "Jugend------------------------R1----R2----R3----R4-Summe",
+                          "   1. FUCHS Lea               20    20    20     X    60"};
 };

@@ -7,7 +7,7 @@
 /// Printers that keep what they are given; the system's default is the first.
 class FakePrinters {
 public:
-  explicit FakePrinters(const QStringList &system = {QStringLiteral("Laser"), QStringLiteral("Alt")}) {
+  explicit FakePrinters(const QStringList &system = {"Laser", "Alt"}) {
     for (const QString &name : system)
       m_system.append(printer(name));
     printers = std::make_unique<Printers>(
@@ -21,10 +21,10 @@ public:
   Printer printer(const QString &name) {
     return {name, [this, name](const Recording &recording) {
               if (refuse)
-                throw Fault(QStringLiteral("Der Drucker ist nicht bereit."));
+                throw Fault("Der Drucker ist nicht bereit.");
               documents.append(recording);
               usedPrinters.append(name);
-              return QStringLiteral("Ausdrucke/") + recording.name + QStringLiteral(".pdf");
+              return QString("Ausdrucke/") + recording.name + QString(".pdf");
             }};
   }
 

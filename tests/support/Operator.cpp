@@ -17,15 +17,11 @@
 //
 // OPERATOR_PACE is the time before each step in ms, 10 by default; a window manager needs a person's.
 
-#include <QAbstractItemView>
-#include <QApplication>
-#include <QCheckBox>
+#include "person/Person.h"
+
 #include <QFile>
 #include <QGenericPlugin>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QRadioButton>
-#include <QTest>
 #include <QTimer>
 
 #include <algorithm>
@@ -42,71 +38,49 @@ using Action = void (*)(QWidget *, const QString &);
 constexpr int Patience = 2000; // looks
 constexpr int GivenUp = 99;
 
-// The text of a box or an option is narrower than the control.
-void press(QWidget *control, const QString &) {
-  const bool box = qobject_cast<QCheckBox *>(control) || qobject_cast<QRadioButton *>(control);
-  QTest::mouseClick(control, Qt::LeftButton, {}, box ? QPoint(8, control->height() / 2) : QPoint());
-}
-
-void pressLine(QWidget *list, const QString &line) {
-  auto *view = qobject_cast<QAbstractItemView *>(list);
-  const QRect place = view->visualRect(view->model()->index(line.toInt(), 0));
-  QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, place.center());
-}
-
-void type(QWidget *field, const QString &text) {
-  QTest::mouseClick(field, Qt::LeftButton);
-  qobject_cast<QLineEdit *>(field)->selectAll();
-  QTest::keyClicks(field, text);
-}
-
 void pressCaption(QWidget *window, const QString &caption) {
   for (auto *button : window->findChildren<QPushButton *>())
-    if (caption.split(QLatin1Char('|')).contains(button->text()))
-      return QTest::mouseClick(button, Qt::LeftButton);
+    if (caption.split(u'|').contains(button->text()))
+      return Person::press(button);
 }
 
 const std::map<QString, Action> Actions = {
-    {QStringLiteral("click"), press},
-    {QStringLiteral("key"), [](QWidget *w, const QString &) { QTest::keyClick(w, Qt::Key_Return); }},
-    {QStringLiteral("close"), [](QWidget *w, const QString &) { w->close(); }},
-    {QStringLiteral("line"), pressLine},
-    {QStringLiteral("type"), type},
-    {QStringLiteral("press"), pressCaption},
-    {QStringLiteral("await"), [](QWidget *, const QString &) {}},
-    {QStringLiteral("pause"), [](QWidget *, const QString &) {}},
+    {"click", [](QWidget *w, const QString &) { Person::press(w); }},
+    {"key", [](QWidget *w, const QString &) { QTest::keyClick(w, Qt::Key_Return); }},
+    {"close", [](QWidget *w, const QString &) { w->close(); }},
+    {"line",
+     [](QWidget *w, const QString &line) { Person::chooseLine(qobject_cast<QAbstractItemView *>(w), line.toInt()); }},
+    {"type", Person::type},
+    {"press", pressCaption},
+    {"await", [](QWidget *, const QString &) {}},
+    {"pause", [](QWidget *, const QString &) {}},
 };
 
 /// A line of the steps, taken apart.
 struct Step {
-  explicit Step(const QString &line)
-      : text(line), verb(line.section(QLatin1Char(' '), 1, 1)), argument(line.section(QLatin1Char(' '), 2)) {}
+  explicit Step(const QString &line) : text(line), verb(line.section(u' ', 1, 1)), argument(line.section(u' ', 2)) {}
 
-  QString target() const { return text.section(QLatin1Char(' '), 0, 0); }
-  milliseconds pause() const {
-    return verb == QStringLiteral("pause") ? milliseconds(argument.toInt()) : milliseconds(0);
-  }
+  QString target() const { return text.section(u' ', 0, 0); }
+  milliseconds pause() const { return verb == "pause" ? milliseconds(argument.toInt()) : milliseconds(0); }
 
   QString text, verb, argument;
 };
 
 QList<Step> stepsOf(const char *variable) {
   QList<Step> steps;
-  for (const auto &line : qEnvironmentVariable(variable).split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+  for (const auto &line : qEnvironmentVariable(variable).split(u'\n', Qt::SkipEmptyParts))
     steps << Step(line);
   return steps;
 }
 
 QWidget *find(const QString &target) {
-  const QString screen = target.section(QLatin1Char('.'), 0, 0), control = target.section(QLatin1Char('.'), 1);
-  for (auto *window : QApplication::topLevelWidgets())
-    if (window->objectName() == screen && window->isVisible())
-      return control.isEmpty() ? window : window->findChild<QWidget *>(control);
-  return nullptr;
+  auto *window = Person::window(target.section(u'.', 0, 0));
+  const QString control = target.section(u'.', 1);
+  return control.isEmpty() ? window : Person::find(window, control);
 }
 
 bool isReady(const QWidget *target, const Step &step) {
-  return target && target->isEnabled() && (step.verb != QStringLiteral("await") || QFile::exists(step.argument));
+  return target && target->isEnabled() && (step.verb != "await" || QFile::exists(step.argument));
 }
 
 void note(const char *what, const Step &step, microseconds took) {

@@ -17,20 +17,19 @@ public:
       return {};
     QStringList found;
     const QString html = QString::fromUtf8(htmlOf(m_recording, QDateTime(QDate(2026, 1, 15), QTime(12, 0))));
-    const QString csv = QString::fromUtf8(csvOf(m_recording));
+    const QString csv = csvOf(m_recording);
     qsizetype rows = 0;
     for (const auto &section : m_recording.list.sections)
       for (const QStringList &row : section.rows) {
         ++rows;
         if (!isOnPaper(row))
-          found << QStringLiteral("not on paper: ") + row.join(QLatin1Char('|'));
+          found << QString("not on paper: ") + row.join(u'|');
         for (const QString &cell : section.values + row)
-          if (!html.contains(cell.toHtmlEscaped()) ||
-              !csv.contains(QString(cell).replace(QLatin1Char('"'), QStringLiteral("\"\""))))
-            found << QStringLiteral("not in a file: ") + cell;
+          if (!html.contains(cell.toHtmlEscaped()) || !csv.contains(QString(cell).replace(u'"', "\"\"")))
+            found << QString("not in a file: ") + cell;
       }
     if (rows != namesOnPaper())
-      found << QStringLiteral("%1 rows, %2 on paper").arg(rows).arg(namesOnPaper());
+      found << QString("%1 rows, %2 on paper").arg(rows).arg(namesOnPaper());
     return found;
   }
 
@@ -40,8 +39,8 @@ private:
 
   // A club may be cut on paper.
   static bool shows(const QStringList &line, const QString &cell) {
-    const QString whole = line.join(QLatin1Char('|'));
-    const QStringList words = cell.split(QLatin1Char(' '));
+    const QString whole = line.join(u'|');
+    const QStringList words = cell.split(u' ');
     return std::all_of(words.begin(), words.end(), [&](const QString &word) { return whole.contains(word); }) ||
            std::any_of(line.begin(), line.end(),
                        [&](const QString &text) { return text.size() > 2 && cell.startsWith(text); });
@@ -78,7 +77,7 @@ private:
   QStringList namesInRows() const {
     const auto &columns = m_recording.list.columns;
     qsizetype name = 0;
-    while (!columns[name].head.startsWith(QStringLiteral("Name")) && columns[name].head != QStringLiteral("Läufer"))
+    while (!columns[name].head.startsWith("Name") && columns[name].head != "Läufer")
       ++name;
     QStringList names;
     for (const auto &section : m_recording.list.sections)

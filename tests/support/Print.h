@@ -17,8 +17,8 @@ inline void PrintTo(const QByteArray &bytes, std::ostream *out) {
 
 /// The lines of a printed document as they were worked out by hand, from the folder of test data.
 inline QStringList expectedPrint(const char *name) {
-  QFile file(QStringLiteral(VEXT_TEST_DATA "/") + QLatin1String(name));
+  QFile file(QString(VEXT_TEST_DATA "/") + QLatin1String(name));
   if (!file.open(QIODevice::ReadOnly))
     return {};
-  return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+  return QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
 }

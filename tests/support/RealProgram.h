@@ -10,11 +10,11 @@ inline QProcessEnvironment realProgram(const QString &home, const QString &steps
   for (const auto &[name, value] : std::initializer_list<std::pair<const char *, QString>>{
            {"XDG_DATA_HOME", home},
            {"XDG_CONFIG_HOME", home},
-           {"ASAN_OPTIONS", QStringLiteral("detect_leaks=0:verify_asan_link_order=0")},
-           {"QT_QPA_PLATFORM", QStringLiteral("offscreen")},
-           {"QT_QPA_GENERIC_PLUGINS", QStringLiteral("operator")},
-           {"QT_PLUGIN_PATH", QStringLiteral(VEXT_PLUGINS)},
+           {"ASAN_OPTIONS", "detect_leaks=0:verify_asan_link_order=0"},
+           {"QT_QPA_PLATFORM", "offscreen"},
+           {"QT_QPA_GENERIC_PLUGINS", "operator"},
+           {"QT_PLUGIN_PATH", VEXT_PLUGINS},
            {"OPERATOR_STEPS", steps}})
-    environment.insert(QLatin1String(name), value);
+    environment.insert(name, value);
   return environment;
 }

@@ -2,7 +2,7 @@
 
 #include "core/Classes.h"
 #include "core/RaceFiles.h"
-#include "support/TestStore.h"
+#include "support/StoreTest.h"
 
 struct Result {
   int athlete;
@@ -24,7 +24,7 @@ inline int addResults(
   RennenSchreiben(store);
   store.KlasseName.fill({});
   for (const auto &[k, klasse, von, bis] : {std::tuple(1, "Herren", 1980, 1999), std::tuple(2, "Jugend", 2000, 2015)}) {
-    store.KlasseName[k] = store.KlasseGenauName[exactClass(k, 0, 0, 0)] = QLatin1String(klasse);
+    store.KlasseName[k] = store.KlasseGenauName[exactClass(k, 0, 0, 0)] = klasse;
     store.KlasseVon[k] = von;
     store.KlasseBis[k] = bis;
     store.KlasseReihenfolge(k, 0, 0, 0) = qint16(k);

@@ -1,21 +1,19 @@
 #pragma once
 
 #include "Programm.h"
+#include "person/Person.h"
 #include "platform/qt/LineList.h"
 #include "platform/qt/Screen.h"
 #include "support/FakePrinters.h"
-#include "support/TestStore.h"
+#include "support/StoreTest.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QLineEdit>
-#include <QTest>
 
 #include <memory>
 
 /// The whole program over a store, worked as a person works it: screens and controls are found by name.
-class RoofTest : public StoreTest {
-protected:
+struct RoofTest : StoreTest {
   ~RoofTest() override { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
 
   void start(Store &started) {
@@ -24,14 +22,9 @@ protected:
   }
   void start() { start(store); }
 
-  Screen *window(const char *name) {
-    for (auto *widget : QApplication::topLevelWidgets())
-      if (widget->objectName() == QLatin1String(name) && widget->isVisible())
-        return qobject_cast<Screen *>(widget);
-    return nullptr;
-  }
+  Screen *window(const char *name) { return qobject_cast<Screen *>(Person::window(name)); }
   template <typename T> T *control(const char *screen, const char *name) {
-    return window(screen)->findChild<T *>(QLatin1String(name));
+    return Person::find<T>(window(screen), name);
   }
   QString text(const char *screen, const char *box) { return control<QLineEdit>(screen, box)->text(); }
   QStringList lines(const char *screen, const char *list) { return control<LineList>(screen, list)->lines(); }
@@ -42,22 +35,17 @@ protected:
       if (widget->isVisible())
         names << widget->objectName();
     names.sort();
-    return names.join(QLatin1Char(' ')).toStdString();
+    return names.join(u' ').toStdString();
   }
 
-  void press(const char *screen, const char *button) {
-    auto *target = control<QAbstractButton>(screen, button);
-    QTest::mouseClick(target, Qt::LeftButton, {}, {8, target->height() / 2}); // a check box is narrower than its place
-  }
+  void press(const char *screen, const char *button) { Person::press(control<QAbstractButton>(screen, button)); }
   void press(const char *screen, std::initializer_list<const char *> buttons) {
     for (const char *button : buttons)
       press(screen, button);
   }
   void chooseLine(const char *screen, const char *name, int line) {
     window(screen)->activateWindow(); // as a press does
-    auto *list = control<LineList>(screen, name);
-    list->scrollTo(list->model()->index(line, 0));
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(line, 0)).center());
+    Person::chooseLine(control<LineList>(screen, name), line);
   }
 
   // The keyboard: keys go to the control that has the focus.
@@ -67,14 +55,14 @@ protected:
     ASSERT_EQ(visible(), screen);
     ASSERT_TRUE(QTest::qWaitForWindowActive(window(screen)));
   }
-  void key(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
+  void key(Qt::Key key) { Person::key(key); }
   void keys(std::initializer_list<Qt::Key> keys) {
     for (const auto each : keys)
       key(each);
   }
-  void type(const char *keys) { QTest::keyClicks(QApplication::focusWidget(), QString::fromUtf8(keys)); }
+  void type(const char *keys) { Person::keys(keys); }
   void tabTo(const char *name) {
-    for (int steps = 0; QApplication::focusWidget()->objectName() != QLatin1String(name); ++steps) {
+    for (int steps = 0; QApplication::focusWidget()->objectName() != name; ++steps) {
       ASSERT_LT(steps, 50) << name << " is not reached by the Tab key";
       key(Qt::Key_Tab);
     }

@@ -2,20 +2,18 @@
 
 #include "core/RecordFiles.h"
 #include "core/Start.h"
-#include "support/Print.h"
 
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
-/// A store in a folder of its own, as after the start on 15 January 2026 and with the record files open.
+/// A store in a folder of its own, for tests and measurements, as after the start on 15 January 2026 and with the
+/// record files open.
 class TestStore {
 public:
   TestStore() {
     umgebung.heute = [] { return QDate(2026, 1, 15); };
     umgebung.piep = [this] { ++beeps; };
     umgebung.zufall.seed(1);
-    store.DatenOrdner = folder.path() + QLatin1Char('/');
+    store.DatenOrdner = folder.path() + u'/';
     storeStarten(store);
     alleDateienOeffnen(store);
   }
@@ -40,17 +38,4 @@ public:
   Umgebung umgebung;
   int beeps = 0;
   Store store{umgebung};
-};
-
-/// A test with a store of its own.
-class StoreTest : public testing::Test {
-protected:
-  TestStore test;
-  Store &store = test.store;
-};
-
-/// The same with one race, which is open.
-class RaceTest : public StoreTest {
-protected:
-  RaceTest() { test.addRace(QStringLiteral("Rennen")); }
 };

@@ -6,8 +6,7 @@
 
 namespace {
 
-class Form18Test : public ScreenTest<Form18> {
-protected:
+struct Form18Test : ScreenTest<Form18> {
   /// Opens the screen, types both readings, each with Enter, and presses Enter once more; gives the difference.
   QString calculate(const char *start, const char *finish) {
     show(std::make_unique<Form18>(desk));
@@ -30,11 +29,11 @@ TEST_F(Form18Test, carriesTheDifferenceOverUnlessItIsBelowASecond) {
                                                                               {"", "0.75", "0,75", false},
                                                                               {"1.5.2", "3", "", false}};
   for (const auto &[start, finish, difference, over] : cases) {
-    EXPECT_EQ(calculate(start, finish), QLatin1String(difference));
+    EXPECT_EQ(calculate(start, finish), difference);
     EXPECT_EQ(form->isVisible(), !over) << start;
   }
-  EXPECT_EQ(taken, QStringList(2, QStringLiteral("63,45")));
-  EXPECT_EQ(text("Text1"), QStringLiteral("1,5,2"));
+  EXPECT_EQ(taken, QStringList(2, "63,45"));
+  EXPECT_EQ(text("Text1"), "1,5,2");
   EXPECT_TRUE(focused("Text6"));
 }
 

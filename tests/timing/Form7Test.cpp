@@ -8,14 +8,13 @@
 namespace {
 
 /// A woman, a man and one without a sex, in one class and in the rows 1 to 3 by start number.
-class Form7Test : public ScreenTest<Form7> {
-protected:
+struct Form7Test : ScreenTest<Form7> {
   Form7Test() {
-    const int club = test.addClub(QStringLiteral("SC Alm"));
-    test.addRace(QStringLiteral("Stadtlauf"));
+    const int club = test.addClub("SC Alm");
+    test.addRace("Stadtlauf");
     for (const auto &[name, sex] : {std::pair("ADAM Eva", 0), {"BERG Max", 1}, {"CERNY Ida", 2}})
-      test.enter(test.addAthlete(QLatin1String(name), 1990, sex, club), sex + 1);
-    store.KlasseName[0] = QStringLiteral("Damen");
+      test.enter(test.addAthlete(name, 1990, sex, club), sex + 1);
+    store.KlasseName[0] = "Damen";
   }
 
   void clickLine(int line) { ScreenTest::clickLine("List2", line); }
@@ -28,16 +27,15 @@ TEST_F(Form7Test, showsTheSelectedParticipant) {
   berg.Status1 = 2;
   berg.Gast = 1;
   berg.GruppeNr = 4;
-  store.GruppeName[4] = QStringLiteral("Gruppe D");
+  store.GruppeName[4] = "Gruppe D";
   open();
   clickLine(1);
   QStringList values;
   for (const int n : {1, 2, 5, 11, 14, 16, 18, 19, 23})
-    values << label(qPrintable(QStringLiteral("Label%1").arg(n)));
+    values << label(qPrintable(QString("Label%1").arg(n)));
   for (int n = 1; n <= 5; ++n)
-    values << text(qPrintable(QStringLiteral("Text%1").arg(n)));
-  EXPECT_EQ(values.join(QLatin1Char('|')),
-            QStringLiteral("Stadtlauf|BERG Max|2|2|1990|Damen|JA|SC Alm|Gruppe D|3661,5|1|1|1,5|12,5"));
+    values << text(qPrintable(QString("Text%1").arg(n)));
+  EXPECT_EQ(values.join(u'|'), "Stadtlauf|BERG Max|2|2|1990|Damen|JA|SC Alm|Gruppe D|3661,5|1|1|1,5|12,5");
   EXPECT_EQ(find<QComboBox>("Combo2")->currentIndex(), 2);
 }
 
@@ -56,9 +54,9 @@ TEST_F(Form7Test, storesAgainstTheRowSelectedWhileTyping) {
   EXPECT_EQ(store.Teilnehmer[2].Punkte, 12);
   keys("1.234.5");
   form->close();
-  EXPECT_EQ(text("Text1"), QStringLiteral("1,234.5"));
+  EXPECT_EQ(text("Text1"), "1,234.5");
   EXPECT_EQ(store.Teilnehmer[3].Zeit1, 0);
-  EXPECT_TRUE(test.file(QStringLiteral("R 1.dat")).startsWith(" 1 \r\n 1 \r\n 0 \r\n 1 \r\n 0 \r\n 0 \r\n0\r\n70\r\n"));
+  EXPECT_TRUE(test.file("R 1.dat").startsWith(" 1 \r\n 1 \r\n 0 \r\n 1 \r\n 0 \r\n 0 \r\n0\r\n70\r\n"));
 }
 
 TEST_F(Form7Test, splitsAndJoinsTimes) {
@@ -66,16 +64,16 @@ TEST_F(Form7Test, splitsAndJoinsTimes) {
   clickLine(0);
   type("Text1", "59.999");
   press("Command4");
-  EXPECT_EQ(text("Text3") + QLatin1Char('/') + text("Text4"), QStringLiteral("0/59,999"));
+  EXPECT_EQ(text("Text3") + u'/' + text("Text4"), "0/59,999");
   type("Text3", "1");
   type("Text4", "23.45");
   press("Command2");
   EXPECT_EQ(store.Teilnehmer[1].Zeit1, 83.45);
-  EXPECT_EQ(text("Text1"), QStringLiteral("83,45"));
+  EXPECT_EQ(text("Text1"), "83,45");
   for (const auto &[typed, tidy] : {std::pair(" 7 ", " 7 "), {" 7.5 ", "7,5"}, {"  ", "0"}}) {
     type("Text4", typed);
     find("Text2")->setFocus();
-    EXPECT_EQ(text("Text4"), QLatin1String(tidy));
+    EXPECT_EQ(text("Text4"), tidy);
   }
 }
 
@@ -92,8 +90,8 @@ TEST_F(Form7Test, takesOnlyWhatItsFileGivesBack) {
   type("Text5", "999999999999999999999999999999999999999");
   press("Command2");
   EXPECT_EQ(test.beeps, 4);
-  form->zeitUebernehmen(QStringLiteral("1,79769313486232E+308"));
-  EXPECT_EQ(text("Text1") + QLatin1Char('/') + text("Text5"), QStringLiteral("70/12"));
+  form->zeitUebernehmen("1,79769313486232E+308");
+  EXPECT_EQ(text("Text1") + u'/' + text("Text5"), "70/12");
   form->close();
   RennDatenLaden(store);
   EXPECT_EQ(store.Teilnehmer[1].Zeit1, 70);
@@ -122,7 +120,7 @@ TEST_F(Form7Test, typingInTheListChoosesAPerson) {
   key(Qt::Key_Return);
   EXPECT_EQ(chosen("1", {}), "3 list");
   EXPECT_TRUE(QTest::qWaitFor([this] { return focused("Text1"); })); // by the pause, as no other number begins so
-  EXPECT_EQ(label("Label11"), QStringLiteral("1"));
+  EXPECT_EQ(label("Label11"), "1");
   EXPECT_EQ(chosen("25", {Qt::Key_Tab}).substr(0, 1), "1");
   for (const int row : {1, 2, 3})
     EXPECT_EQ(store.Teilnehmer[row].Zeit1, row == 3 ? 41 : 0) << row;
@@ -142,9 +140,9 @@ TEST_F(Form7Test, secondRun) {
   keys("61,25");
   key(Qt::Key_Enter);
   EXPECT_EQ(store.Teilnehmer[1].Zeit2, 61.25);
-  form->zeitUebernehmen(QStringLiteral("63,45"));
+  form->zeitUebernehmen("63,45");
   EXPECT_EQ(store.Teilnehmer[1].Zeit1, 63.45);
-  EXPECT_EQ(text("Text1"), QStringLiteral("63,45"));
+  EXPECT_EQ(text("Text1"), "63,45");
 }
 
 } // namespace

@@ -1,21 +1,20 @@
 #include "timing/Ranking.h"
 
-#include "support/TestStore.h"
+#include "support/StoreTest.h"
 
 namespace {
 
 using Rows = QList<int>;
 
 /// One race; the participants stand in the rows 1, 2, … in the order of entering.
-class RankingTest : public RaceTest {
-protected:
+struct RankingTest : RaceTest {
   RankingTest() {
-    store.KlasseGenauName[0] = QStringLiteral("Klasse 0");
-    store.KlasseGenauName[1] = QStringLiteral("Klasse 1");
+    store.KlasseGenauName[0] = "Klasse 0";
+    store.KlasseGenauName[1] = "Klasse 1";
   }
 
   TeilnehmerZeile &enter(const char *name, TeilnehmerZeile values, int sex = 0) {
-    values.LaeuferNr = test.addAthlete(QString::fromUtf8(name), 1990, sex, 1);
+    values.LaeuferNr = test.addAthlete(name, 1990, sex, 1);
     values.StartNr = 100;
     return store.Teilnehmer[test.enter(values.LaeuferNr)] = values;
   }
@@ -45,7 +44,7 @@ TEST_F(RankingTest, listsOneRunWithTiesAndDifferences) {
   ErgebnisRechnen(store);
   EXPECT_EQ(order(), (Rows{2, 1, 4, 3, 5}));
   EXPECT_EQ(places(), (Rows{1, 1, 4, 3, 1}));
-  EXPECT_EQ(store.rangliste.ErgebnisZeilen.join(QLatin1Char('\n')).toStdString(), R"(
+  EXPECT_EQ(store.rangliste.ErgebnisZeilen.join(u'\n').toStdString(), R"(
 Rang--Name------------------Startnr.-Klasse-----------Zeit----Diff.
    1. ADAM Rosa-Maria Theresia   100 Klasse 0        83,50     0,00
    2. ZAHN Eva                   100 Klasse 0        83,50     0,00
@@ -64,7 +63,7 @@ TEST_F(RankingTest, twoRunsTieByTheFirstRunOfNeighbours) {
   ErgebnisRechnen(store);
   EXPECT_EQ(places(), (Rows{1, 1, 3}));
   EXPECT_EQ(store.rangliste.ErgebnisZeilen.last(),
-            QStringLiteral("   3. C                          100 Klasse 0        51,00    50,00   101,00     1,00"));
+            "   3. C                          100 Klasse 0        51,00    50,00   101,00     1,00");
 }
 
 TEST_F(RankingTest, whoIsRanked) {
@@ -99,13 +98,12 @@ TEST_F(RankingTest, surchargesAndBestTimes) {
 
 TEST_F(RankingTest, pointsRankLowestFirstInGroups) {
   store.Rennen.WertZeit = store.Rennen.WertKlassen = 0;
-  store.GruppeName[7] = QStringLiteral("Gruppe der Besten");
+  store.GruppeName[7] = "Gruppe der Besten";
   enter("A", {.GruppeNr = 7, .Punkte = 2.5F, .Zeit1 = 50});
   enter("A", {.GruppeNr = 7, .Punkte = 0, .Zeit1 = 50});
   ErgebnisRechnen(store);
   EXPECT_EQ(order(), (Rows{2, 1}));
-  EXPECT_EQ(store.rangliste.ErgebnisZeilen.last(),
-            QStringLiteral("   2. A                          100 Gruppe der B 00002,50"));
+  EXPECT_EQ(store.rangliste.ErgebnisZeilen.last(), "   2. A                          100 Gruppe der B 00002,50");
 }
 
 TEST_F(RankingTest, firstRunIsDenseAndCarriesTheLastTimeOn) {

@@ -11,9 +11,9 @@ TEST(TimeDifference, OfTwoReadings) {
                                                                               {"0", "0,75", "0,75", false},
                                                                               {"-1", "1", "2", true}};
   for (const auto &[start, finish, expected, taken] : cases) {
-    const QString difference = plainText(timeDifference(QLatin1String(start), QLatin1String(finish)).value());
-    EXPECT_EQ(difference, QLatin1String(expected));
+    const QString difference = plainText(timeDifference(start, finish).value());
+    EXPECT_EQ(difference, expected);
     EXPECT_EQ(isTimeToTake(difference), taken) << expected;
   }
-  EXPECT_FALSE(timeDifference(QStringLiteral("1,5,2"), QStringLiteral("3")));
+  EXPECT_FALSE(timeDifference("1,5,2", "3"));
 }

@@ -1,17 +1,16 @@
 #include "timing/TimingList.h"
 
-#include "support/TestStore.h"
+#include "support/StoreTest.h"
 
 namespace {
 
-class TimingListTest : public RaceTest {
-protected:
+struct TimingListTest : RaceTest {
   TimingListTest() {
-    store.KlasseGenauName[8] = QStringLiteral("Damen");
-    store.KlasseGenauName[9] = QStringLiteral("Herren");
-    enter(QStringLiteral("ADAM Eva"), 12, 8, 83.456);
-    enter(QStringLiteral("BERG Max"), 3, 9, 0);
-    enter(QStringLiteral("CERNY Ida"), 7, 8, 80);
+    store.KlasseGenauName[8] = "Damen";
+    store.KlasseGenauName[9] = "Herren";
+    enter("ADAM Eva", 12, 8, 83.456);
+    enter("BERG Max", 3, 9, 0);
+    enter("CERNY Ida", 7, 8, 80);
     enter({}, 1, 8, 10);
   }
 
@@ -23,7 +22,7 @@ protected:
     return participant;
   }
 
-  std::string lines(ListMode mode) { return ZeitlisteFuellen(store, mode).join(QLatin1Char('\n')).toStdString(); }
+  std::string lines(ListMode mode) { return ZeitlisteFuellen(store, mode).join(u'\n').toStdString(); }
 };
 
 TEST_F(TimingListTest, fiveOrders) {
@@ -52,21 +51,20 @@ TEST_F(TimingListTest, fiveOrders) {
 
 TEST_F(TimingListTest, secondRunReversesTheFirstFifteen) {
   for (int time = 81; time <= 98; ++time)
-    enter(QStringLiteral("X"), time, 8, time);
+    enter("X", time, 8, time);
   QStringList numbers;
   for (const QString &line : ZeitlisteFuellen(store, ListMode::ZweiterDurchgang))
     numbers << line.left(4);
   const QStringList expected =
-      QStringLiteral(
-          "---- 0093 0092 0091 0090 0089 0088 0087 0086 0085 0084 0012 0083 0082 0081 0007 0094 0095 0096 0097 "
-          "0098 ---- 0003")
-          .split(QLatin1Char(' '));
+      QString("---- 0093 0092 0091 0090 0089 0088 0087 0086 0085 0084 0012 0083 0082 0081 0007 0094 0095 0096 0097 "
+              "0098 ---- 0003")
+          .split(u' ');
   EXPECT_EQ(numbers, expected);
 }
 
 TEST_F(TimingListTest, secondRunByGroupsTakesTheNameOfTheRow) {
   store.Rennen.WertKlassen = 0;
-  store.GruppeName[1] = QStringLiteral("002");
+  store.GruppeName[1] = "002";
   EXPECT_EQ(lines(ListMode::ZweiterDurchgang), R"(----- Damen -----------------------------------
 0007  NY Ida           3
 ----- Herren -----------------------------------
@@ -74,7 +72,7 @@ TEST_F(TimingListTest, secondRunByGroupsTakesTheNameOfTheRow) {
 ----- Damen -----------------------------------
 0012  ADAM Eva           1)");
   for (int row = 5; row <= 101; ++row)
-    enter(QStringLiteral("X"), row, 8, 50);
+    enter("X", row, 8, 50);
   EXPECT_THROW(ZeitlisteFuellen(store, ListMode::ZweiterDurchgang), RangeFault);
 }
 

@@ -18,12 +18,12 @@ const QDateTime When(QDate(2026, 1, 15), QTime(14, 30, 5));
 
 Recording document() {
   Recording recording;
-  recording.name = QStringLiteral("Ergebnisliste/Übung");
+  recording.name = "Ergebnisliste/Übung";
   recording.race = 7;
-  recording.title = QStringLiteral("Jugendcup – Übung");
-  const QString picture = QStringLiteral(":/kopf1.jpg");
-  const PrintPage page{TextOperation{20, 20, {QStringLiteral("Times"), 18}, QStringLiteral("Größe Äöüß")},
-                       TextOperation{20, 65, {QStringLiteral("Fraktur BT"), 85}, QStringLiteral("Urkunde")},
+  recording.title = "Jugendcup – Übung";
+  const QString picture = ":/kopf1.jpg";
+  const PrintPage page{TextOperation{20, 20, {"Times", 18}, "Größe Äöüß"},
+                       TextOperation{20, 65, {"Fraktur BT", 85}, "Urkunde"},
                        PictureOperation{191, 11, 5.5, 18, picture, QImage(picture)}};
   recording.pages = {page, page, page};
   return recording;
@@ -31,23 +31,23 @@ Recording document() {
 
 QString outputOf(const char *tool, const QStringList &arguments) {
   QProcess process;
-  process.start(QLatin1String(tool), arguments);
+  process.start(tool, arguments);
   EXPECT_TRUE(process.waitForFinished()) << tool << " is not installed";
-  return QString::fromUtf8(process.readAllStandardOutput());
+  return process.readAllStandardOutput();
 }
 
 } // namespace
 
 TEST(PdfFileTest, IsNamedByRaceDocumentAndTimeAndWritesOverNothing) {
   const QTemporaryDir folder;
-  const QString target = folder.path() + QStringLiteral("/Ausdrucke");
-  const QString first = target + QStringLiteral("/7 Ergebnisliste-Übung 2026-01-15 14-30-05");
-  EXPECT_EQ(pdfPrinter(target, [] { return When; }).print(document()), first + QStringLiteral(".pdf"));
-  EXPECT_EQ(pdfPrinter(target, [] { return When; }).print(document()), first + QStringLiteral(" (2).pdf"));
-  EXPECT_EQ(readFile(first + QStringLiteral(".pdf")).count("/Subtype /Image"), 1) << "one picture for all pages";
-  const QString second = first + QStringLiteral(" (2).pdf");
-  const QString text = outputOf("pdftotext", {second, QStringLiteral("-")});
-  EXPECT_TRUE(text.count(QStringLiteral("Größe Äöüß")) == 3 && text.count(QStringLiteral("Urkunde")) == 3);
+  const QString target = folder.path() + QString("/Ausdrucke");
+  const QString first = target + QString("/7 Ergebnisliste-Übung 2026-01-15 14-30-05");
+  EXPECT_EQ(pdfPrinter(target, [] { return When; }).print(document()), first + QString(".pdf"));
+  EXPECT_EQ(pdfPrinter(target, [] { return When; }).print(document()), first + QString(" (2).pdf"));
+  EXPECT_EQ(readFile(first + QString(".pdf")).count("/Subtype /Image"), 1) << "one picture for all pages";
+  const QString second = first + QString(" (2).pdf");
+  const QString text = outputOf("pdftotext", {second, "-"});
+  EXPECT_TRUE(text.count("Größe Äöüß") == 3 && text.count("Urkunde") == 3);
   EXPECT_TRUE(outputOf("pdfinfo", {second}).contains(document().title));
 }
 

@@ -8,7 +8,7 @@
 
 TEST(PictureFileTest, APictureOfAGoodCameraIsReadAsFineAsPaperNeeds) {
   const QTemporaryDir folder;
-  const QString path = folder.filePath(QStringLiteral("gross.jpg"));
+  const QString path = folder.filePath("gross.jpg");
   QImage large(7000, 5000, QImage::Format_RGB888);
   large.fill(Qt::darkGreen);
   ASSERT_TRUE(large.save(path));

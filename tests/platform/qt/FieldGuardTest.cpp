@@ -11,12 +11,12 @@ namespace {
 /// A screen with every kind of control that writes down what happens in which order.
 class Probe : public Screen {
 public:
-  Probe(Desk &desk, Store &) : Screen(desk, QStringLiteral("Probe"), 7) {
+  Probe(Desk &desk, Store &) : Screen(desk, "Probe", 7) {
     auto *layout = new QVBoxLayout(this);
     for (QWidget *control : std::initializer_list<QWidget *>{text, other, combo, check, button, list})
       layout->addWidget(control);
-    list->setObjectName(QStringLiteral("list"));
-    combo->addItems({QStringLiteral("ok"), QStringLiteral("naS")});
+    list->setObjectName("list");
+    combo->addItems({"ok", "naS"});
     setUp();
     list->fill(lines({"A     1", "B     2", "C     3", "D     4"}));
     onLeave(text, [this] { note("text=" + text->text().toStdString()); });
@@ -29,7 +29,7 @@ public:
   static QStringList lines(std::initializer_list<const char *> texts) {
     QStringList all;
     for (const char *text : texts)
-      all << QLatin1String(text);
+      all << text;
     return all;
   }
   void note(const std::string &what) { log += (log.empty() ? "" : " ") + what; }
@@ -52,8 +52,7 @@ protected:
 };
 
 /// Each test begins in the text field, into which something was typed.
-class FieldGuardTest : public ScreenTest<Probe> {
-protected:
+struct FieldGuardTest : ScreenTest<Probe> {
   FieldGuardTest() { start(); }
 
   void start() {
@@ -86,7 +85,7 @@ TEST_F(FieldGuardTest, LeftOnceByTabAlsoUntypedAndByClosingBeforeTheClosingSteps
   start();
   form->close();
   EXPECT_EQ(form->log, "text=83,5 save");
-  EXPECT_TRUE(test.hasFile(QStringLiteral("TopLeft.dat")));
+  EXPECT_TRUE(test.hasFile("TopLeft.dat"));
 }
 
 TEST_F(FieldGuardTest, NotLeftForPopupsHiddenWindowsOrOtherPrograms) {
@@ -176,10 +175,10 @@ TEST_F(FieldGuardTest, SizeOfTheWindowIsKept) {
 
 // A number is typed over the one that stands there; a press into what has the focus is meant for a place in it.
 TEST_F(FieldGuardTest, FirstPressSelectsAllTheSecondPlacesTheCursor) {
-  form->other->setText(QStringLiteral("0"));
+  form->other->setText("0");
   for (const auto &[typed, content] : {std::pair("25", "25"), {"7", "257"}}) {
     QTest::mouseClick(form->other, Qt::LeftButton, {}, {form->other->width() - 5, form->other->height() / 2});
     keys(typed);
-    EXPECT_EQ(form->other->text(), QLatin1String(content));
+    EXPECT_EQ(form->other->text(), content);
   }
 }

@@ -11,16 +11,16 @@ namespace {
 /// A field and a button.
 class Plain : public Screen {
 public:
-  Plain(Desk &desk, Store &) : Screen(desk, QStringLiteral("Plain"), 7) {
+  Plain(Desk &desk, Store &) : Screen(desk, "Plain", 7) {
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(field);
     layout->addWidget(button);
-    field->setObjectName(QStringLiteral("Text1"));
-    button->setObjectName(QStringLiteral("Command1"));
+    field->setObjectName("Text1");
+    button->setObjectName("Command1");
     setUp();
   }
   QLineEdit *field = new QLineEdit;
-  QPushButton *button = new QPushButton(QStringLiteral("fertig"));
+  QPushButton *button = new QPushButton("fertig");
 };
 
 using HintLineTest = ScreenTest<Plain>;
@@ -36,12 +36,12 @@ TEST_F(HintLineTest, TellsWhatTheRulesSayOnceTheScreenIsIdle) {
   QString typed;
   desk.hints().rules = [&](const QString &screen, const ShownValues &shown) -> QList<Hint> {
     ++asked;
-    EXPECT_EQ(screen, QStringLiteral("Plain"));
-    typed = shown[QStringLiteral("Text1")];
-    EXPECT_EQ(shown[QStringLiteral("Fokus")] + shown[QStringLiteral("Command1")], QStringLiteral("Text11"));
+    EXPECT_EQ(screen, "Plain");
+    typed = shown["Text1"];
+    EXPECT_EQ(shown["Fokus"] + shown["Command1"], "Text11");
     if (typed.isEmpty())
       return {};
-    return {{QStringLiteral("eins"), QStringLiteral("Text1")}, {QStringLiteral("zwei"), {}}};
+    return {{"eins", "Text1"}, {"zwei", {}}};
   };
   open();
   form->field->setFocus();
@@ -54,18 +54,18 @@ TEST_F(HintLineTest, TellsWhatTheRulesSayOnceTheScreenIsIdle) {
   EXPECT_EQ(asked, 0);
   ASSERT_TRUE(QTest::qWaitFor([&] { return asked > 0; }));
   EXPECT_EQ(asked, 1);
-  EXPECT_EQ(typed, QStringLiteral("abc"));
-  EXPECT_EQ(line->text(), QStringLiteral("(1 von 2) eins"));
-  EXPECT_EQ(line->accessibleDescription(), QStringLiteral("eins\nzwei"));
+  EXPECT_EQ(typed, "abc");
+  EXPECT_EQ(line->text(), "(1 von 2) eins");
+  EXPECT_EQ(line->accessibleDescription(), "eins\nzwei");
   EXPECT_NE(edgeOf(form->field), plain);
   key(Qt::Key_F2);
-  EXPECT_EQ(line->text(), QStringLiteral("(2 von 2) zwei"));
+  EXPECT_EQ(line->text(), "(2 von 2) zwei");
   desk.hints().renew();
-  EXPECT_EQ(line->text(), QStringLiteral("(2 von 2) zwei"));
+  EXPECT_EQ(line->text(), "(2 von 2) zwei");
   QTest::mouseClick(find("Hinweis"), Qt::LeftButton);
-  EXPECT_EQ(line->text(), QStringLiteral("(1 von 2) eins"));
-  desk.setHint(QStringLiteral("Sicherung"));
-  EXPECT_EQ(line->text(), QStringLiteral("(2 von 3) eins")); // the one on show stays
+  EXPECT_EQ(line->text(), "(1 von 2) eins");
+  desk.setHint("Sicherung");
+  EXPECT_EQ(line->text(), "(2 von 3) eins"); // the one on show stays
   EXPECT_TRUE(form->field->hasFocus());
   form->field->clear();
   desk.setHint({});

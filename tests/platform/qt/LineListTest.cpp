@@ -12,9 +12,8 @@
 
 namespace {
 
-const QStringList Lines{QStringLiteral("HUBER Anna   --- SC Eins") + QString(20, QLatin1Char(' ')) +
-                            QStringLiteral("0001000012"),
-                        QStringLiteral("MAIR Eva        7")};
+const QStringList Lines{QString("HUBER Anna   --- SC Eins") + QString(20, u' ') + QString("0001000012"),
+                        "MAIR Eva        7"};
 
 QString copied(LineList &list, int line) {
   list.choose(line);
@@ -27,11 +26,11 @@ QString copied(LineList &list, int line) {
 TEST(LineListCopy, TakesTheChosenLineOrAllOfThemAsTheyAreKnown) {
   LineList list;
   list.fill(Lines);
-  EXPECT_EQ(copied(list, 1), QStringLiteral("MAIR Eva\t7"));
+  EXPECT_EQ(copied(list, 1), "MAIR Eva\t7");
   list.hideNumbers();
-  EXPECT_EQ(copied(list, 0), QStringLiteral("HUBER Anna\t--- SC Eins"));
+  EXPECT_EQ(copied(list, 0), "HUBER Anna\t--- SC Eins");
   bool asked = false;
-  list.addAction(QStringLiteral("eigenes"), [&asked] { asked = true; });
+  list.addAction("eigenes", [&asked] { asked = true; });
   QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, list.mapToGlobal(QPoint(5, 5)));
   QApplication::sendEvent(list.viewport(), &event);
   auto *menu = list.findChild<QMenu *>();
@@ -40,5 +39,5 @@ TEST(LineListCopy, TakesTheChosenLineOrAllOfThemAsTheyAreKnown) {
   EXPECT_TRUE(asked);
   ASSERT_EQ(menu->actions().size(), 4);
   menu->actions()[2]->trigger();
-  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("HUBER Anna\t--- SC Eins\nMAIR Eva"));
+  EXPECT_EQ(QApplication::clipboard()->text(), "HUBER Anna\t--- SC Eins\nMAIR Eva");
 }

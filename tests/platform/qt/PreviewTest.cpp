@@ -23,17 +23,14 @@ Recording document(const char *name, int pages) {
   return recording;
 }
 
-class PreviewTest : public testing::Test {
-protected:
+struct PreviewTest : testing::Test {
   PreviewTest() { preview.offer(*fake.printers); }
   void print(const Recording &recording) { preview.printer().print(recording); }
-  QString position() { return preview.findChild<QLabel *>(QStringLiteral("Seite"))->text(); }
-  void press(const char *button) {
-    QTest::mouseClick(preview.findChild<QPushButton *>(QLatin1String(button)), Qt::LeftButton);
-  }
+  QString position() { return preview.findChild<QLabel *>("Seite")->text(); }
+  void press(const char *button) { QTest::mouseClick(preview.findChild<QPushButton *>(button), Qt::LeftButton); }
   PreviewPages *pages() { return preview.findChild<PreviewPages *>(); }
 
-  QLabel *file() { return preview.findChild<QLabel *>(QStringLiteral("letzteDatei")); }
+  QLabel *file() { return preview.findChild<QLabel *>("letzteDatei"); }
 
   FakePrinters fake;
   Preview preview;
@@ -44,19 +41,19 @@ protected:
 TEST_F(PreviewTest, ShowsThePagesAndTurnsThem) {
   print(document("Liste", 3));
   EXPECT_TRUE(preview.isVisible());
-  EXPECT_EQ(position(), QStringLiteral("Seite 1 von 3"));
+  EXPECT_EQ(position(), "Seite 1 von 3");
   QTest::keyClick(pages(), Qt::Key_PageDown);
-  EXPECT_EQ(position(), QStringLiteral("Seite 2 von 3"));
+  EXPECT_EQ(position(), "Seite 2 von 3");
   press("vor");
   press("groesser");
   press("seite");
-  EXPECT_EQ(position(), QStringLiteral("Seite 3 von 3"));
+  EXPECT_EQ(position(), "Seite 3 von 3");
   EXPECT_EQ(pages()->horizontalScrollBar()->maximum(), 0);
   press("breite");
-  EXPECT_EQ(position(), QStringLiteral("Seite 3 von 3"));
+  EXPECT_EQ(position(), "Seite 3 von 3");
   QTest::keyClick(pages(), Qt::Key_Home);
   press("zurueck");
-  EXPECT_EQ(position(), QStringLiteral("Seite 1 von 3"));
+  EXPECT_EQ(position(), "Seite 1 von 3");
   const QImage seen = pages()->viewport()->grab().toImage();
   EXPECT_EQ(seen.pixelColor(seen.width() / 2, int(14 + (seen.width() - 28) / 210.0 * 129)), QColor(Qt::red));
 }
@@ -64,17 +61,17 @@ TEST_F(PreviewTest, ShowsThePagesAndTurnsThem) {
 TEST_F(PreviewTest, AppendsWhileItIsOpenAndStartsAnewAfterClosing) {
   print(document("Urkunde", 1));
   print(document("Urkunde", 1));
-  EXPECT_EQ(position(), QStringLiteral("Seite 1 von 2"));
+  EXPECT_EQ(position(), "Seite 1 von 2");
   QCoreApplication::processEvents(); // the printing is over
   print(document("Liste", 2));
-  EXPECT_EQ(position(), QStringLiteral("Seite 3 von 4"));
-  preview.findChild<QPushButton *>(QStringLiteral("vor"))->setFocus();
+  EXPECT_EQ(position(), "Seite 3 von 4");
+  preview.findChild<QPushButton *>("vor")->setFocus();
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_End);
-  EXPECT_EQ(position(), QStringLiteral("Seite 4 von 4"));
+  EXPECT_EQ(position(), "Seite 4 von 4");
   QTest::keyClick(pages(), Qt::Key_Escape);
   EXPECT_FALSE(preview.isVisible());
   print(document("Liste", 1));
-  EXPECT_EQ(position(), QStringLiteral("Seite 1 von 1"));
+  EXPECT_EQ(position(), "Seite 1 von 1");
 }
 
 TEST_F(PreviewTest, SendsEveryDocumentToAnotherPrinter) {
@@ -84,9 +81,9 @@ TEST_F(PreviewTest, SendsEveryDocumentToAnotherPrinter) {
   Q_EMIT menu->aboutToShow();
   ASSERT_EQ(menu->actions().size(), 2);
   menu->actions()[1]->trigger();
-  EXPECT_EQ(fake.usedPrinters, (QStringList{QStringLiteral("Alt"), QStringLiteral("Alt")}));
+  EXPECT_EQ(fake.usedPrinters, (QStringList{"Alt", "Alt"}));
   EXPECT_EQ(fake.documents[1].pages.size(), 2);
-  EXPECT_EQ(file()->text(), QStringLiteral("Liste.pdf"));
+  EXPECT_EQ(file()->text(), "Liste.pdf");
   fake.refuse = true;
   QTimer::singleShot(100, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
   menu->actions()[1]->trigger();
@@ -95,10 +92,10 @@ TEST_F(PreviewTest, SendsEveryDocumentToAnotherPrinter) {
 
 TEST_F(PreviewTest, MoreForTheRaceOfTheLastDocumentIsToldWhenItFails) {
   int asked = 0;
-  preview.offer({QStringLiteral("mehr"), [](int race) { return race == 2; },
+  preview.offer({"mehr", [](int race) { return race == 2; },
                  [&](int race) {
                    asked = race;
-                   throw Fault(QStringLiteral("Geht nicht."));
+                   throw Fault("Geht nicht.");
                  }});
   auto *menu = preview.findChild<QMenu *>();
   for (const int race : {1, 2}) {
