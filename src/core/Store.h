@@ -138,8 +138,8 @@ struct Store {
 
   /// Called by RennDatenSpeichern before the first and after the last file.
   std::function<void()> vorDemSpeichern = [] {}, nachDemSpeichern = [] {};
-  /// Called before the first and after the last file of a race that is written as a whole new one, perhaps over
-  /// another.
+  /// Called before the first and after the last file of what is written all or none: a whole new race, perhaps over
+  /// another; registers.
   std::function<void(const RaceImage &)> vorDemErsetzen = [](const RaceImage &) {};
   std::function<void()> nachDemErsetzen = [] {};
 };

@@ -3,11 +3,9 @@
 #include "core/RecordFiles.h"
 #include "core/StateFiles.h"
 #include "exchange/Likeness.h"
-#include "masterdata/AthleteRegister.h"
-#include "masterdata/ClubRegister.h"
-#include "platform/CodePage.h"
-#include "platform/Numbers.h"
+#include "platform/Files.h"
 #include "raceprep/ParticipantList.h"
+#include "safety/RaceImage.h"
 
 #include <algorithm>
 #include <utility>
@@ -46,18 +44,48 @@ private:
   QStringList m_written;
 };
 
-/// Writes the records of a plan and takes them back if the disk refuses one.
-class Writer {
+/// A file with records put at their places, as RecordFile::write puts them.
+template <typename Satz>
+SavedFile withRecords(const RecordFile &file, const QList<std::pair<int, Satz>> &records, int length) {
+  QByteArray bytes = readIfThere(file.path(), LargestRecordFile).value_or(QByteArray());
+  for (const auto &[n, record] : records) {
+    const qsizetype at = qsizetype(n - 1) * length;
+    if (bytes.size() < at + length)
+      bytes.append(at + length - bytes.size(), '\0');
+    bytes.replace(at, length, toBytes(record));
+  }
+  return {file.path().section(QLatin1Char('/'), -1), bytes};
+}
+
+/// The records that a plan makes: known before the first is written.
+class NewRecords {
 public:
-  Writer(Store &store, const EntryPlan &plan) : m_store(store), m_plan(plan), m_before(zustand(store)) {}
+  NewRecords(Store &store, const EntryPlan &plan)
+      : m_store(store), m_plan(plan), m_before(zustand(store)), m_counts(m_before) {
+    makeClubs();
+    makeAthletes();
+  }
 
   /// The record number of each line of the plan; 0 for those that are not taken.
-  QList<int> write() {
+  const QList<int> &ofLines() const { return m_ofLines; }
+  bool isEmpty() const { return m_clubs.isEmpty() && m_athletes.isEmpty(); }
+  /// The files as they will be.
+  QList<SavedFile> files() const {
+    return {withRecords(m_store.VereinDatei, m_clubs, VereinLaenge),
+            withRecords(m_store.LaeuferDatei, m_athletes, LaeuferLaenge),
+            {QStringLiteral("Vext.dat"), toBytes(m_counts)}};
+  }
+
+  /// Takes all back if the disk refuses one.
+  void write() const {
+    const QList<std::pair<int, QByteArray>> reused = reusedRecords();
     try {
-      makeClubs();
-      return makeAthletes();
+      for (const auto &[n, club] : m_clubs)
+        VereinSchreiben(m_store, n, club);
+      for (const auto &[n, athlete] : m_athletes)
+        LaeuferSchreiben(m_store, n, athlete);
     } catch (const Fault &) {
-      takeBack();
+      takeBack(reused);
       throw;
     }
   }
@@ -65,35 +93,29 @@ public:
 private:
   void makeClubs() {
     for (auto club = m_plan.unknownClubs.constBegin(); club != m_plan.unknownClubs.constEnd(); ++club)
-      if (club->club == ClubAnswer::MakeNew)
-        m_clubs.insert(club.key(), makeClub(club->text));
-  }
-
-  int makeClub(const QString &name) {
-    const int n = nextClub(m_store, m_store.VereinAnzahl, name).value_or(0);
-    storeClubField(m_store, n, &VereinSatz::VereinName, name);
-    storeClubField(m_store, n, &VereinSatz::VereinKurz, name);
-    return n;
+      if (club->club == ClubAnswer::MakeNew) {
+        VereinSatz record = VereinLeeren(m_store);
+        record.VereinName = record.VereinKurz = club->text;
+        m_clubs.append({++m_counts.VereinAnzahl, record});
+        m_numbers.insert(club.key(), m_counts.VereinAnzahl);
+      }
   }
 
   // Those behind the last record come first: they are not to be seen before the count has risen, and a disk that is
   // full refuses them. The others take no new room.
-  QList<int> makeAthletes() {
-    QList<int> numbers, newLines;
+  void makeAthletes() {
+    QList<int> newLines;
     for (const PlannedEntry &line : m_plan.lines) {
       const bool isNew = m_plan.isTaken(line) && line.choice == Choice::New;
       if (isNew)
-        newLines << int(numbers.size());
-      numbers << (m_plan.isTaken(line) && !isNew ? line.record : 0);
+        newLines << int(m_ofLines.size());
+      m_ofLines << (m_plan.isTaken(line) && !isNew ? line.record : 0);
     }
     const QList<int> free = freeRecords(newLines.size());
     for (qsizetype i = free.size(); i < newLines.size(); ++i)
-      fill(numbers[newLines[i]] = append(), m_plan.lines[newLines[i]].entry);
-    for (qsizetype i = 0; i < free.size(); ++i) {
-      m_taken.append({free[i], m_store.LaeuferDatei.read(free[i])});
-      fill(numbers[newLines[i]] = free[i], m_plan.lines[newLines[i]].entry);
-    }
-    return numbers;
+      add(newLines[i], ++m_counts.LaeuferAnzahl, LaeuferLeeren(m_store));
+    for (qsizetype i = 0; i < free.size(); ++i)
+      add(newLines[i], free[i], LaeuferLesen(m_store, free[i]));
   }
 
   QList<int> freeRecords(qsizetype most) const {
@@ -104,34 +126,36 @@ private:
     return free;
   }
 
-  int append() {
-    const int n = ++m_store.LaeuferAnzahl;
-    LaeuferSchreiben(m_store, n, LaeuferLeeren(m_store));
-    return n;
-  }
-
-  void fill(int n, const Entry &entry) {
-    changeAthlete(m_store, n, [&](LaeuferSatz &athlete) {
-      const QByteArray reserve = athlete.LaeuferReserve;
-      athlete = entry.athlete;
-      athlete.LaeuferReserve = reserve;
-      athlete.Verein1 = clubOf(entry.clubs[0]);
-      athlete.Verein2 = clubOf(entry.clubs[1]);
-      athlete.Verein3 = clubOf(entry.clubs[2]);
-    });
+  void add(int line, int n, const LaeuferSatz &before) {
+    const Entry &entry = m_plan.lines[line].entry;
+    LaeuferSatz athlete = entry.athlete;
+    athlete.LaeuferReserve = before.LaeuferReserve;
+    athlete.Verein1 = clubOf(entry.clubs[0]);
+    athlete.Verein2 = clubOf(entry.clubs[1]);
+    athlete.Verein3 = clubOf(entry.clubs[2]);
+    m_athletes.append({n, athlete});
+    m_ofLines[line] = n;
   }
 
   qint16 clubOf(const QString &text) const {
     const int club = m_plan.club(text);
-    return qint16(club == ClubAnswer::MakeNew ? m_clubs.value(foldedClub(text)) : club);
+    return qint16(club == ClubAnswer::MakeNew ? m_numbers.value(foldedClub(text)) : club);
+  }
+
+  QList<std::pair<int, QByteArray>> reusedRecords() const {
+    QList<std::pair<int, QByteArray>> reused;
+    for (const auto &[n, athlete] : m_athletes)
+      if (n <= m_before.LaeuferAnzahl)
+        reused.append({n, m_store.LaeuferDatei.read(n)});
+    return reused;
   }
 
   // What lies behind the counts is never looked at.
-  void takeBack() noexcept {
+  void takeBack(const QList<std::pair<int, QByteArray>> &reused) const noexcept {
     m_store.LaeuferAnzahl = m_before.LaeuferAnzahl;
     m_store.VereinAnzahl = m_before.VereinAnzahl;
     const std::scoped_lock lock(m_store.umgebung.writing);
-    for (const auto &[n, record] : std::as_const(m_taken))
+    for (const auto &[n, record] : reused)
       try {
         m_store.LaeuferDatei.write(n, record);
       } catch (const Fault &) { // the disk takes nothing any more
@@ -141,8 +165,12 @@ private:
   Store &m_store;
   const EntryPlan &m_plan;
   const Zustand m_before;
-  QHash<QString, int> m_clubs;
-  QList<std::pair<int, QByteArray>> m_taken;
+  Zustand m_counts;
+  QList<std::pair<int, VereinSatz>> m_clubs;
+  QList<std::pair<int, LaeuferSatz>> m_athletes;
+  QList<int> m_ofLines;
+  /// Of the new clubs, by their folded names.
+  QHash<QString, int> m_numbers;
 };
 
 int freeRows(const Store &store) {
@@ -186,19 +214,37 @@ void enter(Store &store, int record, int club) {
     addParticipant(store, record, clubs.count, clubs.lastSlot);
 }
 
-} // namespace
-
-void takeOver(Store &store, const EntryPlan &plan, bool race) {
-  if (race)
-    requireRoom(store, plan);
-  Batch batch(store.umgebung);
-  const QList<int> records = Writer(store, plan).write();
-  batch.finish();
-  if (!race)
-    return;
+void enterAll(Store &store, const EntryPlan &plan, const QList<int> &records) {
   for (qsizetype i = 0; i < records.size(); ++i) {
     const LaeuferSatz athlete = records[i] > 0 ? LaeuferLesen(store, records[i]) : LaeuferSatz();
     const int club = plan.club(plan.lines[i].entry.clubs[0]);
     enter(store, records[i], club == ClubAnswer::MakeNew ? athlete.Verein1 : club);
   }
+}
+
+// From now to `nachDemErsetzen` a death leaves what the next start can finish or take back.
+void writeRecords(Store &store, const NewRecords &records) {
+  store.vorDemErsetzen(replacingRegisters(store, records.files()));
+  Batch batch(store.umgebung);
+  try {
+    records.write();
+  } catch (const Fault &) {
+    store.nachDemErsetzen();
+    throw;
+  }
+  batch.finish();
+}
+
+} // namespace
+
+void takeOver(Store &store, const EntryPlan &plan, bool race) {
+  if (race)
+    requireRoom(store, plan);
+  const NewRecords records(store, plan);
+  if (!records.isEmpty())
+    writeRecords(store, records);
+  if (race)
+    enterAll(store, plan, records.ofLines());
+  if (!records.isEmpty())
+    store.nachDemErsetzen();
 }

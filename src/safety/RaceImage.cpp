@@ -63,7 +63,8 @@ std::optional<QByteArray> recordOnDisk(const Store &store, int race) {
 }
 
 std::optional<QByteArray> onDisk(const RaceImage &image, const SavedFile &file, const Store &store) {
-  return isRecord(image, file) ? recordOnDisk(store, image.race) : readIfThere(store.DatenOrdner + file.name);
+  return isRecord(image, file) ? recordOnDisk(store, image.race)
+                               : readIfThere(store.DatenOrdner + file.name, LargestRecordFile);
 }
 
 QByteArray trimmedRecord(const QByteArray &record) {
@@ -146,6 +147,12 @@ void keepBefore(const RaceImage &image, const SavedFile &file, const QString &fo
     replaceFile(before, *bytes, Access::Private);
 }
 
+void keepOld(RaceImage &image, const Store &store) {
+  for (const auto &file : std::as_const(image.files))
+    if (const auto before = onDisk(image, file, store))
+      image.before->append({file.name, *before});
+}
+
 const SavedFile *fileBefore(const RaceImage &image, const QString &name) {
   const auto found = std::find_if(image.before->begin(), image.before->end(),
                                   [&](const SavedFile &file) { return file.name == name; });
@@ -202,9 +209,13 @@ RaceImage replacingImage(const Store &store, int race, const QList<RaceFile> &fi
   RaceImage image{race, {{recordCopyName(race), toBytes(record)}}, QList<SavedFile>()};
   for (const auto &file : files)
     image.files.append({nameInFolder(store, file.letter, race), file.bytes});
-  for (const auto &file : std::as_const(image.files))
-    if (const auto before = onDisk(image, file, store))
-      image.before->append({file.name, *before});
+  keepOld(image, store);
+  return image;
+}
+
+RaceImage replacingRegisters(const Store &store, const QList<SavedFile> &files) {
+  RaceImage image{RaceImage::NoRace, files, QList<SavedFile>()};
+  keepOld(image, store);
   return image;
 }
 

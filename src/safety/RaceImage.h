@@ -15,9 +15,11 @@ struct RaceImage {
   /// The race to which R, M, G, K, Z files and record belong.
   int race = NoRace;
   QList<SavedFile> files;
-  /// Only of a race that is written as a whole new one: what these files held before; a file that is not in it did not
-  /// exist.
+  /// Only of files that are written all or none: what they held before; a file that is not in it did not exist.
   std::optional<QList<SavedFile>> before;
+
+  /// Whether these are registers, so that the work on the open race stands in another image.
+  bool ofRegisters() const { return before && race == NoRace; }
 
   bool operator==(const RaceImage &) const = default;
 };
@@ -37,6 +39,9 @@ RaceImage workImage(const Store &store, const QList<SavedFile> &screens);
 
 /// A race that is about to be written as a whole new one, with what stands in its place now.
 RaceImage replacingImage(const Store &store, int race, const QList<RaceFile> &files, const RennenSatz &record);
+
+/// The same of record files and Vext.dat, whole, as they will be.
+RaceImage replacingRegisters(const Store &store, const QList<SavedFile> &files);
 
 /// Writes all files into a new folder of the user's own; they are on the disk, or a FileFault.
 void writeImage(const RaceImage &image, const QString &folder);

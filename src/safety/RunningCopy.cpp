@@ -55,7 +55,7 @@ QList<QByteArray> readManifest(const QString &copy) {
 
 std::optional<QByteArray> bytesMatching(const QByteArray &line, const QString &path) {
   try {
-    auto bytes = readIfThere(path);
+    auto bytes = readIfThere(path, LargestRecordFile);
     return bytes && line.startsWith(hashOf(*bytes)) ? bytes : std::nullopt;
   } catch (const Fault &) {
     return {};
@@ -127,7 +127,7 @@ QList<RunningCopy::Found> RunningCopy::leftBehind() {
   for (const auto &copy : std::as_const(copies))
     if (!copy.isWhole())
       putAside(copy.folder);
-    else if (left.isEmpty())
+    else if (left.isEmpty() || (left.last().image.ofRegisters() && !copy.image.ofRegisters()))
       left << copy;
     else
       discard(copy.folder);
@@ -162,6 +162,8 @@ void RunningCopy::write(const RaceImage &image) {
   const QString copy = QStringLiteral("%1/%2").arg(m_folder).arg(next, 8, 10, QLatin1Char('0'));
   moveFolder(unfinished, copy);
   m_last = copy;
+  if (image.ofRegisters())
+    return;
   for (const auto &name : std::as_const(before))
     discardIfPossible(m_folder + QLatin1Char('/') + name);
 }

@@ -6,8 +6,9 @@
 
 /// The copy of the work that is renewed while the operator types, in the folder "Laufend". Each is made whole beside
 /// the one before, takes its place by a rename, and only then the one before goes; so at any moment a whole one is
-/// there. A manifest tells what belongs to it, with hashes. What cannot be read whole is put aside, never deleted, and
-/// looked at again at each start.
+/// there; beside one of registers the one before stays, as it holds the work on the open race. A manifest tells what
+/// belongs to it, with hashes. What cannot be read whole is put aside, never deleted, and looked at again at each
+/// start.
 class RunningCopy {
 public:
   /// A copy as a run that died has left it.
@@ -29,8 +30,9 @@ public:
   explicit RunningCopy(const QString &folder);
 
   /// To be called once, before the first `write`: what died runs have left and nobody has answered yet, the newest
-  /// whole copy first. Copies that are damaged, also those of earlier starts, are put aside; a folder that cannot be
-  /// read at all, too. A FileFault if not even that is possible; then no copy may be written.
+  /// whole copy first, with the one before if it is of registers. Copies that are damaged, also those of earlier
+  /// starts, are put aside; a folder that cannot be read at all, too. A FileFault if not even that is possible; then no
+  /// copy may be written.
   QList<Found> leftBehind();
   /// The operator has answered, or there was no news in it: a whole copy goes, a damaged one is not offered again
   /// unless more of it can be read.

@@ -70,6 +70,15 @@ QString whatHappened(const RunningCopy::Found &found) {
   return text;
 }
 
+QString whatIsHalf(const RaceImage &image) {
+  if (image.ofRegisters())
+    return QStringLiteral(
+        "Dabei wurden gerade Meldungen in die Register übernommen; deren Dateien sind jetzt halb alt, "
+        "halb neu");
+  return QStringLiteral("Dabei wurde gerade %1 neu geschrieben; ihre Dateien sind jetzt halb alt, halb neu")
+      .arg(raceTitle(image).replace(QStringLiteral("der "), QStringLiteral("die ")));
+}
+
 QString noteText(const RaceImage &image) {
   const QString note = noteIn(image).trimmed();
   return note.isEmpty() ? QString() : QStringLiteral("\n\nNoch nicht eingetragen war:\n") + note;
@@ -299,8 +308,8 @@ void Safety::copyBeforeSave() {
     waitAtSave();
 }
 
-// What the race takes the place of must be in a safety copy, and the race itself in a running copy, before the first
-// byte is written.
+// What is replaced must be in a safety copy, and what takes its place in a running copy, before the first byte is
+// written.
 void Safety::beginReplacing(const RaceImage &image) {
   waitAtSave();
   m_copier.wait();
@@ -313,8 +322,10 @@ void Safety::beginReplacing(const RaceImage &image) {
   m_replacing = m_runningTrouble.get().isEmpty();
 }
 
+// The next copy takes the place of that one at once: what is typed from now on must not look like half of it.
 void Safety::endReplacing() {
   m_replacing = false;
+  tick();
   m_copySoon.start(0ms);
 }
 
@@ -365,10 +376,9 @@ Safety::Offer Safety::offerReplaced(const RunningCopy::Found &found) {
     };
   };
   return {whatHappened(found) +
-              QStringLiteral("\n\nDabei wurde gerade %1 neu geschrieben; ihre Dateien sind jetzt halb alt, halb neu: "
-                             "%2.\n\n„Fertigstellen“ schreibt den Rest. „Zurücknehmen“ stellt her, was vorher da war.")
-                  .arg(raceTitle(found.image).replace(QStringLiteral("der "), QStringLiteral("die ")),
-                       namesOf(found.image.files)),
+              QStringLiteral("\n\n%1: %2.\n\n„Fertigstellen“ schreibt den Rest. „Zurücknehmen“ stellt her, was vorher "
+                             "da war.")
+                  .arg(whatIsHalf(found.image), namesOf(found.image.files)),
           QStringLiteral("Fertigstellen"), QStringLiteral("Zurücknehmen"), answer(finishReplacing),
           answer(takeBackReplacing)};
 }

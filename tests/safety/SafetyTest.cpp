@@ -1,6 +1,8 @@
 #include "safety/Safety.h"
 
 #include "core/RaceFiles.h"
+#include "core/StateFiles.h"
+#include "exchange/TakeOver.h"
 #include "platform/Faults.h"
 #include "platform/Files.h"
 #include "raceprep/RaceCopy.h"
@@ -301,6 +303,56 @@ TEST_F(SafetyOfARace, AHalfCopyOverARaceIsFinishedOrTakenBack) {
     alleDateienOeffnen(store);
     run();
   }
+}
+
+// Entries fill a free record, add one behind it and a club, and die at any point; a time that was typed before is
+// offered all the same.
+TEST_F(SafetyOfARace, HalfTakenEntriesAreFinishedOrTakenBack) {
+  test.addAthlete(QString(), 1950, 1);
+  const QStringList names{QStringLiteral("Verein.rec"), QStringLiteral("Laeufer.rec"), QStringLiteral("Vext.dat")};
+  const auto files = [&] { return QList{test.file(names[0]), test.file(names[1]), test.file(names[2])}; };
+  const auto put = [&](const QList<QByteArray> &bytes) {
+    for (qsizetype i = 0; i < names.size(); ++i)
+      test.writeFile(names[i], bytes[i]);
+  };
+  const auto before = files();
+  const auto take = [&] {
+    const Table table = tableFrom("Name;Jg;Verein\nNeu Udo;2012;SC X\nAlt Ida;2011;SC X\n", QStringLiteral("M.csv"));
+    EntryPlan plan = planFor(store, entriesOf(table, recognisedColumns(table), QDate(2026, 1, 15)));
+    plan.unknownClubs.first().club = ClubAnswer::MakeNew;
+    store.nachDemErsetzen = [] {};
+    takeOver(store, plan, false);
+  };
+  take();
+  const auto after = files();
+  const QByteArray appended = before[1] + after[1].mid(before[1].size());
+  const QList<QList<QByteArray>> deaths{before,
+                                        {after[0], before[1], before[2]},
+                                        {after[0], appended.chopped(100), before[2]},
+                                        {after[0], appended, before[2]},
+                                        {after[0], after[1], before[2]},
+                                        after};
+  double time = 60;
+  for (const auto &death : deaths)
+    for (const bool finish : {true, false}) {
+      SCOPED_TRACE(testing::Message() << deaths.indexOf(death) << finish);
+      put(before);
+      ZustandLesen(store);
+      alleDateienOeffnen(store);
+      run();
+      type(++time);
+      take();
+      put(death);
+      const auto asked = offers();
+      const bool half = death != before && death != after;
+      ASSERT_EQ(asked.size(), half ? 2 : 1);
+      EXPECT_TRUE(asked.last().text.contains(QStringLiteral("R 1.dat"))) << asked.last().text.toStdString();
+      asked.last().declined();
+      if (half)
+        (finish ? asked[0].accepted : asked[0].declined)();
+      EXPECT_EQ(files(), half ? finish ? after : before : death);
+      EXPECT_FALSE(startAgain());
+    }
 }
 
 TEST_F(SafetyOfARace, CountsThatVextDatLostComeFromTheSafetyCopy) {
