@@ -40,24 +40,25 @@ Columns columns() {
           column("nachher", 168, After)};
 }
 
-QByteArray linesOfRace(const QByteArray &journal, int race) {
-  QByteArray lines;
-  for (const QByteArray &line : journal.split('\n'))
-    if (line.split(';').value(Race) == QByteArray::number(race))
-      lines += line + '\n';
-  return lines;
+// Each line for itself: one that was cut off has fewer fields, or cannot be read, and spoils no other.
+QStringList fieldsOf(const QByteArray &line, const QString &name) {
+  try {
+    QStringList fields = tableFrom(line, name).lines.first();
+    fields.resize(std::max<qsizetype>(fields.size(), Fields));
+    return fields;
+  } catch (const TableFault &) {
+    return {};
+  }
 }
 
 // The newest first, in the file and of the days.
 QList<Entry> entriesOfDay(const QString &path, const QString &name, int race) {
-  const QByteArray lines = linesOfRace(readFile(path), race);
-  if (lines.isEmpty())
-    return {};
-  const QDate date = QDate::fromString(name.left(DateLength), Qt::ISODate);
+  const QString day = QDate::fromString(name.left(DateLength), Qt::ISODate).toString(QStringLiteral("dd.MM."));
   QList<Entry> entries;
-  for (const QStringList &fields : tableFrom(lines, name).lines)
-    if (fields.size() == Fields)
-      entries.prepend({date.toString(QStringLiteral("dd.MM.")), fields});
+  for (const QByteArray &line : readFile(path).split('\n'))
+    if (line.split(';').value(Race) == QByteArray::number(race))
+      if (const QStringList fields = fieldsOf(line, name); fields.size() == Fields)
+        entries.prepend({day, fields});
   return entries;
 }
 
