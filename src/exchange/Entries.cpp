@@ -48,8 +48,11 @@ private:
 };
 
 QString nameOfLine(const Fields &field) {
-  const QString whole = field(Column::Name);
-  return whole.isEmpty() ? nameFromParts(field(Column::Family), field(Column::First)) : nameFromWhole(whole);
+  if (const QString whole = field(Column::Name); !whole.isEmpty())
+    return nameFromWhole(whole);
+  if (const QString whole = field(Column::FirstFamily); !whole.isEmpty())
+    return nameFromWhole(whole, true);
+  return nameFromParts(field(Column::Family), field(Column::First));
 }
 
 void takeBirth(Entry &entry, const QString &text, QDate today) {
@@ -103,7 +106,8 @@ int century(int twoDigits, QDate today) {
 
 std::optional<QDate> dateFrom(const QString &text, QDate today) {
   static const QRegularExpression iso(QStringLiteral("\\A(\\d{4})[-/.](\\d\\d?)[-/.](\\d\\d?)\\b"));
-  static const QRegularExpression german(QStringLiteral("\\A(\\d\\d?)[.,/-] ?(\\d\\d?)[.,/-] ?(\\d{4}|\\d\\d)\\z"));
+  static const QRegularExpression german(QStringLiteral("\\A(\\d\\d?)[.,/-] ?(\\d\\d?)[.,/-] ?(\\d{4}|\\d\\d)"
+                                                        "( \\d\\d?:[\\d:]+)?\\z"));
   QDate date;
   if (const auto found = iso.match(text); found.hasMatch())
     date = QDate(found.captured(1).toInt(), found.captured(2).toInt(), found.captured(3).toInt());
@@ -130,7 +134,7 @@ QList<Entry> entriesOf(const Table &table, const Columns &columns, QDate today) 
   return entries;
 }
 
-QString nameFromWhole(const QString &whole) {
+QString nameFromWhole(const QString &whole, bool familyLast) {
   if (const auto comma = whole.indexOf(QLatin1Char(',')); comma >= 0)
     return nameFromParts(whole.left(comma).trimmed(), whole.mid(comma + 1).trimmed());
   QStringList words = whole.split(QLatin1Char(' '), Qt::SkipEmptyParts), family;
@@ -142,7 +146,7 @@ QString nameFromWhole(const QString &whole) {
   std::copy_if(words.begin(), words.end(), std::back_inserter(family), isFamily);
   words.erase(std::remove_if(words.begin(), words.end(), isFamily), words.end());
   if (!capitalsTell && !words.isEmpty())
-    family << words.takeFirst();
+    family << (familyLast ? words.takeLast() : words.takeFirst());
   return nameFromParts(family.join(QLatin1Char(' ')), words.join(QLatin1Char(' ')));
 }
 

@@ -29,8 +29,8 @@ struct Entry {
 QList<Entry> entriesOf(const Table &table, const Columns &columns, QDate today);
 
 /// "FAMILIENNAME Vorname" of a whole name: words in capitals, or what stands before a comma, are the family's, else the
-/// first word; "von" and its like go with them.
-QString nameFromWhole(const QString &whole);
+/// first word, or the last if `familyLast`; "von" and its like go with them.
+QString nameFromWhole(const QString &whole, bool familyLast = false);
 QString nameFromParts(const QString &family, const QString &first);
 
 /// The birth date of a German or ISO date or of a year, in days; nothing if there is no such date, it is before 1900 or

@@ -16,22 +16,29 @@ struct Kind {
 constexpr std::array<Kind, ColumnKinds> Kinds{{
     {"–", ""},
     {"Name",
-     "name|teilnehmer|läufer|läuferin|sportler|starter|vorundnachname|nameundvorname|namevorname|familiennamevorname"},
+     "name|teilnehmer|läufer|läuferin|sportler|starter|nameundvorname|namevorname|familiennamevorname|nachnamevorname|"
+     "nachundvorname|zunamevorname|familiennameundvorname"},
+    {"Vor- und Familienname", "vorundnachname|vorundfamilienname|vorundzuname|vornamenachname|vornamefamilienname|"
+                              "vornameundnachname|vornameundfamilienname|vornamezuname|vornamename|fullname"},
     {"Familienname", "familienname|nachname|zuname|famname|lastname|surname|name1"},
     {"Vorname", "vorname|firstname|rufname|name2"},
-    {"Geburtsdatum", "geburtsdatum|gebdatum|geboren|geborenam|geb|gebdat|datum|geburtstag|dateofbirth|dob|jahrgang|jg|"
-                     "geburtsjahr|gebjahr|jahr|yearofbirth|yob|birthyear"},
-    {"Geschlecht", "geschlecht|sex|mw|wm|gender|g|dh|hd|geschl"},
-    {"Verein", "verein|club|klub|vereinsname|verein1|skiclub|schiclub|team"},
+    {"Geburtsdatum",
+     "geburtsdatum|gebdatum|geboren|geborenam|geb|gebdat|datum|geburtstag|dateofbirth|dob|jahrgang|jahrg|jg|"
+     "geburtsjahr|gebjahr|jahr|yearofbirth|yob|birthyear"},
+    {"Geschlecht", "geschlecht|sex|mw|wm|mwd|gender|g|dh|hd|geschl"},
+    {"Verein", "verein|club|klub|vereinsname|verein1|skiclub|schiclub|team|vereinmannschaft"},
     {"Verein 2", "verein2|zweitverein|2verein|zweiterverein"},
     {"Verein 3", "verein3|drittverein|3verein|dritterverein"},
-    {"ÖSV-Nummer", "ösvnummer|ösvnr|oesvnr|oesvnummer|ösv|lizenz|lizenznr|lizenznummer|code|mitgliedsnummer|nr"},
+    {"ÖSV-Nummer",
+     "ösvnummer|ösvnr|oesvnr|oesvnummer|ösv|lizenz|lizenznr|lizenznummer|ösvcode|oesvcode|code|mitgliedsnummer"},
     {"Punkte", "punkte|ösvpunkte|oesvpunkte|points|fispunkte|pkt"},
 }};
 
+// What stands in brackets explains.
 QString letters(const QString &heading) {
+  static const QRegularExpression explanation(QStringLiteral("(?<=.)[(\\[].*\\z"));
   QString text;
-  for (const QChar c : heading.toLower())
+  for (const QChar c : QString(heading).remove(explanation).toLower())
     if (c.isLetterOrNumber())
       text += c;
   return text;
@@ -106,7 +113,7 @@ Columns recognisedColumns(const Table &table) {
   for (const QString &heading : table.lines.first())
     columns.kinds << byHeading(heading);
   const bool named = std::any_of(columns.kinds.begin(), columns.kinds.end(), [](Column kind) {
-    return kind == Column::Name || kind == Column::Family || kind == Column::First;
+    return kind == Column::Name || kind == Column::FirstFamily || kind == Column::Family || kind == Column::First;
   });
   columns.heading = named;
   if (!named) {

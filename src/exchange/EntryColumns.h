@@ -3,8 +3,9 @@
 #include "exchange/TableReader.h"
 
 /// What a column of a table of entries may be.
-enum class Column { None, Name, Family, First, Birth, Sex, Club, Club2, Club3, OesvNr, Points };
-constexpr int ColumnKinds = 11;
+/// Name is a whole one with the family's first, FirstFamily one with it last.
+enum class Column { None, Name, FirstFamily, Family, First, Birth, Sex, Club, Club2, Club3, OesvNr, Points };
+constexpr int ColumnKinds = 12;
 
 /// The German name of a kind; "–" for None.
 QString nameOf(Column kind);

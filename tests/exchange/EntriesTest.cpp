@@ -34,6 +34,9 @@ TEST(EntryColumns, AreKnownByTheirHeadingsOrByWhatStandsInThem) {
       {"HUBER Anna;1.2.2012;w;SC X\nMAIR Eva;3.4.2011;w;\n", "ohne: Name Geburtsdatum Geschlecht Verein"},
       {"Huber;Anna;2012;SC X\nMair;Eva;2011;SC Y\n", "ohne: Familienname Vorname Geburtsdatum Verein"},
       {"Huber Anna\n", "ohne: Name"},
+      {"Nr.;Vor- und Nachname;Geschlecht (m/w);Geburtsdatum [TT.MM.JJJJ]\n",
+       "– Vor- und Familienname Geschlecht Geburtsdatum"},
+      {"St.Nr.;Name;Verein/Mannschaft;Jahrg.\n", "– Name Verein Geburtsdatum"},
       {"HUBER Anna;12,50;2012-02-01\n", "ohne: Name Punkte Geburtsdatum"},
   };
   for (const auto &[lines, kinds] : cases)
@@ -55,7 +58,9 @@ TEST(Entries, Names) {
       {"", ""},
   };
   for (const auto &[typed, name] : cases)
-    EXPECT_EQ(nameFromWhole(typed), name) << typed;
+    EXPECT_EQ(nameFromWhole(QString::fromUtf8(typed)), QString::fromUtf8(name)) << typed;
+  EXPECT_EQ(nameFromWhole(QStringLiteral("Anna Lena Huber"), true), QStringLiteral("HUBER Anna Lena"));
+  EXPECT_EQ(nameFromWhole(QStringLiteral("Jan van der Berg"), true), QStringLiteral("VAN DER BERG Jan"));
 }
 
 TEST(Entries, BirthDatesAndSexes) {
@@ -70,6 +75,8 @@ TEST(Entries, BirthDatesAndSexes) {
                                                   {"29.2.2013", {}},
                                                   {"1.2.2027", {}},
                                                   {"1.2.1899", {}},
+                                                  {"1.2.2012 00:00", {2012, 2, 1}},
+                                                  {"1.2.2012 x", {}},
                                                   {"abc", {}},
                                                   {"2012-02-01 00:00:00", {2012, 2, 1}},
                                                   {"1.13.2012", {}},
@@ -85,9 +92,9 @@ TEST(Entries, BirthDatesAndSexes) {
 }
 
 TEST(Entries, AreShownAsTheRegisterWillKeepThem) {
-  const Entry cut = entry("Name;Nr;Verein;Punkte;geb\nHuber Zoë Łucja;1234567890;SC;2.5;2012\n");
-  EXPECT_EQ(cut.athlete.Name, "HUBER Zoë ?ucja");
-  EXPECT_EQ(cut.athlete.OesvNr, "123456789");
+  const Entry cut = entry("Name;ÖSV-Nr;Verein;Punkte;geb\nHuber Zoë Łucja;1234567890;SC;2.5;2012\n");
+  EXPECT_EQ(cut.athlete.Name, QStringLiteral("HUBER Zoë ?ucja"));
+  EXPECT_EQ(cut.athlete.OesvNr, QStringLiteral("123456789"));
   EXPECT_EQ(cut.athlete.LaeuferPunkte, 2.5F);
   EXPECT_EQ(cut.remarks.size(), 3) << cut.remarks.join(u'|').toStdString(); // and no sex
   EXPECT_EQ(entry(("Name;Jg\n" + QByteArray(200, 'x') + ";2012\n").constData()).athlete.Name.size(), 80);
