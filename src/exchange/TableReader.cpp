@@ -78,6 +78,7 @@ public:
 
   Table table() {
     Table table;
+    qsizetype columns = 0;
     while (m_at < m_text.size()) {
       const int number = m_line;
       const QStringList fields = line();
@@ -87,6 +88,9 @@ public:
       table.numbers << number;
       if (table.lines.size() > MostLines)
         refuse(QStringLiteral("hat mehr als %1 Zeilen").arg(MostLines));
+      columns = std::max(columns, fields.size());
+      if (table.lines.size() * columns > MostFields)
+        refuse(QStringLiteral("hat mehr als %1 Felder").arg(MostFields));
     }
     return table;
   }

@@ -20,7 +20,7 @@ struct Table {
 
 // What a table of entries can never need; beyond it a file is refused before it fills the memory.
 constexpr qint64 LargestTable = 16 << 20; // bytes
-constexpr qsizetype MostLines = 20'000, MostColumns = 100, LongestField = 1000;
+constexpr qsizetype MostLines = 20'000, MostColumns = 100, MostFields = 500'000, LongestField = 1000;
 
 /// Reads a table: semicolons, tabs or commas between the fields, whichever occur most in its first lines; quotes as in
 /// RFC 4180; UTF-8 with or without its mark, else Windows-1252. Whatever is no such table is a TableFault, a file that

@@ -64,6 +64,7 @@ TEST(TableReader, HostileTablesAreRefusedInWords) {
       {"a;\"" + QByteArray(10'000, 'x') + "\"\n", "Zeile 1"},
       {"a;b\nc;\"d\n", "Zeile 2 ein Anführungszeichen"},
       {QByteArray("a;b\n").repeated(20'001), "mehr als 20000 Zeilen"},
+      {'x' + QByteArray(99, ';') + '\n' + QByteArray("a;b\n").repeated(5'001), "mehr als 500000 Felder"},
   };
   for (const auto &[bytes, words] : cases)
     EXPECT_TRUE(refusalOf(bytes).contains(words))
