@@ -172,6 +172,8 @@ template <typename S> void Programm::offerEntries(S &screen, bool race) {
     if (auto table = EntryScreen::chosenTable(&screen)) {
       auto &entries = beside(screen, new EntryScreen(m_desk, m_store, *std::move(table), race));
       connect(&entries, &EntryScreen::takenOver, &screen, &S::meldungenZeigen);
+      if (auto *athletes = shown<Form3>())
+        connect(&entries, &EntryScreen::takenOver, athletes, &Form3::meldungenZeigen, Qt::UniqueConnection);
     }
   });
 }

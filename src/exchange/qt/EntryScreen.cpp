@@ -219,11 +219,14 @@ void EntryScreen::chooseForSelected(Choice choice) {
   showLine();
 }
 
+// The one for which the line waits; if for none, one that was answered.
 QString EntryScreen::openClub() const {
   const auto lines = selectedLines();
   if (lines.isEmpty())
     return {};
   const PlannedEntry &line = m_model.plan().lines[lines.first()];
+  if (const QString open = m_model.plan().openClub(line); !open.isEmpty())
+    return foldedClub(open);
   for (const QString &text : line.entry.clubs)
     if (m_model.plan().unknownClubs.contains(foldedClub(text)))
       return foldedClub(text);
@@ -247,9 +250,10 @@ void EntryScreen::showLine() {
   const auto lines = selectedLines();
   const bool any = !lines.isEmpty();
   const PlannedEntry line = any ? m_model.plan().lines[lines.first()] : PlannedEntry();
+  const QStringList words = QStringList(wordsFor(m_store, m_model.plan(), line, m_race)) + line.entry.remarks;
   m_line->setText(any ? QStringLiteral("Zeile %1: %2 – %3")
                             .arg(line.entry.line)
-                            .arg(line.entry.athlete.Name, wordsFor(m_store, m_model.plan(), line, m_race))
+                            .arg(line.entry.athlete.Name, words.join(QStringLiteral("; ")))
                       : QString());
   const bool choosable = any && line.verdict != Verdict::Refused;
   m_choices[0]->setEnabled(choosable && line.record != 0);

@@ -256,12 +256,14 @@ void LineList::contextMenuEvent(QContextMenuEvent *event) {
 }
 
 void LineList::saveAsTable() {
-  const QString path = QFileDialog::getSaveFileName(this, QStringLiteral("Als Tabelle speichern"),
-                                                    QStringLiteral("Liste.csv"), QStringLiteral("Tabellen (*.csv)"));
-  if (path.isEmpty())
+  QFileDialog dialog(this, QStringLiteral("Als Tabelle speichern"), {}, QStringLiteral("Tabellen (*.csv)"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(QStringLiteral("csv"));
+  dialog.selectFile(QStringLiteral("Liste.csv"));
+  if (dialog.exec() == QDialog::Rejected)
     return;
   try {
-    replaceFile(path, csvOf(m_table()));
+    replaceFile(dialog.selectedFiles().first(), csvOf(m_table()));
   } catch (const Fault &fault) {
     QMessageBox::warning(this, QStringLiteral("Als Tabelle speichern"), fault.report());
   }
