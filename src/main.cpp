@@ -2,6 +2,8 @@
 #include "core/Start.h"
 #include "core/Store.h"
 #include "evaluation/AllLists.h"
+#include "platform/CommandLine.h"
+#include "platform/DataFolder.h"
 #include "platform/DiskWorker.h"
 #include "platform/Settings.h"
 #include "platform/Umgebung.h"
@@ -12,19 +14,48 @@
 #include "platform/qt/Application.h"
 #include "platform/qt/BusyPointer.h"
 #include "platform/qt/FaultReport.h"
+#include "platform/qt/FolderChoice.h"
 #include "platform/qt/Look.h"
 #include "platform/qt/Preview.h"
 #include "platform/qt/RescueQuestion.h"
 #include "platform/qt/SystemPrinters.h"
 #include "printing/Protokoll.h"
 #include "safety/Safety.h"
+#include "safety/SafetyFolder.h"
 
+#include <QDir>
 #include <QIcon>
 #include <QPointer>
 
 #include <chrono>
+#include <cstdio>
 
 namespace {
+
+enum Code { Done = 0, NotStarted = 1, Misused = 2 };
+
+void print(FILE *where, const QString &text) {
+  std::fputs(text.toLocal8Bit().constData(), where);
+}
+
+void printVersion() {
+  Umgebung umgebung;
+  const Store store(umgebung);
+  print(stdout, store.ProgrammName + QLatin1Char(' ') + store.Version + QLatin1Char('\n'));
+}
+
+// Answered before anything needs a screen; what belongs to the window system is no mistake yet.
+bool isAnswered(int argc, char **argv) {
+  QStringList arguments;
+  for (int i = 1; i < argc; ++i)
+    arguments.append(QString::fromLocal8Bit(argv[i]));
+  const auto line = CommandLine::read(arguments);
+  if (line.wantsHelp)
+    print(stdout, CommandLine::help());
+  else if (line.wantsVersion)
+    printVersion();
+  return line.wantsHelp || line.wantsVersion;
+}
 
 void setUp(Application &application) {
   QApplication::setOrganizationName(QStringLiteral("VEXT"));
@@ -37,7 +68,7 @@ void setUp(Application &application) {
 void setUp(Store &store) {
   store.umgebung.piep = [] { QApplication::beep(); };
   store.umgebung.zufall.seed(unsigned(std::chrono::system_clock::now().time_since_epoch().count()));
-  store.OrganisationName = Settings::organisationName();
+  store.OrganisationName = Settings::organisationName(QDir::currentPath());
   storeStarten(store);
 }
 
@@ -49,6 +80,29 @@ void connectDisk(DiskWorker &worker, Umgebung &umgebung) {
     QMetaObject::invokeMethod(
         qApp, [&worker] { worker.rethrow(); }, Qt::QueuedConnection);
   };
+}
+
+// A copy that somebody works in is opened as it is.
+QString freshExample() {
+  const QString place = DataFolder::examplePlace();
+  if (!SafetyFolder(place).isInUse())
+    DataFolder::copyExample();
+  Settings::noteFolder(QDir(place).canonicalPath(), DataFolder::exampleOrganisation());
+  return place;
+}
+
+// From here on the data folder is the working directory. False if the operator wants none.
+bool enterDataFolder(const CommandLine &line) {
+  QString folder = line.folder.isEmpty() ? QDir::currentPath() : line.folder;
+  const QString trouble = DataFolder::troubleWith(folder);
+  if (!trouble.isEmpty())
+    print(stderr, QStringLiteral("VEXT: ") + trouble + QLatin1Char('\n'));
+  if (!trouble.isEmpty() || line.choose || (line.folder.isEmpty() && DataFolder::isAccidental(folder)))
+    folder = FolderChoice(trouble, freshExample).ask();
+  if (folder.isEmpty() || !QDir::setCurrent(folder))
+    return false;
+  Settings::noteFolder(QDir::currentPath(), line.organisation);
+  return true;
 }
 
 bool mayRun(Safety &safety) {
@@ -111,20 +165,31 @@ int run(Store &store, Safety &safety, DiskWorker &worker) {
   return code;
 }
 
-} // namespace
-
 // Store and safety outlive the screens, so that a fault can still rescue what is in them.
-int main(int argc, char **argv) {
-  Application application(argc, argv);
+int workInFolder() {
   Umgebung umgebung;
   Store store(umgebung);
   DiskWorker worker;
   Safety safety(store, worker);
   FaultReport::install([&safety] { return safety.rescue(); });
   try {
-    setUp(application);
     return run(store, safety, worker);
   } catch (...) {
     FaultReport::reportCurrent();
   }
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+  if (isAnswered(argc, argv))
+    return Done;
+  Application application(argc, argv);
+  const auto line = CommandLine::read(QApplication::arguments().sliced(1));
+  if (!line.mistake.isEmpty()) {
+    print(stderr, QStringLiteral("VEXT: unbekannt: %1\n\n").arg(line.mistake) + CommandLine::help());
+    return Misused;
+  }
+  setUp(application);
+  return enterDataFolder(line) ? workInFolder() : NotStarted;
 }

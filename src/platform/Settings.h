@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QSize>
 #include <QString>
 
@@ -7,8 +8,21 @@
 /// written is no fault.
 namespace Settings {
 
-/// One text whatever it holds, commas and quotes too; "Rennbüro" where none is set.
-QString organisationName();
+/// A data folder that was worked in.
+struct Folder {
+  QString path;
+  /// The organisation that holds its event; empty where none was told.
+  QString organisation;
+  bool operator==(const Folder &) const = default;
+};
+
+/// The data folders that were worked in, the last one first.
+QList<Folder> folders();
+/// Makes a folder the last one; an empty organisation leaves the one that is kept for it.
+void noteFolder(const QString &path, const QString &organisation = {});
+/// The organisation of a data folder, or that of all where it has none of its own, or "Rennbüro". One text whatever it
+/// holds, commas and quotes too.
+QString organisationName(const QString &folder);
 /// The size that the operator gave a screen, without frame; invalid if none.
 QSize windowSize(const QString &screen);
 void setWindowSize(const QString &screen, QSize size);

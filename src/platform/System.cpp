@@ -2,6 +2,8 @@
 
 #include "platform/Faults.h"
 
+#include <QCoreApplication>
+
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -45,6 +47,10 @@ QString System::identityOf(const QString &folder) {
       .arg(found.stx_ino)
       .arg(found.stx_btime.tv_sec)
       .arg(found.stx_btime.tv_nsec);
+}
+
+QString System::sharedPath(const QString &name) {
+  return QCoreApplication::applicationDirPath() + QStringLiteral("/../share/vext/") + name;
 }
 
 System::Lock::State System::Lock::take(const QString &path) {

@@ -16,6 +16,9 @@ void syncFolder(const QString &path);
 /// if it cannot be told.
 QString identityOf(const QString &folder);
 
+/// Where a file or folder lies that is installed beside the program (example event, handbook).
+QString sharedPath(const QString &name);
+
 /// A lock that lives exactly as long as the process that holds it, whatever its file contains.
 class Lock {
 public:

@@ -32,6 +32,10 @@ QString placeFor(const QString &dataFolder) {
       .arg(allFolders(), QDir(dataFolder).dirName().left(NameLength), QString::fromLatin1(hash.left(HashLength)));
 }
 
+bool isHeld(const QString &safetyFolder) {
+  return System::Lock().take(safetyFolder + QStringLiteral("/VEXT.lock")) == System::Lock::State::Taken;
+}
+
 /// Path and identity of a data folder, a line each.
 QStringList ownerOf(const QString &safetyFolder) {
   return QString::fromUtf8(readIfThere(safetyFolder + OwnerNote).value_or(QByteArray())).split(QLatin1Char('\n'));
@@ -57,12 +61,16 @@ QString SafetyFolder::dataFolder() const {
   return absoluteFolder(m_given);
 }
 
+bool SafetyFolder::isInUse() const {
+  return isHeld(m_path);
+}
+
 void SafetyFolder::open() {
   const QString owner = dataFolder();
   makeFolder(allFolders(), Access::Private);
   if (!fileExists(m_path))
     if (const QString former = formerFolder(owner); !former.isEmpty()) {
-      if (System::Lock().take(former + QStringLiteral("/VEXT.lock")) == System::Lock::State::Taken) {
+      if (isHeld(former)) {
         m_path = former;
         return;
       }

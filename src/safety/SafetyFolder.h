@@ -14,6 +14,8 @@ public:
   QString dataFolder() const;
   const QString &path() const { return m_path; }
 
+  /// Whether VEXT runs in the data folder now.
+  bool isInUse() const;
   /// Makes the folder, or takes that of the data folder's earlier name or place; if VEXT runs there still, that one is
   /// left at its place and is the path from now on. A FileFault if that fails.
   void open();
