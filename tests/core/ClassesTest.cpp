@@ -64,13 +64,6 @@ TEST_F(Classes, SwitchesActOnlyWhereTheRaceSplits) {
   EXPECT_EQ(row.KlasseGenau, 59);
 }
 
-TEST_F(Classes, TheLastRowAndTheLastClassCount) {
-  std::swap(store.Teilnehmer[1000], enter(1940));
-  KlassenZuordnen(store);
-  EXPECT_EQ(store.Teilnehmer[1000].KlasseNr, 20);
-  EXPECT_EQ(store.KlasseAnzahlOk[20], 1);
-}
-
 TEST_F(Classes, FlagsAndStatusFromAFileMayBeAnyNumber) {
   constexpr int Lowest = std::numeric_limits<int>::min();
   auto &row = enter(2013);

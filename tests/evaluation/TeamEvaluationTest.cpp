@@ -75,13 +75,6 @@ TEST_F(TeamEvaluationTest, rowsKeepTheClubOfAnEarlierRaceButCountForNobody) {
   EXPECT_EQ(mitgliederZeilen(store, {}, 2, Alphabetisch).size(), 3);
 }
 
-TEST_F(TeamEvaluationTest, aClassBehindTheTableHasNoName) {
-  store.Rennen.WertKlassen = 1;
-  store.Teilnehmer[1].KlasseGenau = 5000; // the order number in an untouched copy of a race
-  EXPECT_EQ(teamWertung(store, {}).size(), 2);
-  EXPECT_EQ(mitgliederZeilen(store, {}, 1, Alphabetisch).size(), 2);
-}
-
 TEST_F(TeamEvaluationTest, furtherClubsTakeTheHundredthNumber) {
   for (int i = 3; i <= 102; ++i)
     race.add(qPrintable(QString("LÄUFER %1").arg(i)), 0, test.addClub(QString("Klub %1").arg(i)), 0, 50);
@@ -91,25 +84,4 @@ TEST_F(TeamEvaluationTest, furtherClubsTakeTheHundredthNumber) {
   EXPECT_EQ(store.mannschaften.WertVereinIdx[6 + 98], 0) << "club 100 has lost its number";
   EXPECT_EQ(store.mannschaften.WertVereinIdx[6 + 100], 100);
   EXPECT_EQ(vereinsZeilen(store).size(), 100);
-}
-
-TEST_F(TeamEvaluationTest, theLastRowAndTheLastUnitsCount) {
-  const int club = test.addClub("Union");
-  auto &last = store.Teilnehmer[1000];
-  std::swap(last, store.Teilnehmer[race.add("ZAHN Max", 1, club, 100, 50)]);
-  race.add("ZAHN Leo", 1, club, 100, 70);
-  last.GruppeNr = 100;
-  store.MannschaftName[100] = store.GruppeName[100] = "Letzte";
-  store.Teilnehmer[6].MannschaftNr = 9; // which has no name
-  wertungVorbereiten(store);
-  EXPECT_EQ(store.mannschaften.WertVereinIdx[1000], 3);
-  EXPECT_EQ(mannschaftsZeilen(store).size(), 3);
-  EXPECT_EQ(mannschaftsZeilen(store).last(), "  2 Letzte             100");
-  EXPECT_EQ(gruppenZeilen(store).last(), "Letzte");
-  const std::pair<WertungsArt, double> values[] = {
-      {WertungsArt::Bestzeit, 50}, {WertungsArt::Durchschnitt, 60}, {WertungsArt::ZeitsummeDerBesten, 120}};
-  for (const auto &[art, value] : values) {
-    teamWertung(store, {Einheit::Mannschaft, art, NurMaennlich, 2});
-    EXPECT_EQ(store.mannschaften.WertErgebnis[100], value);
-  }
 }

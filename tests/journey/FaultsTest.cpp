@@ -94,44 +94,20 @@ struct DyingProgram : testing::Test {
   QProcess program;
 };
 
-struct BadPlace {
-  const char *name, *reason;
-  void (*spoil)(const QByteArray &path);
-};
-void PrintTo(const BadPlace &place, std::ostream *out) {
-  *out << place.name;
-}
-
-class SaveThatFails : public DyingProgram, public testing::WithParamInterface<BadPlace> {};
-
 } // namespace
 
-TEST_P(SaveThatFails, IsReportedAndLosesNoTime) {
+TEST_F(DyingProgram, AFullDiskIsReportedAndLosesNoTime) {
   typeUntilCopied(SaveOnWord + CloseReport);
-  const QString file = test.folder.filePath("R 1.dat");
-  QFile::remove(file);
-  GetParam().spoil(QFile::encodeName(file));
+  const QByteArray file = QFile::encodeName(test.folder.filePath("R 1.dat"));
+  ASSERT_TRUE(::remove(file.constData()) == 0 && symlink("/dev/full", file.constData()) == 0);
   goOn();
   const QString report = end();
   EXPECT_EQ(program.exitCode(), 70);
-  EXPECT_TRUE(report.contains("R 1.dat")) << report.toStdString();
-  EXPECT_TRUE(report.contains(GetParam().reason)) << report.toStdString();
-  EXPECT_EQ(rescues().size(), 1);
-  ::remove(QFile::encodeName(file).constData());
+  EXPECT_TRUE(report.contains("R 1.dat") && report.contains("kein Platz mehr")) << report.toStdString();
+  ::remove(file.constData());
   expectTimeComesBack();
   EXPECT_EQ(rescues().size(), 1);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Places, SaveThatFails,
-    testing::Values(BadPlace{"fullDisk", "kein Platz mehr",
-                             [](const QByteArray &path) { ASSERT_EQ(symlink("/dev/full", path.constData()), 0); }},
-                    BadPlace{"folderInTheWay", "liegt ein Ordner",
-                             [](const QByteArray &path) { ASSERT_EQ(mkdir(path.constData(), 0700), 0); }},
-                    BadPlace{
-                        "noSuchPlace", "gibt es nicht",
-                        [](const QByteArray &path) { ASSERT_EQ(symlink("/nowhere/at/all", path.constData()), 0); }}),
-    [](const auto &place) { return std::string(place.param.name); });
 
 // Not even the rescue finds room: the running copy of two seconds ago is what is left.
 TEST_F(DyingProgram, NoFileMayGrowAnyMore) {
@@ -147,12 +123,6 @@ TEST_F(DyingProgram, NoFileMayGrowAnyMore) {
   expectTimeComesBack();
 }
 
-TEST_F(DyingProgram, KilledWhileTimesAreOnlyInMemory) {
-  typeUntilCopied({});
-  kill();
-  expectTimeComesBack();
-}
-
 TEST_F(DyingProgram, TheOperatorMayLeaveAllAsItIs) {
   typeUntilCopied({});
   kill();
@@ -162,31 +132,6 @@ TEST_F(DyingProgram, TheOperatorMayLeaveAllAsItIs) {
   EXPECT_EQ(program.exitCode(), 0);
   EXPECT_EQ(test.file("R 1.dat"), before);
   EXPECT_TRUE(test.file(rescues().value(0) + QString("/R 1.dat")).contains("63,45"));
-}
-
-// A pipe in place of the file takes 64 KiB and then holds the program up in the middle of its write.
-TEST_F(DyingProgram, KilledInTheMiddleOfASave) {
-  for (int number = 2; number <= 1000; ++number)
-    test.enter(test.addAthlete(QString("LÄUFER %1").arg(number), 2010, 1), number);
-  RennDatenSpeichern(test.store);
-  typeUntilCopied(SaveOnWord);
-  const QByteArray file = QFile::encodeName(test.folder.filePath("R 1.dat"));
-  ASSERT_TRUE(::remove(file.constData()) == 0 && mkfifo(file.constData(), 0600) == 0);
-  goOn();
-  QByteArray written(100'000, '\0');
-  const int pipe = open(file.constData(), O_RDONLY);
-  const auto first = read(pipe, written.data(), 1000);
-  kill();
-  auto size = first;
-  for (auto more = first; more > 0; size += more)
-    more = read(pipe, written.data() + size, size_t(written.size() - size));
-  close(pipe);
-  ASSERT_GT(first, 0);
-  ASSERT_LT(size, 100'000);
-  ::remove(file.constData());
-  writeFile(QFile::decodeName(file), written.left(size));
-  expectTimeComesBack();
-  EXPECT_EQ(test.store.Teilnehmer[1000].StartNr, 1000);
 }
 
 TEST_F(DyingProgram, ARaceFileThatIsNoRaceFileIsLeftAlone) {

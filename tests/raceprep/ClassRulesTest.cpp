@@ -46,17 +46,3 @@ TEST_F(ClassRules, NormalForm) {
     EXPECT_EQ(found, after) << what;
   }
 }
-
-TEST_F(ClassRules, DeletionMovesTheRowsUpAndEmptiesTheLast) {
-  for (int row = 1; row <= 20; ++row) {
-    store.KlasseName[row] = QString::number(row);
-    store.KlasseVon[row] = row;
-    store.KlasseBis[row] = 100 * row;
-  }
-  deleteClass(store, 2);
-  for (const auto &[row, was] : {std::pair(1, 1), {2, 3}, {19, 20}, {20, 0}}) {
-    EXPECT_EQ(store.KlasseName[row].toInt(), was);
-    EXPECT_EQ(store.KlasseVon[row], was);
-    EXPECT_EQ(store.KlasseBis[row], 100 * was);
-  }
-}

@@ -48,6 +48,7 @@ TEST_F(Form10Test, DeletesAChosenClass) {
   press("Command5");
   EXPECT_EQ(lines("List1").size(), 19);
   EXPECT_TRUE(lines("List1").first().startsWith(" 1 Bambini 2"));
+  EXPECT_EQ(store.KlasseName[19] + store.KlasseName[20], "AK 6");
   EXPECT_EQ(store.KlasseReihenfolge(1, 0, 0, 0), 7); // stays with the row
   EXPECT_FALSE(enabled("Text6"));
 }

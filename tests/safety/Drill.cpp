@@ -97,7 +97,7 @@ QStringList textsOf(const Session &session) {
 }
 
 bool isTyping(const Step &step) {
-  const QString verb = QString::fromUtf8(step.text).section(u' ', 1, 1);
+  const QString verb = step.text.section(u' ', 1, 1);
   return verb == "type" || verb == "key" || verb == "line";
 }
 
@@ -148,7 +148,7 @@ bool mustComeBack(const Session &session, const Run &run, size_t step, const Mis
 QStringList requiredFacts(const Session &session, const Run &run, const Mishap &mishap) {
   QStringList facts;
   for (size_t step = 0; step < session.steps.size(); ++step)
-    if (session.steps[step].fact && mustComeBack(session, run, step, mishap))
+    if (!session.steps[step].fact.isEmpty() && mustComeBack(session, run, step, mishap))
       facts << session.steps[step].fact;
   return facts;
 }
@@ -180,39 +180,28 @@ QString accountOf(const char *which, const Mishap &mishap, const Run &run) {
                .join(u'\n'));
 }
 
-void addErrors(std::vector<Case> &cases, const Case &base, Mishap Case::*mishap, int call, const CallKind &kind) {
-  for (const int error : kind.errors) {
-    if (error == 0)
-      continue;
-    cases.push_back(base);
-    (cases.back().*mishap) = {call, QByteArray::number(error)};
-    if (error == EINTR)
-      continue;
-    cases.push_back(base);
-    (cases.back().*mishap) = {call, QByteArray::number(error) + '+'};
-  }
-}
-
-void addCases(std::vector<Case> &cases, const Case &base, Mishap Case::*mishap, int call, const CallKind &kind) {
+QList<QByteArray> actsAt(const CallKind &kind) {
   QList<QByteArray> acts;
   if (kind.changes)
     acts << "kill";
   if (kind.changes || kind.name == "sync")
     acts << "cut";
   if (kind.name == "write")
-    acts << "half"
-         << "short";
-  for (const auto &act : acts) {
-    cases.push_back(base);
-    (cases.back().*mishap) = {call, act};
-  }
-  addErrors(cases, base, mishap, call, kind);
+    acts << QByteArrayList{"half", "short"};
+  for (const int error : kind.errors)
+    if (error != 0)
+      acts << QByteArray::number(error);
+  for (const int error : kind.errors)
+    if (error != 0 && error != EINTR)
+      acts << QByteArray::number(error) + '+';
+  return acts;
 }
 
 std::vector<Case> casesOf(const Case &base, Mishap Case::*mishap, const QStringList &calls) {
   std::vector<Case> cases;
   for (int call = 1; call <= calls.size(); ++call)
-    addCases(cases, base, mishap, call, callKind(calls[call - 1].toStdString()));
+    for (const auto &act : actsAt(callKind(calls[call - 1].toStdString())))
+      (cases.emplace_back(base).*mishap) = {call, act};
   return cases;
 }
 
@@ -240,7 +229,7 @@ Drill::Drill(const Session &session) : m_session(session) {
 QString Drill::trouble() const {
   QStringList missing;
   for (const auto &step : m_session.steps)
-    if (step.fact && !m_after.contains(step.fact))
+    if (!step.fact.isEmpty() && !m_after.contains(step.fact))
       missing << step.fact;
   if (m_run.code == 0 && missing.isEmpty())
     return {};

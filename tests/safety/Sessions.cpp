@@ -11,88 +11,45 @@
 
 namespace {
 
-const std::vector<Step> Times = {
-    {"Form1.Command3 click"},
-    {"Form4.List1 line 1"},
-    {"Form4.Command6 click"},
-    {"Form7.List2 line 0"},
-    {"Form7.Text1 type 63,45"},
-    {"Form7.Text1 key", "1/1 Zeit 63.45"},
-    {"Form7 pause 2300"},
-    {"Form7.List2 line 1"},
-    {"Form7.Text1 type 64,5"},
-    {"Form7.Text1 key", "1/2 Zeit 64.5"},
-    {"Form7 pause 1000"},
-    {"Form7.List2 line 2"},
-    {"Form7.Text1 type 65,25"},
-    {"Form7.Text1 key", "1/3 Zeit 65.25"},
-    {"Form7.Command3 click", nullptr, true},
-    {"Form4 pause 2300"},
-    {"Form4.Command1 click"},
-    {"Form1.Command4 click"},
-};
+// The steps stand between bars; behind "=>" the fact, at the end "!" where all is saved.
+constexpr char Times[] =
+    "Form1.Command3 click | Form4.List1 line 1 | Form4.Command6 click | Form7.List2 line 0 | "
+    "Form7.Text1 type 63,45 | Form7.Text1 key => 1/1 Zeit 63.45 | Form7 pause 2300 | Form7.List2 line 1 | "
+    "Form7.Text1 type 64,5 | Form7.Text1 key => 1/2 Zeit 64.5 | Form7 pause 1000 | Form7.List2 line 2 | "
+    "Form7.Text1 type 65,25 | Form7.Text1 key => 1/3 Zeit 65.25 | Form7.Command3 click ! | Form4 pause 2300 | "
+    "Form4.Command1 click | Form1.Command4 click";
 
-const std::vector<Step> Registers = {
-    {"Form1.Command2 click"},
-    {"Form2.Command3 click"},
-    {"Form2.Text2 type SC Neu"},
-    {"Form2.Text3 type Neu", "Verein 3 SC Neu", true},
-    {"Form2.Command1 click", "Verein 3 kurz Neu", true},
-    {"Form1.Command1 click"},
-    {"Form3.Command3 click"},
-    {"Form3.Text2 type NEU Eva"},
-    {"Form3.Text4 type 1.2.2012", "Läufer 4 NEU Eva", true},
-    {"Form3.Option2 click", "Läufer 4 geboren 40940", true},
-    {"Form3.Command1 click", "Läufer 4 Geschlecht 0", true},
-    {"Form1.Command3 click"},
-    {"Form4.Command3 click"},
-    {"Form4.Text2 type Nachtrennen"},
-    {"Form4.Command7 click", "Rennen 3 Nachtrennen", true},
-    {"Form4.Command4 click"},
-    {"Form5.List1 line 0"},
-    {"Form5.Command2 click", "3/1 Läufer 1"},
-    {"Form5 pause 2300"},
-    {"Form5.List1 line 3"},
-    {"Form5.Command2 click", "3/2 Läufer 4"},
-    {"Form5.Command1 click", nullptr, true},
-    {"Form4.Command5 click"},
-    {"Form6.List1 line 0"},
-    {"Form6.Text1 type 7"},
-    {"Form6.Check2 click", "3/1 Nummer 7"},
-    {"Form6 pause 2300"},
-    {"Form6.Command1 click", "3/1 bezahlt 1", true},
-    {"Form4 pause 2300"},
-    {"Form4.Command1 click"},
-    {"Form1.Command4 click"},
-};
+constexpr char Registers[] =
+    "Form1.Command2 click | Form2.Command3 click | Form2.Text2 type SC Neu | "
+    "Form2.Text3 type Neu => Verein 3 SC Neu ! | Form2.Command1 click => Verein 3 kurz Neu ! | "
+    "Form1.Command1 click | Form3.Command3 click | Form3.Text2 type NEU Eva | "
+    "Form3.Text4 type 1.2.2012 => Läufer 4 NEU Eva ! | Form3.Option2 click => Läufer 4 geboren 40940 ! | "
+    "Form3.Command1 click => Läufer 4 Geschlecht 0 ! | Form1.Command3 click | Form4.Command3 click | "
+    "Form4.Text2 type Nachtrennen | Form4.Command7 click => Rennen 3 Nachtrennen ! | Form4.Command4 click | "
+    "Form5.List1 line 0 | Form5.Command2 click => 3/1 Läufer 1 | Form5 pause 2300 | Form5.List1 line 3 | "
+    "Form5.Command2 click => 3/2 Läufer 4 | Form5.Command1 click ! | Form4.Command5 click | Form6.List1 line 0 | "
+    "Form6.Text1 type 7 | Form6.Check2 click => 3/1 Nummer 7 | Form6 pause 2300 | "
+    "Form6.Command1 click => 3/1 bezahlt 1 ! | Form4 pause 2300 | Form4.Command1 click | Form1.Command4 click";
 
-const std::vector<Step> Classes = {
-    {"Form1.Command3 click"},
-    {"Form4.List1 line 1"},
-    {"Form4.Command15 click"},
-    {"Form15.Label3_0 click"},
-    {"Form15.Label3_8 click"},
-    {"Form15.Text1 type Zwerge"},
-    {"Form15.Label3_16 click", "1 genau 2 Zwerge"},
-    {"Form15 pause 2300"},
-    {"Form15.Command1 click", "1 Reihe 3 3", true},
-    {"Form4 pause 2300"},
-    {"Form4.Command16 click"},
-    {"CupKopie.Text2 type 2"},
-    {"CupKopie.Command16 click", "Rennen 2 Kopie v. Kinderrennen", true},
-    {"Form4 pause 2300"},
-    {"Form4.Command17 click"},
-    {"Form20.Text1 type 1"},
-    {"Form20.Text2 type 25", "Cup 1 25"},
-    {"Form20 pause 2300"},
-    {"Form20.Command3 click", nullptr, true},
-    {"Form4 pause 2300"},
-    {"Form4.Command1 click"},
-    {"Form1.Command4 click"},
-};
+constexpr char Classes[] =
+    "Form1.Command3 click | Form4.List1 line 1 | Form4.Command15 click | Form15.Label3_0 click | "
+    "Form15.Label3_8 click | Form15.Text1 type Zwerge | Form15.Label3_16 click => 1 genau 2 Zwerge | "
+    "Form15 pause 2300 | Form15.Command1 click => 1 Reihe 3 3 ! | Form4 pause 2300 | Form4.Command16 click | "
+    "CupKopie.Text2 type 2 | CupKopie.Command16 click => Rennen 2 Kopie v. Kinderrennen ! | Form4 pause 2300 | "
+    "Form4.Command17 click | Form20.Text1 type 1 | Form20.Text2 type 25 => Cup 1 25 | Form20 pause 2300 | "
+    "Form20.Command3 click ! | Form4 pause 2300 | Form4.Command1 click | Form1.Command4 click";
 
-class Facts {
-public:
+std::vector<Step> stepsOf(const char *script) {
+  std::vector<Step> steps;
+  for (QString step : QString(script).split(" | ")) {
+    const bool saves = step.endsWith(" !");
+    step.chop(saves ? 2 : 0);
+    steps.push_back({step.section(" => ", 0, 0), step.section(" => ", 1), saves});
+  }
+  return steps;
+}
+
+struct Facts {
   void add(const QString &what, const QString &value) { lines << what + u' ' + value; }
   void add(const QString &what, double value) { add(what, QString::number(value)); }
 
@@ -145,7 +102,7 @@ void addRace(Facts &facts, Store &store, int race) {
 
 const std::vector<Session> &sessions() {
   static const std::vector<Session> all = {
-      {"Zeiten", Times}, {"Karteien", Registers}, {"Klassen, Kopie, Cup", Classes, 2}};
+      {"Zeiten", stepsOf(Times)}, {"Karteien", stepsOf(Registers)}, {"Klassen, Kopie, Cup", stepsOf(Classes), 2}};
   return all;
 }
 

@@ -6,9 +6,9 @@
 
 /// What an operator does at the screens (see support/Operator.cpp).
 struct Step {
-  const char *text;
-  /// The fact (see factsOf) that is in the event once the step is done; nothing for a step on the way.
-  const char *fact = nullptr;
+  QString text;
+  /// The fact (see factsOf) that is in the event once the step is done; empty for a step on the way.
+  QString fact;
   /// Whether all that was done before is in the files once the step is done.
   bool saves = false;
 };

@@ -121,16 +121,4 @@ TEST_F(RankingTest, firstRunIsDenseAndCarriesTheLastTimeOn) {
   EXPECT_EQ(store.rangliste.BestzeitHerren, 999999);
 }
 
-TEST_F(RankingTest, theLastRowIsOneLikeTheOthers) {
-  enter("A", {.Zeit1 = 50});
-  std::swap(store.Teilnehmer[1000], enter("B", {.Zeit1 = 60, .Zeit2 = 1}));
-  ErgebnisRechnen(store); // its second time puts the other out
-  EXPECT_EQ(order(), (Rows{1000}));
-  Rangfolge1(store);
-  EXPECT_EQ(order(), (Rows{1, 1000}));
-  store.Teilnehmer[1000].Status1 = 1;
-  ErgebnisRechnen(store);
-  EXPECT_EQ(store.Teilnehmer[1000].Rang + store.Teilnehmer[1000].WertSumme, 0);
-}
-
 } // namespace

@@ -1,4 +1,3 @@
-#include "platform/qt/Screen.h"
 #include "support/ScreenTest.h"
 
 #include <QCheckBox>

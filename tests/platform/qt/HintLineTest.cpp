@@ -1,6 +1,5 @@
 #include "platform/qt/HintLine.h"
 
-#include "platform/qt/Screen.h"
 #include "support/ScreenTest.h"
 
 #include <QPushButton>
