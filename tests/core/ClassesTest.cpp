@@ -5,7 +5,7 @@
 
 namespace {
 
-struct Classes : RaceTest {
+struct ClassesTest : RaceTest {
   TeilnehmerZeile &enter(int year, int sex = 1) {
     return store.Teilnehmer[test.enter(test.addAthlete("HUBER Kim", year, sex))];
   }
@@ -13,7 +13,7 @@ struct Classes : RaceTest {
 
 } // namespace
 
-TEST_F(Classes, LastOfOverlappingClassesHoldsAndAllCountAndWithoutAClassTheRowKeepsItsOwn) {
+TEST_F(ClassesTest, LastOfOverlappingClassesHoldsAndAllCountAndWithoutAClassTheRowKeepsItsOwn) {
   const auto &row = enter(1987), &tooOld = enter(1890); // in "AK 1" and "AK 2" of the season, in none
   store.Teilnehmer[2].KlasseNr = 5;
   KlassenZuordnen(store);
@@ -23,7 +23,7 @@ TEST_F(Classes, LastOfOverlappingClassesHoldsAndAllCountAndWithoutAClassTheRowKe
   EXPECT_EQ(tooOld.KlasseNr, 5);
 }
 
-TEST_F(Classes, AFaultBeginsWithWhatIsToBeDone) {
+TEST_F(ClassesTest, AFaultBeginsWithWhatIsToBeDone) {
   auto &row = enter(2013, 2);
   const struct {
     const char *begin;
@@ -46,7 +46,7 @@ TEST_F(Classes, AFaultBeginsWithWhatIsToBeDone) {
   }
 }
 
-TEST_F(Classes, SwitchesActOnlyWhereTheRaceSplits) {
+TEST_F(ClassesTest, SwitchesActOnlyWhereTheRaceSplits) {
   auto &row = enter(2013);
   row.Gast = 1;
   row.Status2 = 3;
@@ -64,7 +64,7 @@ TEST_F(Classes, SwitchesActOnlyWhereTheRaceSplits) {
   EXPECT_EQ(row.KlasseGenau, 59);
 }
 
-TEST_F(Classes, FlagsAndStatusFromAFileMayBeAnyNumber) {
+TEST_F(ClassesTest, FlagsAndStatusFromAFileMayBeAnyNumber) {
   constexpr int Lowest = std::numeric_limits<int>::min();
   auto &row = enter(2013);
   row.Status1 = row.Status2 = row.Gast = Lowest;

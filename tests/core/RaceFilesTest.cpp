@@ -11,8 +11,8 @@ QByteArray participant(const char *zeit1, const char *status1 = " 0 ") {
   return block + QByteArray("\r\n").repeated(7);
 }
 
-struct RaceFiles : RaceTest {
-  RaceFiles() { test.addAthlete("MÜLLER Änne", 2010, 0); }
+struct RaceFilesTest : RaceTest {
+  RaceFilesTest() { test.addAthlete("MÜLLER Änne", 2010, 0); }
 
   void load(const QByteArray &participants) {
     test.writeFile("R 1.dat", participants);
@@ -22,7 +22,7 @@ struct RaceFiles : RaceTest {
 
 } // namespace
 
-TEST_F(RaceFiles, LoadedAndSavedAgainAreTheSameBytes) {
+TEST_F(RaceFilesTest, LoadedAndSavedAgainAreTheSameBytes) {
   const QByteArray r = participant("63,45") + participant("1E-05") + participant("-5").replace(" 21 ", "-21 ");
   QByteArray k;
   for (int i = 1; i <= 20; ++i) {
@@ -46,7 +46,7 @@ TEST_F(RaceFiles, LoadedAndSavedAgainAreTheSameBytes) {
   EXPECT_EQ(test.file("G 1.lst"), "Gruppe " + m);
 }
 
-TEST_F(RaceFiles, ALoadWithoutFilesLeavesTheResultsAndTheExactClassOfARow) {
+TEST_F(RaceFilesTest, ALoadWithoutFilesLeavesTheResultsAndTheExactClassOfARow) {
   const TeilnehmerZeile full{7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7};
   store.Teilnehmer[1] = store.Teilnehmer[1000] = full;
   for (auto *text : {&store.KlasseGenauName[0], &store.KlasseGenauName[159], &store.MannschaftName[1],
@@ -63,7 +63,7 @@ TEST_F(RaceFiles, ALoadWithoutFilesLeavesTheResultsAndTheExactClassOfARow) {
             "AK 6");
 }
 
-TEST_F(RaceFiles, ASaveIsAnnouncedBeforeItsFirstFileAndAfterItsLast) {
+TEST_F(RaceFilesTest, ASaveIsAnnouncedBeforeItsFirstFileAndAfterItsLast) {
   QStringList seen;
   const auto look = [&] {
     for (const char *name : {"R 1.dat", "K 1.lst"})
@@ -74,7 +74,7 @@ TEST_F(RaceFiles, ASaveIsAnnouncedBeforeItsFirstFileAndAfterItsLast) {
   EXPECT_EQ(seen.join(u' '), "fehlt fehlt da da");
 }
 
-TEST_F(RaceFiles, OddParticipantFiles) {
+TEST_F(RaceFilesTest, OddParticipantFiles) {
   const auto &row = store.Teilnehmer[1], &next = store.Teilnehmer[2];
   load(participant("1", " 7 ").replace("\r\n 3 \r\n64,5\r\n 2 ", "\r\n-3 \r\n64,5\r\n 7 "));
   EXPECT_EQ(row.Status1, 0);
@@ -94,7 +94,7 @@ TEST_F(RaceFiles, OddParticipantFiles) {
   EXPECT_EQ(participantFile(store).count('\n'), 23000);
 }
 
-TEST_F(RaceFiles, SavingDropsFreeRowsAndNamesInRowThreeAlone) {
+TEST_F(RaceFilesTest, SavingDropsFreeRowsAndNamesInRowThreeAlone) {
   test.enter(1, 8);
   store.Teilnehmer[5].LaeuferNr = 1;
   store.MannschaftName[3] = "allein";
@@ -105,7 +105,7 @@ TEST_F(RaceFiles, SavingDropsFreeRowsAndNamesInRowThreeAlone) {
   EXPECT_EQ(store.Teilnehmer[5].LaeuferNr, 0);
 }
 
-TEST_F(RaceFiles, APastedLineBreakMovesNoLine) {
+TEST_F(RaceFilesTest, APastedLineBreakMovesNoLine) {
   store.KlasseGenauName[1] = store.GruppeName[1] = "oben\nunten";
   store.GruppeName[2] = store.KlasseGenauName[2] = "zwei";
   RennDatenSpeichern(store);
@@ -114,7 +114,7 @@ TEST_F(RaceFiles, APastedLineBreakMovesNoLine) {
   EXPECT_EQ(store.KlasseGenauName[1] + store.KlasseGenauName[2], "oben untenzwei");
 }
 
-TEST_F(RaceFiles, RemindsOfAthletesWithoutSexOrBirthDate) {
+TEST_F(RaceFilesTest, RemindsOfAthletesWithoutSexOrBirthDate) {
   QStringList reminder;
   test.umgebung.erinnern = [&](const QStringList &lines) { reminder = lines; };
   LaeuferSatz max;
@@ -126,7 +126,7 @@ TEST_F(RaceFiles, RemindsOfAthletesWithoutSexOrBirthDate) {
   EXPECT_EQ(reminder, QStringList({"2   HUBER Max m/w ?", "2   HUBER Max Geburtsdatum ?"}));
 }
 
-TEST_F(RaceFiles, FaultsNameFileAndLine) {
+TEST_F(RaceFilesTest, FaultsNameFileAndLine) {
   const std::pair<QByteArray, const char *> cases[] = {
       {participant(""), "Zeile 8 "},
       {participant("1") + participant("1.5"), "Zeile 31 "},

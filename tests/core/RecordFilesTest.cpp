@@ -5,7 +5,7 @@
 
 namespace {
 
-struct RecordFiles : StoreTest {
+struct RecordFilesTest : StoreTest {
   // A record of numbered bytes, so that every field and its place show.
   static QByteArray pattern(int length) {
     QByteArray bytes(length, ' ');
@@ -17,7 +17,7 @@ struct RecordFiles : StoreTest {
 
 } // namespace
 
-TEST_F(RecordFiles, EveryByteSurvivesReadingAndWriting) {
+TEST_F(RecordFilesTest, EveryByteSurvivesReadingAndWriting) {
   const QByteArray verein = pattern(VereinLaenge).replace(554, 4, QByteArray("\x00\x1a\x81\xff", 4));
   QByteArray laeufer = pattern(LaeuferLaenge).replace(0, 80, QByteArray("\xc4NGSTL \x80uro").leftJustified(80));
   laeufer.replace(80, 6, QByteArray("\x01\0\0\0\0\0", 6)).replace(94, 2, QByteArray("\x01\0", 2));
@@ -42,7 +42,7 @@ TEST_F(RecordFiles, EveryByteSurvivesReadingAndWriting) {
     EXPECT_EQ(test.file(name), bytes);
 }
 
-TEST_F(RecordFiles, FieldsLieWhereTheyAreTold) {
+TEST_F(RecordFilesTest, FieldsLieWhereTheyAreTold) {
   test.addClub(QString(81, u'x'));
   test.addAthlete("MÜLLER Änne", 2005, 1, 1);
   store.Rennen.Sponsor6 = "letzter";
@@ -65,7 +65,7 @@ TEST_F(RecordFiles, FieldsLieWhereTheyAreTold) {
   EXPECT_EQ(test.file("Verein.rec").size(), 798);
 }
 
-TEST_F(RecordFiles, ReadingHoldsValuesInRange) {
+TEST_F(RecordFilesTest, ReadingHoldsValuesInRange) {
   test.addClub("SK");
   store.RennenIdx = 1;
   for (const auto &[sex, expected] : {std::pair(5, 2), {-1, 0}, {1, 1}}) {
@@ -82,7 +82,7 @@ TEST_F(RecordFiles, ReadingHoldsValuesInRange) {
   EXPECT_EQ(store.Rennen.BestzeitAbKlasse, 0);
 }
 
-TEST_F(RecordFiles, ReadingOutsideTheFileBeepsAndEmptiesTheName) {
+TEST_F(RecordFilesTest, ReadingOutsideTheFileBeepsAndEmptiesTheName) {
   test.addClub("SK");
   test.addRace("Lauf");
   for (const auto &[index, kurz] : {std::pair(2, "SK"), {0, ""}, {1, "SK"}}) {
@@ -95,7 +95,7 @@ TEST_F(RecordFiles, ReadingOutsideTheFileBeepsAndEmptiesTheName) {
   EXPECT_EQ(test.beeps, 4);
 }
 
-TEST_F(RecordFiles, NewRaceInheritsTheCriteriaAndNothingElse) {
+TEST_F(RecordFilesTest, NewRaceInheritsTheCriteriaAndNothingElse) {
   test.addRace("Erstes");
   store.Rennen.ZweiDurchgaenge = 1;
   store.Rennen.UrkundeBild = 5;
@@ -108,7 +108,7 @@ TEST_F(RecordFiles, NewRaceInheritsTheCriteriaAndNothingElse) {
   EXPECT_EQ(fromDays(store.Rennen.RennenDatum), QDate(2005, 7, 20));
 }
 
-TEST_F(RecordFiles, WritesBelowOneFaultButForAthletes) {
+TEST_F(RecordFilesTest, WritesBelowOneFaultButForAthletes) {
   store.RennenIdx = 0;
   LaeuferSchreiben(store, 0, {});
   EXPECT_EQ(test.file("Laeufer.rec"), QByteArray());
@@ -116,7 +116,7 @@ TEST_F(RecordFiles, WritesBelowOneFaultButForAthletes) {
   EXPECT_THROW(RennenSchreiben(store), FileFault);
 }
 
-TEST_F(RecordFiles, RecordNotYetWrittenReadsAsEmptyAndAGapAsZeros) {
+TEST_F(RecordFilesTest, RecordNotYetWrittenReadsAsEmptyAndAGapAsZeros) {
   store.LaeuferAnzahl = 1;
   const LaeuferSatz athlete = LaeuferLesen(store, 1);
   EXPECT_EQ(athlete.Geschlecht, 2);
@@ -126,7 +126,7 @@ TEST_F(RecordFiles, RecordNotYetWrittenReadsAsEmptyAndAGapAsZeros) {
   EXPECT_EQ(LaeuferListeFuellen(store).size(), 2); // the gap counts as named
 }
 
-TEST_F(RecordFiles, CountsAreWrittenWhenTheLastRecordChanges) {
+TEST_F(RecordFilesTest, CountsAreWrittenWhenTheLastRecordChanges) {
   store.VextReserve = 9;
   test.addAthlete("A", 2001, 0);
   test.addAthlete("B", 2001, 0);
@@ -138,7 +138,7 @@ TEST_F(RecordFiles, CountsAreWrittenWhenTheLastRecordChanges) {
   }
 }
 
-TEST_F(RecordFiles, ListsAreInGermanOrderWithTheNumberAtTheEnd) {
+TEST_F(RecordFilesTest, ListsAreInGermanOrderWithTheNumberAtTheEnd) {
   for (const char *name : {"Zeller", "öhler", "OHLER", "", "Öhler"})
     test.addAthlete(name, 2001, 0);
   EXPECT_EQ(LaeuferListeFuellen(store),

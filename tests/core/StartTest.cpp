@@ -3,9 +3,9 @@
 #include "core/StateFiles.h"
 #include "support/StoreTest.h"
 
-using Start = StoreTest;
+using StartTest = StoreTest;
 
-TEST_F(Start, SeasonTurnsAtTheBeginningOfJuly) {
+TEST_F(StartTest, SeasonTurnsAtTheBeginningOfJuly) {
   for (const auto &[day, offset] : {std::pair{3, 11.F}, {5, 12.F}}) {
     test.umgebung.heute = [day = day] { return QDate(2026, 7, day); };
     storeStarten(store);
@@ -14,7 +14,7 @@ TEST_F(Start, SeasonTurnsAtTheBeginningOfJuly) {
   EXPECT_EQ(store.StdKlasse[20].Von, 1912);
 }
 
-TEST_F(Start, PlacesAreMirroredBackAndCountsReadAsFarAsTheyGo) {
+TEST_F(StartTest, PlacesAreMirroredBackAndCountsReadAsFarAsTheyGo) {
   test.writeFile("TopLeft.dat", " 150 \r\n-300 \r\n 7 \r\n 8 \r\n 3000000000 \r\n 5 \r\n");
   test.writeFile("Vext.dat", " 12 \r\n 3 \r\n");
   storeStarten(store);
@@ -29,7 +29,7 @@ TEST_F(Start, PlacesAreMirroredBackAndCountsReadAsFarAsTheyGo) {
   EXPECT_EQ(file.count('\n'), 120);
 }
 
-TEST_F(Start, CountsOfMoreRecordsThanAFileMayHoldAreRefused) {
+TEST_F(StartTest, CountsOfMoreRecordsThanAFileMayHoldAreRefused) {
   for (const char *bytes : {" 2147483647 \r\n", " 0 \r\n 900000 \r\n", " 0 \r\n 0 \r\n 900000 \r\n"}) {
     test.writeFile("Vext.dat", bytes);
     EXPECT_THROW(storeStarten(store), ConversionFault) << bytes;

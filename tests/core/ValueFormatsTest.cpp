@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(ValueFormats, TimesAsPrinted) {
+TEST(ValueFormatsTest, TimesAsPrinted) {
   const std::pair<double, const char *> cases[] = {
       {3725.5, "1:02:05,50"}, {7.4, "7,40"},           {0.4, ",40"},           {0, ",00"},
       {63.4, "1:03,40"},      {59.996, "60,00"},       {119.996, "1:60,00"},   {63.4549999, "1:03,45"},
@@ -13,7 +13,7 @@ TEST(ValueFormats, TimesAsPrinted) {
     EXPECT_EQ(ZeitText(seconds), text) << seconds;
 }
 
-TEST(ValueFormats, PartsOfATimeAsTyped) {
+TEST(ValueFormatsTest, PartsOfATimeAsTyped) {
   const std::tuple<const char *, const char *, const char *, double> times[] = {
       {"1", "2", "3,5", 3723.5}, {"0", "-1", " 90 ", 30}, {"1,5", "0", "0", 5400}};
   for (const auto &[h, m, s, seconds] : times)
@@ -24,7 +24,7 @@ TEST(ValueFormats, PartsOfATimeAsTyped) {
     EXPECT_EQ(secondsEntry(typed), tidy);
 }
 
-TEST(ValueFormats, ValuesInColumns) {
+TEST(ValueFormatsTest, ValuesInColumns) {
   EXPECT_EQ(WertText8(12.5), "   12,50");
   EXPECT_EQ(WertText10(12.5), "     12,50");
   EXPECT_EQ(WertText8(0.5), "    0,50");

@@ -43,12 +43,12 @@ struct CupListTest : testing::Test {
 
 } // namespace
 
-TEST_F(CupListTest, threeRacesWorkedOutByHand) {
+TEST_F(CupListTest, ThreeRacesWorkedOutByHand) {
   EXPECT_EQ(print(cupAuswerten(store, cup.all, 1).schluessel), expectedPrint("Cupliste.txt"));
   EXPECT_EQ(druck.Orientation, Druckschicht::Portrait);
 }
 
-TEST_F(CupListTest, pagesBreakByRowAndByClass) {
+TEST_F(CupListTest, PagesBreakByRowAndByClass) {
   for (const auto &[first, second, separate, pages, continued] :
        {std::tuple(36, 0, false, 1, 0), std::tuple(37, 0, false, 2, 1), std::tuple(36, 1, false, 2, 0),
         std::tuple(27, 1, false, 1, 0), std::tuple(28, 1, false, 2, 0), std::tuple(7, 1, true, 1, 0),
@@ -61,7 +61,7 @@ TEST_F(CupListTest, pagesBreakByRowAndByClass) {
 }
 
 // With hours, of one round more than fit as told up to the most there can be.
-TEST_F(CupListTest, manyRoundsStayReadableAndInsideTheFrame) {
+TEST_F(CupListTest, ManyRoundsStayReadableAndInsideTheFrame) {
   const QStringList keys = people(30, 0);
   for (store.cup.CupRunden = 6; store.cup.CupRunden <= 10; ++store.cup.CupRunden) {
     for (int round = 1; round <= store.cup.CupRunden; ++round) {

@@ -25,7 +25,7 @@ using CupScoringTest = StoreTest;
 
 } // namespace
 
-TEST_F(CupScoringTest, strikes) {
+TEST_F(CupScoringTest, Strikes) {
   const struct {
     const char *what;
     QList<Round> runs;
@@ -48,7 +48,7 @@ TEST_F(CupScoringTest, strikes) {
   }
 }
 
-TEST_F(CupScoringTest, pointsComeFromTheTableAndNotForStruckOrMissedResults) {
+TEST_F(CupScoringTest, PointsComeFromTheTableAndNotForStruckOrMissedResults) {
   store.cup.CupPunkteTabelle[1] = 20;
   store.cup.CupPunkteTabelle[3] = -2;
   store.cup.CupPunkteTabelle[99] = store.cup.CupPunkteTabelle[100] = 7;

@@ -10,7 +10,7 @@ struct CupTest : StoreTest {
 
 } // namespace
 
-TEST_F(CupTest, threeRacesWorkedOutByHand) {
+TEST_F(CupTest, ThreeRacesWorkedOutByHand) {
   cupLaden(store);
   const CupErgebnis result = cupAuswerten(store, cup.all, 1);
   EXPECT_EQ(teilnehmerZeilen(result.namen).first(), "ADAM Ada");
@@ -21,7 +21,7 @@ TEST_F(CupTest, threeRacesWorkedOutByHand) {
   EXPECT_EQ(store.cup.CupZeit(1, 3), 31);
 }
 
-TEST_F(CupTest, typedPlacesAndPointsAreHeldToTheTable) {
+TEST_F(CupTest, TypedPlacesAndPointsAreHeldToTheTable) {
   for (const auto &[typed, place] : {std::pair("0", 1), {"-3", 1}, {"7.6", 8}, {"101", 100}, {"x", 1}})
     EXPECT_EQ(heldPlace(typed), place);
   for (const auto &[typed, stored, shown] : {std::tuple("12,5", true, "12"), {"40000", false, "12"}, {"", true, ""}}) {
@@ -30,13 +30,13 @@ TEST_F(CupTest, typedPlacesAndPointsAreHeldToTheTable) {
   }
 }
 
-TEST_F(CupTest, aSmallerCupKeepsNobodyOfTheOneBefore) {
+TEST_F(CupTest, ASmallerCupKeepsNobodyOfTheOneBefore) {
   cupAuswerten(store, {1}, 0);
   cupAuswerten(store, {3}, 0);
   EXPECT_EQ(store.cup.CupLaeufer[5], 0);
 }
 
-TEST_F(CupTest, theLastMarkedRaceGivesCriteriaAndTheFirstTheClass) {
+TEST_F(CupTest, TheLastMarkedRaceGivesCriteriaAndTheFirstTheClass) {
   const int young = cup.add("GRUBER Tom", 2001);
   addResults(test, "Gruppen", {{young, 50}, {1, 49}}, [](RennenSatz &race) { race.WertKlassen = 0; });
   store.Teilnehmer[1].KlasseGenau = 0; // as found in an untouched copy of a race
@@ -50,7 +50,7 @@ TEST_F(CupTest, theLastMarkedRaceGivesCriteriaAndTheFirstTheClass) {
   EXPECT_EQ(store.cup.CupKlasse[1], 0);
 }
 
-TEST_F(CupTest, aClassBehindTheTableHasNoNameAndKeepsItsOrder) {
+TEST_F(CupTest, AClassBehindTheTableHasNoNameAndKeepsItsOrder) {
   for (int row = 1; row <= 2; ++row)
     store.Teilnehmer[row].KlasseGenau = qint16(162 - row); // order numbers, as in an untouched copy of a race
   RennDatenSpeichern(store);
@@ -60,7 +60,7 @@ TEST_F(CupTest, aClassBehindTheTableHasNoNameAndKeepsItsOrder) {
   EXPECT_TRUE(result.schluessel.last().startsWith("161"));
 }
 
-TEST_F(CupTest, aNameIsOnePersonAndTheFirstOneGetsTheResults) {
+TEST_F(CupTest, ANameIsOnePersonAndTheFirstOneGetsTheResults) {
   const int twin = cup.add("ADAM Ada", 1991), lower = cup.add("adam ada", 1991), nobody = cup.add("", 1991);
   addResults(test, "Namen", {{nobody, 1}, {twin, 40}, {1, 39}, {lower, 41}, {twin, 42}});
   const CupErgebnis result = cupAuswerten(store, {4}, 0);
@@ -69,12 +69,12 @@ TEST_F(CupTest, aNameIsOnePersonAndTheFirstOneGetsTheResults) {
   EXPECT_EQ(store.cup.CupZeit(1, 1), 42) << "of two rows the last";
 }
 
-TEST_F(CupTest, moreThanTenRoundsAreARangeFaultAndNoRaceIsTakenForTheWorkingTables) {
+TEST_F(CupTest, MoreThanTenRoundsAreARangeFaultAndNoRaceIsTakenForTheWorkingTables) {
   EXPECT_THROW(cupAuswerten(store, QList<int>(11, 3), 0), RangeFault);
   EXPECT_NE(store.TabellenRennen, store.AktRennen); // nothing of it may be rescued as the race
 }
 
-TEST_F(CupTest, cupFile) {
+TEST_F(CupTest, CupFile) {
   CupAuswahl chosen = cupLaden(store);
   store.cup.CupPunkteTabelle[2] = 0;
   store.cup.CupPunkteTabelle[100] = -7;

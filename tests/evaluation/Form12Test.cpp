@@ -17,7 +17,7 @@ struct Form12Test : ScreenTest<Form12> {
 
 } // namespace
 
-TEST_F(Form12Test, opensOnClubsAndEachChoiceLocksThePrint) {
+TEST_F(Form12Test, OpensOnClubsAndEachChoiceLocksThePrint) {
   open();
   EXPECT_FALSE(canPrint() || shown("Combo2"));
   press("Command2");
@@ -33,7 +33,7 @@ TEST_F(Form12Test, opensOnClubsAndEachChoiceLocksThePrint) {
   EXPECT_TRUE(ticked("Check1") && !ticked("Check2") && !ticked("Check3"));
 }
 
-TEST_F(Form12Test, sumLeavesItsWorkListAndThePrintTheLastUnit) {
+TEST_F(Form12Test, SumLeavesItsWorkListAndThePrintTheLastUnit) {
   open();
   press("Check2");
   press("Option3");

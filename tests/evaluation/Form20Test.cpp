@@ -19,7 +19,7 @@ struct Form20Test : ScreenTest<Form20> {
 
 } // namespace
 
-TEST_F(Form20Test, evaluatesTheMarkedRacesAndPrintsOnce) {
+TEST_F(Form20Test, EvaluatesTheMarkedRacesAndPrintsOnce) {
   open();
   markAll();
   type("Text3", "5"); // held to the rounds
@@ -38,7 +38,7 @@ TEST_F(Form20Test, evaluatesTheMarkedRacesAndPrintsOnce) {
   EXPECT_EQ(label("letzteDatei"), "Cupliste.pdf");
 }
 
-TEST_F(Form20Test, pointsAreTypedDownTheTable) {
+TEST_F(Form20Test, PointsAreTypedDownTheTable) {
   open();
   EXPECT_FALSE(enabled("Text2"));
   type("Text1", "9");
@@ -57,7 +57,7 @@ TEST_F(Form20Test, pointsAreTypedDownTheTable) {
   EXPECT_EQ(text("Text1"), "100");
 }
 
-TEST_F(Form20Test, closingKeepsTheChoiceAndOpensTheRaceOfBefore) {
+TEST_F(Form20Test, ClosingKeepsTheChoiceAndOpensTheRaceOfBefore) {
   store.AktRennen = store.RennenIdx = 2;
   open();
   markAll();

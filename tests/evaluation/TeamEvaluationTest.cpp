@@ -23,7 +23,7 @@ struct TeamEvaluationTest : StoreTest {
 
 } // namespace
 
-TEST_F(TeamEvaluationTest, bestTimesAndAverages) {
+TEST_F(TeamEvaluationTest, BestTimesAndAverages) {
   const Wertung clubs;
   const QString name1 = "SC Alm              ", name2 = "TV Berg             ";
   EXPECT_EQ(teamWertung(store, clubs), (QStringList{QString("     40,00 ") + name1 + QString("      1"),
@@ -34,7 +34,7 @@ TEST_F(TeamEvaluationTest, bestTimesAndAverages) {
             (QStringList{"     41,00 Die Schnellen      3", "     80,00 Älter      7"}));
 }
 
-TEST_F(TeamEvaluationTest, sumOfTheBestPutsIncompleteUnitsBehind) {
+TEST_F(TeamEvaluationTest, SumOfTheBestPutsIncompleteUnitsBehind) {
   QList<QStringList> lists;
   const auto keep = [&lists](const QStringList &times) { lists << times; };
   EXPECT_EQ(teamWertung(store, {Einheit::Mannschaft, WertungsArt::ZeitsummeDerBesten, Gemischt, 3}, keep),
@@ -53,7 +53,7 @@ TEST_F(TeamEvaluationTest, sumOfTheBestPutsIncompleteUnitsBehind) {
   EXPECT_TRUE(gezaehlt().isEmpty()) << "the next opening marks nobody";
 }
 
-TEST_F(TeamEvaluationTest, membersInTheirOrders) {
+TEST_F(TeamEvaluationTest, MembersInTheirOrders) {
   const Wertung teams{Einheit::Mannschaft, WertungsArt::Bestzeit};
   store.Teilnehmer[3].KlasseReihe = 12;
   store.Teilnehmer[4].KlasseReihe = 3;
@@ -64,7 +64,7 @@ TEST_F(TeamEvaluationTest, membersInTheirOrders) {
   EXPECT_EQ(mitgliederZeilen(store, {}, 2, NachZeit).size(), 2);
 }
 
-TEST_F(TeamEvaluationTest, rowsKeepTheClubOfAnEarlierRaceButCountForNobody) {
+TEST_F(TeamEvaluationTest, RowsKeepTheClubOfAnEarlierRaceButCountForNobody) {
   store.mannschaften.VereinRecNr[6] = 2;
   store.Teilnehmer[4].VereinNr = 4; // none here: keeps club 2 and counts for it
   store.Teilnehmer[3].VereinNr = 0;
@@ -75,7 +75,7 @@ TEST_F(TeamEvaluationTest, rowsKeepTheClubOfAnEarlierRaceButCountForNobody) {
   EXPECT_EQ(mitgliederZeilen(store, {}, 2, Alphabetisch).size(), 3);
 }
 
-TEST_F(TeamEvaluationTest, furtherClubsTakeTheHundredthNumber) {
+TEST_F(TeamEvaluationTest, FurtherClubsTakeTheHundredthNumber) {
   for (int i = 3; i <= 102; ++i)
     race.add(qPrintable(QString("LÄUFER %1").arg(i)), 0, test.addClub(QString("Klub %1").arg(i)), 0, 50);
   wertungVorbereiten(store);

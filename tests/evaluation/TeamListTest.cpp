@@ -26,12 +26,12 @@ struct TeamListTest : testing::Test {
 
 } // namespace
 
-TEST_F(TeamListTest, teamsWithTheirMembers) {
+TEST_F(TeamListTest, TeamsWithTheirMembers) {
   EXPECT_EQ(print({Einheit::Mannschaft, WertungsArt::ZeitsummeDerBesten, WertungsFilter::Gemischt, 3}),
             expectedPrint("Mannschaftsliste.txt"));
 }
 
-TEST_F(TeamListTest, pagesBreakByTheLastPrintedRow) {
+TEST_F(TeamListTest, PagesBreakByTheLastPrintedRow) {
   const QString unit = "     40,00 Die Schnellen      3", member = "CERNY Ida        3";
   Mannschaftsliste(store, druck, {{Einheit::Mannschaft}, {unit}}, [&](int) { return QStringList(42, member); });
   EXPECT_EQ(printed.pages.size(), 2);

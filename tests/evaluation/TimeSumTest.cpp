@@ -29,7 +29,7 @@ struct TimeSumTest : StoreTest {
 
 } // namespace
 
-TEST_F(TimeSumTest, whoIsMissingOrHasNoResultInARaceFallsOut) {
+TEST_F(TimeSumTest, WhoIsMissingOrHasNoResultInARaceFallsOut) {
   addResults(test, "Erster", {{e, 99}, {a, 40, 0, 77}, {b, 41, 3}, {c, 0}});
   addResults(test, "Zweiter", {{a, 30.25}, {b, 31}, {c, 32}, {d, 33}});
   store.MannschaftName[1] = "Team";
@@ -54,7 +54,7 @@ TEST_F(TimeSumTest, whoIsMissingOrHasNoResultInARaceFallsOut) {
   EXPECT_EQ(blockOf(2), (QList<double>{31, 0, 31, 0}));
 }
 
-TEST_F(TimeSumTest, aSumThatNoFileGivesBackIsNoTime) {
+TEST_F(TimeSumTest, ASumThatNoFileGivesBackIsNoTime) {
   for (const char *name : {"A", "B"})
     addResults(test, name, {{a, 1e308}, {b, 1}});
   store.cup.CupStatus(2, 0) = 3; // of an earlier sum
@@ -64,7 +64,7 @@ TEST_F(TimeSumTest, aSumThatNoFileGivesBackIsNoTime) {
   EXPECT_EQ(blockOf(1), (QList<double>{0, 1e308, 1e308, 0}));
 }
 
-TEST_F(TimeSumTest, surchargesComeFromTheRaceBefore) {
+TEST_F(TimeSumTest, SurchargesComeFromTheRaceBefore) {
   const auto race = [&](const char *name, double surcharge) {
     addResults(test, name, {{a, 30}}, [surcharge](RennenSatz &record) { record.ZuschlagMann = surcharge; });
   };
@@ -80,7 +80,7 @@ TEST_F(TimeSumTest, surchargesComeFromTheRaceBefore) {
   EXPECT_EQ(store.cup.ZeitsummeRennenKurz[2] + store.cup.ZeitsummeRennenKurz[3], "B");
 }
 
-TEST_F(TimeSumTest, numberOfTheNewRace) {
+TEST_F(TimeSumTest, NumberOfTheNewRace) {
   const auto line = [](int number) { return QString(" %1    Lauf").arg(number); };
   EXPECT_EQ(zeitsummeNummer({}), 1);
   EXPECT_EQ(zeitsummeNummer({line(9), line(12), line(3)}), 13);

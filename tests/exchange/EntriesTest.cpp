@@ -43,7 +43,7 @@ TEST(EntryColumns, AreKnownByTheirHeadingsOrByWhatStandsInThem) {
     EXPECT_EQ(kindsOf(lines), kinds) << lines;
 }
 
-TEST(Entries, Names) {
+TEST(EntriesTest, Names) {
   const std::pair<const char *, const char *> cases[] = {
       {"HUBER Anna", "HUBER Anna"},
       {"Anna HUBER", "HUBER Anna"},
@@ -63,7 +63,7 @@ TEST(Entries, Names) {
   EXPECT_EQ(nameFromWhole(QStringLiteral("Jan van der Berg"), true), QStringLiteral("VAN DER BERG Jan"));
 }
 
-TEST(Entries, BirthDatesAndSexes) {
+TEST(EntriesTest, BirthDatesAndSexes) {
   const std::pair<const char *, QDate> dates[] = {{"1.2.2012", {2012, 2, 1}},
                                                   {"01/02/12", {2012, 2, 1}},
                                                   {"1. 2. 1999", {1999, 2, 1}},
@@ -91,10 +91,10 @@ TEST(Entries, BirthDatesAndSexes) {
     EXPECT_EQ(sexFrom(text), sex) << text;
 }
 
-TEST(Entries, AreShownAsTheRegisterWillKeepThem) {
-  const Entry cut = entry("Name;ÖSV-Nr;Verein;Punkte;geb\nHuber Zoë Łucja;1234567890;SC;2.5;2012\n");
-  EXPECT_EQ(cut.athlete.Name, QStringLiteral("HUBER Zoë ?ucja"));
-  EXPECT_EQ(cut.athlete.OesvNr, QStringLiteral("123456789"));
+TEST(EntriesTest, AreShownAsTheRegisterWillKeepThem) {
+  const Entry cut = entry("Name;Nr;Verein;Punkte;geb\nHuber Zoë Łucja;1234567890;SC;2.5;2012\n");
+  EXPECT_EQ(cut.athlete.Name, "HUBER Zoë ?ucja");
+  EXPECT_EQ(cut.athlete.OesvNr, "123456789");
   EXPECT_EQ(cut.athlete.LaeuferPunkte, 2.5F);
   EXPECT_EQ(cut.remarks.size(), 3) << cut.remarks.join(u'|').toStdString(); // and no sex
   EXPECT_EQ(entry(("Name;Jg\n" + QByteArray(200, 'x') + ";2012\n").constData()).athlete.Name.size(), 80);

@@ -29,7 +29,7 @@ QString refusalOf(const QByteArray &bytes) {
 
 } // namespace
 
-TEST(TableReader, Tables) {
+TEST(TableReaderTest, Tables) {
   const std::pair<QByteArray, const char *> cases[] = {
       {"a;b\nc;d\n", "1: a|b, 2: c|d"},
       {"a\tb\r\nc\td", "1: a|b, 2: c|d"},
@@ -48,7 +48,7 @@ TEST(TableReader, Tables) {
     EXPECT_EQ(read(bytes).join(", "), lines) << bytes.toStdString();
 }
 
-TEST(TableReader, HostileTablesAreRefusedInWords) {
+TEST(TableReaderTest, HostileTablesAreRefusedInWords) {
   const std::pair<QByteArray, const char *> cases[] = {
       {"", "leer"},
       {"\n ; \n", "leer"},
@@ -71,7 +71,7 @@ TEST(TableReader, HostileTablesAreRefusedInWords) {
         << bytes.left(20).toStdString() << ": " << refusalOf(bytes).toStdString();
 }
 
-TEST(TableReader, AGigabyteIsRefusedUnreadAndAPipeNotWaitedFor) {
+TEST(TableReaderTest, AGigabyteIsRefusedUnreadAndAPipeNotWaitedFor) {
   const QTemporaryDir folder;
   QFile file(folder.filePath("M.csv"));
   ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.resize(qint64(1) << 30));

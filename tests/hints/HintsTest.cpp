@@ -306,7 +306,7 @@ std::string toldIn(const Case &trap, bool on) {
   return "no such hint";
 }
 
-TEST(Hints, EachStandsInItsTrapAndNotBesideIt) {
+TEST(HintsTest, EachStandsInItsTrapAndNotBesideIt) {
   std::set<std::string> tried;
   for (const auto &cases : {OfRegisters, OfRaces, OfTimes, OfPrints, OfTeams, OfCups})
     for (const Case &trap : cases) {
@@ -320,7 +320,7 @@ TEST(Hints, EachStandsInItsTrapAndNotBesideIt) {
 }
 
 // A broken file may hold anything.
-TEST(Hints, NoneEndsTheProgram) {
+TEST(HintsTest, NoneEndsTheProgram) {
   for (const int odd : {std::numeric_limits<int>::min(), -1, 169, std::numeric_limits<int>::max()}) {
     Trap trap;
     for (int n = 1; n <= 1000; ++n) {
@@ -357,7 +357,7 @@ QStringList captured(const char *pattern, const QString &text) {
 }
 
 // The chapter of the hints lists each, and names each other chapter that has a place to watch.
-TEST(Hints, TheHandbookListsEach) {
+TEST(HintsTest, TheHandbookListsEach) {
   const QString book = readFile(VEXT_BEISPIEL "/../docs/handbuch.md");
   QString hints;
   std::set<QString> watched, named;

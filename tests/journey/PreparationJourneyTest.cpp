@@ -38,8 +38,8 @@ const std::map<int, Number> Numbers = {{1, {1, "61.5", 3}},  {2, {1, "60,93", 2}
                                        {16, {4, "51.2", 1}}, {17, {4, "51,20", 1}}, {21, {5, "59", 1}},
                                        {25, {6, "52.5", 1}}, {29, {7, "64", 1}},    {33, {8, "70,01", 1}}};
 
-struct PreparationJourney : RoofTest {
-  ~PreparationJourney() override { programm.reset(); }
+struct PreparationJourneyTest : RoofTest {
+  ~PreparationJourneyTest() override { programm.reset(); }
 
   void startOnFolder() {
     programm.reset();
@@ -205,7 +205,7 @@ struct PreparationJourney : RoofTest {
 
 } // namespace
 
-TEST_F(PreparationJourney, FromAnEmptyFolderToPlacesThatLast) {
+TEST_F(PreparationJourneyTest, FromAnEmptyFolderToPlacesThatLast) {
   startOnFolder();
   fillRegisters();
   createRace();

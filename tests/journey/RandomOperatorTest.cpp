@@ -43,8 +43,8 @@ int setting(const char *name, int otherwise) {
   return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : otherwise;
 }
 
-struct RandomOperator : RoofTest {
-  ~RandomOperator() override { programm.reset(); }
+struct RandomOperatorTest : RoofTest {
+  ~RandomOperatorTest() override { programm.reset(); }
 
   int below(qsizetype limit) { return int(random() % unsigned(limit)); }
   template <typename List> const auto &oneOf(const List &list) { return std::begin(list)[below(std::size(list))]; }
@@ -280,7 +280,7 @@ struct RandomOperator : RoofTest {
 
 } // namespace
 
-TEST_F(RandomOperator, HurtsNothing) {
+TEST_F(RandomOperatorTest, HurtsNothing) {
   const int seed = setting("VEXT_OPERATOR_SEED", 1);
   random.seed(unsigned(seed));
   const QDeadlineTimer end(1000 * setting("VEXT_OPERATOR_SECONDS", 10));
@@ -294,7 +294,7 @@ TEST_F(RandomOperator, HurtsNothing) {
 
 // VEXT_OPERATOR_STEPS makes it longer.
 TEST(RandomOperatorWalk, HasAndSeesTheSameWithAndWithoutHints) {
-  struct Walk : RandomOperator {
+  struct Walk : RandomOperatorTest {
     void TestBody() override {}
   };
   const int steps = setting("VEXT_OPERATOR_STEPS", 300);

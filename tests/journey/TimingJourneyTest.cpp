@@ -9,13 +9,13 @@ QByteArray typedTime(int number) {
   return QByteArray::number(100 - 3 * number) + (number % 2 == 1 ? '.' : ',') + "45";
 }
 
-using TimingJourney = RoofTest;
+using TimingJourneyTest = RoofTest;
 
 } // namespace
 
 // The second race of the example has been timed; its numbers 1 to 21 stand in four classes and are typed over. The
 // numbers 4, 11 and 16 keep their status and so no place; 21 and 23 hold their old times when the places are looked at.
-TEST_F(TimingJourney, TwentyTimesByKeyboardAndOneCutShortByTheClosing) {
+TEST_F(TimingJourneyTest, TwentyTimesByKeyboardAndOneCutShortByTheClosing) {
   test.takeOver(VEXT_BEISPIEL);
   auto expected = test.file("R 2.dat").split('\n');
   const auto setTime = [&](int number, const QByteArray &time) {

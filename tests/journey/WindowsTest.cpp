@@ -11,7 +11,7 @@ namespace {
 
 constexpr int Patience = 60'000; // milliseconds, for a busy machine
 
-struct Windows : testing::Test {
+struct WindowsTest : testing::Test {
   void SetUp() override {
     if (QStandardPaths::findExecutable("openbox").isEmpty() || QStandardPaths::findExecutable("Xvfb").isEmpty())
       GTEST_SKIP() << "needs openbox and Xvfb";
@@ -26,7 +26,7 @@ struct Windows : testing::Test {
     test.addRace("Kinderrennen");
   }
 
-  ~Windows() override {
+  ~WindowsTest() override {
     for (auto *process : {&manager, &server}) {
       process->kill();
       process->waitForFinished(Patience);
@@ -55,7 +55,7 @@ struct Windows : testing::Test {
 };
 
 // A place taken for that of the contents would put the screen lower by its title bar each time.
-TEST_F(Windows, OpenedAndClosedUnmovedTheyStayWhereTheyAre) {
+TEST_F(WindowsTest, OpenedAndClosedUnmovedTheyStayWhereTheyAre) {
   const auto round = QString("Form1.Command3 click\nForm4.Command5 click\nForm6 close\n"
                              "Form4.Command6 click\nForm7.Check1 click\nForm13 close\nForm7 close\n"
                              "Form4.Command15 click\nForm15 close\nForm4 close\n");

@@ -3,9 +3,9 @@
 #include "platform/Dates.h"
 #include "support/StoreTest.h"
 
-using AthleteRegister = StoreTest;
+using AthleteRegisterTest = StoreTest;
 
-TEST_F(AthleteRegister, TypedBirthDates) {
+TEST_F(AthleteRegisterTest, TypedBirthDates) {
   test.addAthlete("HUBER Anna", 1990, 0);
   const QDate before(1990, 7, 1);
   const std::tuple<const char *, const char *, QDate> cases[] = {{"83", "01.01.1983", {1983, 1, 1}},
@@ -22,7 +22,7 @@ TEST_F(AthleteRegister, TypedBirthDates) {
   }
 }
 
-TEST_F(AthleteRegister, NewRecordNeedsNameAndDateOfTheLast) {
+TEST_F(AthleteRegisterTest, NewRecordNeedsNameAndDateOfTheLast) {
   test.addAthlete("A", 1990, 0);
   EXPECT_FALSE(nextAthlete(store, 1, "  ", "01.07.1990"));
   EXPECT_FALSE(nextAthlete(store, 1, "A", "1.1.1900"));

@@ -4,14 +4,14 @@
 
 #include <gtest/gtest.h>
 
-TEST(CodePage, AllByteValuesSurvive) {
+TEST(CodePageTest, AllByteValuesSurvive) {
   for (int value = 0; value < 256; ++value) {
     const QByteArray one(1, char(value));
     EXPECT_EQ(toCodePage(fromCodePage(one)), one) << value;
   }
 }
 
-TEST(CodePage, ForeignCharactersBecomeQuestionMarks) {
+TEST(CodePageTest, ForeignCharactersBecomeQuestionMarks) {
   const std::pair<const char16_t *, QByteArray> cases[] = {{u"u\u0308 \u0141uk \U0001F600 \u20ac", "\xfc ?uk ? \x80"},
                                                            {u"\u001a\u0141", "\x1a?"},
                                                            {u"a\u200bb\u0141", "a?b?"}};

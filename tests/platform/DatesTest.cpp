@@ -6,7 +6,7 @@
 
 #include <limits>
 
-TEST(Dates, DaysCountFromTheEndOf1899) {
+TEST(DatesTest, DaysCountFromTheEndOf1899) {
   EXPECT_EQ(toDays(QDate(1900, 1, 1)), 2);
   EXPECT_EQ(toDays(QDate(2005, 7, 20)), 38553);
   EXPECT_EQ(fromDays(38553.75), QDate(2005, 7, 20));
@@ -15,7 +15,7 @@ TEST(Dates, DaysCountFromTheEndOf1899) {
   EXPECT_EQ(yearOf(1e300), 0);
 }
 
-TEST(Dates, TypedDates) {
+TEST(DatesTest, TypedDates) {
   const std::pair<QString, std::optional<QDate>> cases[] = {{"1.2.1983", QDate(1983, 2, 1)},
                                                             {"01.02.29", QDate(2029, 2, 1)},
                                                             {"1.2.30", QDate(1930, 2, 1)},

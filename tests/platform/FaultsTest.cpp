@@ -17,7 +17,7 @@ QString reportOf(const QString &path, int error) {
 
 } // namespace
 
-TEST(Faults, TheSystemsReasonsAreGerman) {
+TEST(FaultsTest, TheSystemsReasonsAreGerman) {
   const QString path = "TopLeft.dat";
   EXPECT_EQ(reportOf(path, EEXIST), "Die Datei „TopLeft.dat“ konnte nicht geöffnet werden: unter diesem "
                                     "Namen liegt schon etwas anderes.");
@@ -26,7 +26,7 @@ TEST(Faults, TheSystemsReasonsAreGerman) {
     EXPECT_FALSE(reportOf(path, error).contains("Betriebssystems (")) << error;
 }
 
-TEST(Faults, AFolderInTheFilesPlaceIsToldAndNoReasonIsToldTwice) {
+TEST(FaultsTest, AFolderInTheFilesPlaceIsToldAndNoReasonIsToldTwice) {
   const QTemporaryDir folder;
   EXPECT_TRUE(reportOf(folder.path(), ENOENT).endsWith("liegt ein Ordner."));
   EXPECT_TRUE(FileFault("x", "gelesen").report().endsWith("keinen Grund."));

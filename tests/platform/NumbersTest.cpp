@@ -6,7 +6,7 @@
 
 #include <limits>
 
-TEST(Numbers, LeadingNumberStopsAtWhatDoesNotFit) {
+TEST(NumbersTest, LeadingNumberStopsAtWhatDoesNotFit) {
   const std::pair<QString, double> cases[] = {{"12,5", 12}, {"12.5", 12.5}, {".5", 0.5}, {"-2.5", -2.5}, {"-----", 0},
                                               {"7abc", 7},  {"", 0},        {"  +3", 3}, {"1e3", 1},     {"1.2.3", 1.2},
                                               {"0x10", 0},  {"5.", 5},      {"\t7", 0},  {"1 2", 1}};
@@ -14,7 +14,7 @@ TEST(Numbers, LeadingNumberStopsAtWhatDoesNotFit) {
     EXPECT_EQ(leadingNumber(text), value) << text.toStdString();
 }
 
-TEST(Numbers, WholeNumberRoundsHalvesToEven) {
+TEST(NumbersTest, WholeNumberRoundsHalvesToEven) {
   EXPECT_EQ(wholeNumber(u"12.5"), 12);
   EXPECT_EQ(wholeNumber(u"13.5"), 14);
   EXPECT_EQ(wholeNumber(u"13,5"), 13);
@@ -27,7 +27,7 @@ TEST(Numbers, WholeNumberRoundsHalvesToEven) {
     EXPECT_EQ(numberAtEnd(line), number);
 }
 
-TEST(Numbers, RegionalNumberTakesAllOrNothing) {
+TEST(NumbersTest, RegionalNumberTakesAllOrNothing) {
   const std::pair<QString, std::optional<double>> cases[] = {
       {"63,45", 63.45},   {" 5, ", 5.0}, {",5", 0.5},   {"-7", -7.0}, {"1E+15", 1e15}, {"1E-05", 1e-5},
       {"", std::nullopt}, {"1.5", {}},   {"1,2,3", {}}, {",", {}},    {"1e3", {}},     {"inf", {}},
@@ -36,7 +36,7 @@ TEST(Numbers, RegionalNumberTakesAllOrNothing) {
     EXPECT_EQ(regionalNumber(text), value) << text.toStdString();
 }
 
-TEST(Numbers, PlainTextOfDoublesAndSingles) {
+TEST(NumbersTest, PlainTextOfDoublesAndSingles) {
   const std::pair<double, const char *> cases[] = {{63.45, "63,45"},           {0.1 + 0.2, "0,3"}, {-0.0, "0"},
                                                    {41.125 + 40.33, "81,455"}, {1e15, "1E+15"},    {0.00001, "1E-05"}};
   for (const auto &[value, text] : cases)
@@ -47,7 +47,7 @@ TEST(Numbers, PlainTextOfDoublesAndSingles) {
 }
 
 // What is typed and taken is the same number when it is read again.
-TEST(Numbers, WhatIsTakenIsReadAgain) {
+TEST(NumbersTest, WhatIsTakenIsReadAgain) {
   for (const char *text : {"63,45", "-0,5", "1E+15", "1E-05", "1,7976931348623E+308", "4,94065645841247E-324"}) {
     const double time = *regionalNumber(QString(text));
     EXPECT_TRUE(readsBack(time)) << text;
@@ -68,7 +68,7 @@ TEST(Numbers, WhatIsTakenIsReadAgain) {
   EXPECT_EQ(typedSingle(u".0001"), 0.0001F);
 }
 
-TEST(Numbers, MasksRoundTheDecimalText) {
+TEST(NumbersTest, MasksRoundTheDecimalText) {
   const struct {
     const char *mask;
     QList<double> values;

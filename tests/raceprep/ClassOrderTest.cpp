@@ -4,13 +4,13 @@
 
 namespace {
 
-struct ClassOrder : RaceTest {
+struct ClassOrderTest : RaceTest {
   KlasseNummerRaster raster{"KlasseNummerRaster"};
 };
 
 } // namespace
 
-TEST_F(ClassOrder, CellsRunOnBehindAnEmptyRowAndNumbersReturnToTheirClass) {
+TEST_F(ClassOrderTest, CellsRunOnBehindAnEmptyRowAndNumbersReturnToTheirClass) {
   store.Rennen.WertGeschlecht = store.Rennen.WertGaeste = store.Rennen.WertBoarder = 1;
   store.KlasseName[2].clear();
   store.KlasseReihenfolge(2, 1, 1, 1) = 99;
@@ -28,7 +28,7 @@ TEST_F(ClassOrder, CellsRunOnBehindAnEmptyRowAndNumbersReturnToTheirClass) {
   EXPECT_EQ(store.KlasseReihenfolge(2, 1, 1, 1), 99);
 }
 
-TEST_F(ClassOrder, HeadingsStandOverTheColumnsThatApply) {
+TEST_F(ClassOrderTest, HeadingsStandOverTheColumnsThatApply) {
   const struct {
     int sexes, guests, boarders;
     const char *headings;
@@ -47,7 +47,7 @@ TEST_F(ClassOrder, HeadingsStandOverTheColumnsThatApply) {
   }
 }
 
-TEST_F(ClassOrder, NextNumberIsTheHighestPlusOne) {
+TEST_F(ClassOrderTest, NextNumberIsTheHighestPlusOne) {
   raster[3] = -4;
   raster[159] = 8; // a hidden cell counts
   EXPECT_TRUE(numberCell(raster, 3));

@@ -27,11 +27,11 @@ const struct {
     {"no class has no year", {{"", 2010, 2020}}, {{"", 0, 0}}},
 };
 
-using ClassRules = StoreTest;
+using ClassRulesTest = StoreTest;
 
 } // namespace
 
-TEST_F(ClassRules, NormalForm) {
+TEST_F(ClassRulesTest, NormalForm) {
   for (const auto &[what, before, after] : NormalForms) {
     store.KlasseName.fill({});
     for (int i = 0; const auto &[name, von, bis] : before) {

@@ -3,9 +3,9 @@
 #include "core/RaceFiles.h"
 #include "support/StoreTest.h"
 
-using RaceCopy = RaceTest;
+using RaceCopyTest = RaceTest;
 
-TEST_F(RaceCopy, CleanAndFullParticipantsByteForByte) {
+TEST_F(RaceCopyTest, CleanAndFullParticipantsByteForByte) {
   const QByteArray reserve = QByteArray("\r\n").repeated(7);
   const std::pair<bool, QByteArray> cases[] = {
       {false, " 5 \r\n 0 \r\n 8 \r\n 2 \r\n 3 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 1 \r\n 4 \r\n 0 \r\n 0 \r\n"
@@ -19,7 +19,7 @@ TEST_F(RaceCopy, CleanAndFullParticipantsByteForByte) {
   }
 }
 
-TEST_F(RaceCopy, ForeignNamesStayWhereTheRaceHasNone) {
+TEST_F(RaceCopyTest, ForeignNamesStayWhereTheRaceHasNone) {
   test.writeFile("M 2.lst", "alt\r\n");
   store.GruppeName[2] = "Gruppe";
   copyRace(store, 2, {}, false);
@@ -29,7 +29,7 @@ TEST_F(RaceCopy, ForeignNamesStayWhereTheRaceHasNone) {
   EXPECT_EQ(test.file("K 2.lst"), classFile(store, store.KlasseReihenfolge));
 }
 
-TEST_F(RaceCopy, RecordFarAheadRaisesTheCountAndLeavesZeroBytesBetween) {
+TEST_F(RaceCopyTest, RecordFarAheadRaisesTheCountAndLeavesZeroBytesBetween) {
   store.Rennen.ZweiDurchgaenge = 1;
   copyRace(store, 200, "Lauf ", false);
   EXPECT_EQ(store.RennenAnzahl, 200);

@@ -7,7 +7,7 @@
 
 namespace {
 
-struct StartNumbers : RaceTest {
+struct StartNumbersTest : RaceTest {
   int enter(const char *name, int order, int klasse = 1, int startNr = 0) {
     const int row = test.enter(test.addAthlete(name, 2000, 0), startNr);
     store.Teilnehmer[row].KlasseReihe = order;
@@ -24,7 +24,7 @@ struct StartNumbers : RaceTest {
 
 } // namespace
 
-TEST_F(StartNumbers, ReserveLiesBetweenKeysAndNotBeforeTheFirst) {
+TEST_F(StartNumbersTest, ReserveLiesBetweenKeysAndNotBeforeTheFirst) {
   for (const int order : {1, 2, 0, 1, 2, 0, 1})
     enter("A", order);
   const std::tuple<int, QList<int>> cases[] = {
@@ -38,7 +38,7 @@ TEST_F(StartNumbers, ReserveLiesBetweenKeysAndNotBeforeTheFirst) {
   }
 }
 
-TEST_F(StartNumbers, DrawOfTwoDigitsThenTheName) {
+TEST_F(StartNumbersTest, DrawOfTwoDigitsThenTheName) {
   for (int i = 0; i < 150; ++i)
     enter(("P" + std::to_string(900 - i)).c_str(), 7);
   Umgebung same;
@@ -55,7 +55,7 @@ TEST_F(StartNumbers, DrawOfTwoDigitsThenTheName) {
   EXPECT_NE(nummernAuslosen(store, 0), lines);
 }
 
-TEST_F(StartNumbers, NobodyIsLeftOutOfTheDraw) {
+TEST_F(StartNumbersTest, NobodyIsLeftOutOfTheDraw) {
   std::mt19937 random(2026);
   for (int i = 1; i <= 60; ++i)
     test.addAthlete(i % 8 == 0 ? QString() : "ÄRMEL Zoë", 2000, 0);
@@ -83,7 +83,7 @@ TEST_F(StartNumbers, NobodyIsLeftOutOfTheDraw) {
   }
 }
 
-TEST_F(StartNumbers, RunByClassTakesTheNumbersOfOthers) {
+TEST_F(StartNumbersTest, RunByClassTakesTheNumbersOfOthers) {
   enter("C", 1, 4);
   enter("B", 1, 4);
   enter("A", 2, 4);
@@ -101,7 +101,7 @@ TEST_F(StartNumbers, RunByClassTakesTheNumbersOfOthers) {
   EXPECT_EQ(test.beeps, 1);
 }
 
-TEST_F(StartNumbers, DeletionIsOfferedForTheFirstFiftyRowsAndTakesAll) {
+TEST_F(StartNumbersTest, DeletionIsOfferedForTheFirstFiftyRowsAndTakesAll) {
   for (const auto &[row, number, offered] :
        {std::tuple(50, 1, true), {51, 1, false}, {1, -1, false}, {1000, 1, false}}) {
     store.Teilnehmer[row].StartNr = number;

@@ -26,7 +26,7 @@ unsigned seed() {
 } // namespace
 
 // Deaths and errors in turn, for there are many more errors; each third one with a second death in the start after it.
-TEST(Drill, ASampleOfMishapsLosesNothing) {
+TEST(DrillTest, ASampleOfMishapsLosesNothing) {
   const std::vector<Drill> drills(sessions().begin(), sessions().end());
   std::vector<std::pair<const Drill *, Case>> kinds[2];
   for (const auto &drill : drills) {
@@ -52,6 +52,6 @@ TEST(Drill, ASampleOfMishapsLosesNothing) {
   std::cout << "VEXT_SEED=" << chosen << ", " << runs << " runs\n";
 }
 
-TEST(Drill, TypingNeverWaitsForTheDisk) {
+TEST(DrillTest, TypingNeverWaitsForTheDisk) {
   EXPECT_LT(Drill(sessions().front()).slowestTyping(SyncDelay), SyncDelay);
 }

@@ -22,7 +22,7 @@ struct Form18Test : ScreenTest<Form18> {
   QStringList taken;
 };
 
-TEST_F(Form18Test, carriesTheDifferenceOverUnlessItIsBelowASecond) {
+TEST_F(Form18Test, CarriesTheDifferenceOverUnlessItIsBelowASecond) {
   const std::tuple<const char *, const char *, const char *, bool> cases[] = {
       {"100", "163,45", "63,45", true}, {"163.45", " 100 ", "63,45", true},
       {"50", "50", "0", false},         {"", "0.75", "0,75", false},

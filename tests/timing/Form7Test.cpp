@@ -20,7 +20,7 @@ struct Form7Test : ScreenTest<Form7> {
   void clickLine(int line) { ScreenTest::clickLine("List2", line); }
 };
 
-TEST_F(Form7Test, showsTheSelectedParticipant) {
+TEST_F(Form7Test, ShowsTheSelectedParticipant) {
   auto &berg = store.Teilnehmer[2];
   berg.Zeit1 = 3661.5;
   berg.Punkte = 12.5F;
@@ -39,7 +39,7 @@ TEST_F(Form7Test, showsTheSelectedParticipant) {
   EXPECT_EQ(find<QComboBox>("Combo2")->currentIndex(), 2);
 }
 
-TEST_F(Form7Test, storesAgainstTheRowSelectedWhileTyping) {
+TEST_F(Form7Test, StoresAgainstTheRowSelectedWhileTyping) {
   open();
   clickLine(0);
   keys("70");
@@ -59,7 +59,7 @@ TEST_F(Form7Test, storesAgainstTheRowSelectedWhileTyping) {
   EXPECT_TRUE(test.file("R 1.dat").startsWith(" 1 \r\n 1 \r\n 0 \r\n 1 \r\n 0 \r\n 0 \r\n0\r\n70\r\n"));
 }
 
-TEST_F(Form7Test, splitsAndJoinsTimes) {
+TEST_F(Form7Test, SplitsAndJoinsTimes) {
   open();
   clickLine(0);
   type("Text1", "59.999");
@@ -73,7 +73,7 @@ TEST_F(Form7Test, splitsAndJoinsTimes) {
 }
 
 // Every way by which a number comes into the row; a refused one beeps and leaves the value and the box as they were.
-TEST_F(Form7Test, takesOnlyWhatItsFileGivesBack) {
+TEST_F(Form7Test, TakesOnlyWhatItsFileGivesBack) {
   store.Rennen.ZweiDurchgaenge = 1;
   open();
   clickLine(0);
@@ -94,7 +94,7 @@ TEST_F(Form7Test, takesOnlyWhatItsFileGivesBack) {
 }
 
 // Never a time: what is typed in the list chooses a person or is forgotten.
-TEST_F(Form7Test, typingInTheListChoosesAPerson) {
+TEST_F(Form7Test, TypingInTheListChoosesAPerson) {
   store.Teilnehmer[2].StartNr = 25;
   store.Teilnehmer[3].StartNr = 2;
   open();
@@ -123,7 +123,7 @@ TEST_F(Form7Test, typingInTheListChoosesAPerson) {
   EXPECT_TRUE(focused("List2"));
 }
 
-TEST_F(Form7Test, secondRun) {
+TEST_F(Form7Test, SecondRun) {
   store.Rennen.ZweiDurchgaenge = 1;
   store.Teilnehmer[1].Zeit1 = 50;
   open();

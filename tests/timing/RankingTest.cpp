@@ -34,7 +34,7 @@ struct RankingTest : RaceTest {
   }
 };
 
-TEST_F(RankingTest, listsOneRunWithTiesAndDifferences) {
+TEST_F(RankingTest, ListsOneRunWithTiesAndDifferences) {
   enter("ZAHN Eva", {.Zeit1 = 83.5});
   enter("ADAM Rosa-Maria Theresia Josepha", {.Zeit1 = 83.5});
   enter("MOSER Ida", {.Zeit1 = 90.004});
@@ -55,7 +55,7 @@ Rang--Name------------------Startnr.-Klasse-----------Zeit----Diff.
    1. ERSTER Max                 100 Klasse 1      3661,00     0,00)");
 }
 
-TEST_F(RankingTest, twoRunsTieByTheFirstRunOfNeighbours) {
+TEST_F(RankingTest, TwoRunsTieByTheFirstRunOfNeighbours) {
   store.Rennen.ZweiDurchgaenge = 1;
   enter("A", {.Zeit1 = 50, .Zeit2 = 50});
   enter("B", {.Zeit1 = 50, .Zeit2 = 51});
@@ -66,7 +66,7 @@ TEST_F(RankingTest, twoRunsTieByTheFirstRunOfNeighbours) {
             "   3. C                          100 Klasse 0        51,00    50,00   101,00     1,00");
 }
 
-TEST_F(RankingTest, whoIsRanked) {
+TEST_F(RankingTest, WhoIsRanked) {
   enter("A", {.Zeit1 = 50});
   enter("B", {.Zeit1 = 50, .Status2 = 5});
   enter("C", {});
@@ -83,7 +83,7 @@ TEST_F(RankingTest, whoIsRanked) {
   EXPECT_EQ(store.Teilnehmer[1].WertZeit1 + store.Teilnehmer[1].KlasseKopf, 0);
 }
 
-TEST_F(RankingTest, surchargesAndBestTimes) {
+TEST_F(RankingTest, SurchargesAndBestTimes) {
   store.Rennen.ZweiDurchgaenge = store.Rennen.BestzeitAbKlasse = 1;
   store.Rennen.ZuschlagGast = 10;
   store.Rennen.ZuschlagMann = -60;
@@ -96,7 +96,7 @@ TEST_F(RankingTest, surchargesAndBestTimes) {
   EXPECT_EQ(std::pair(store.rangliste.BestzeitDamen, store.rangliste.BestzeitHerren), std::pair(45., 1.));
 }
 
-TEST_F(RankingTest, pointsRankLowestFirstInGroups) {
+TEST_F(RankingTest, PointsRankLowestFirstInGroups) {
   store.Rennen.WertZeit = store.Rennen.WertKlassen = 0;
   store.GruppeName[7] = "Gruppe der Besten";
   enter("A", {.GruppeNr = 7, .Punkte = 2.5F, .Zeit1 = 50});
@@ -106,7 +106,7 @@ TEST_F(RankingTest, pointsRankLowestFirstInGroups) {
   EXPECT_EQ(store.rangliste.ErgebnisZeilen.last(), "   2. A                          100 Gruppe der B 00002,50");
 }
 
-TEST_F(RankingTest, firstRunIsDenseAndCarriesTheLastTimeOn) {
+TEST_F(RankingTest, FirstRunIsDenseAndCarriesTheLastTimeOn) {
   enter("A", {.Zeit1 = 0});
   enter("B", {.Zeit1 = 50});
   enter("C", {.Zeit1 = 50, .Status2 = 3});

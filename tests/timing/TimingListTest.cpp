@@ -25,7 +25,7 @@ struct TimingListTest : RaceTest {
   std::string lines(ListMode mode) { return ZeitlisteFuellen(store, mode).join(u'\n').toStdString(); }
 };
 
-TEST_F(TimingListTest, fiveOrders) {
+TEST_F(TimingListTest, FiveOrders) {
   EXPECT_EQ(lines(ListMode::Startnummer), R"(0003  BERG Max           2
 0007  CERNY Ida           3
 0012  ADAM Eva           1)");
@@ -49,7 +49,7 @@ TEST_F(TimingListTest, fiveOrders) {
 0003  BERG Max           2)");
 }
 
-TEST_F(TimingListTest, secondRunReversesTheFirstFifteen) {
+TEST_F(TimingListTest, SecondRunReversesTheFirstFifteen) {
   for (int time = 81; time <= 98; ++time)
     enter("X", time, 8, time);
   QStringList numbers;
@@ -62,7 +62,7 @@ TEST_F(TimingListTest, secondRunReversesTheFirstFifteen) {
   EXPECT_EQ(numbers, expected);
 }
 
-TEST_F(TimingListTest, secondRunByGroupsTakesTheNameOfTheRow) {
+TEST_F(TimingListTest, SecondRunByGroupsTakesTheNameOfTheRow) {
   store.Rennen.WertKlassen = 0;
   store.GruppeName[1] = "002";
   EXPECT_EQ(lines(ListMode::ZweiterDurchgang), R"(----- Damen -----------------------------------

@@ -47,7 +47,7 @@ QString faultsOf(const QByteArray &html) {
 
 } // namespace
 
-TEST(HtmlFile, IsValidEscapedAndNeedsNothingElse) {
+TEST(HtmlFileTest, IsValidEscapedAndNeedsNothingElse) {
   for (const QByteArray &html :
        {htmlOf(list(), When), htmlOf(page(), When), htmlIndex("Alle <Listen>", {{"A & B", "1 Ü \"x\".html"}}, When)}) {
     EXPECT_EQ(faultsOf(html), QString()) << html.toStdString();

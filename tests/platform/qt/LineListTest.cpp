@@ -23,7 +23,7 @@ QString copied(LineList &list, int line) {
 
 } // namespace
 
-TEST(LineListCopy, TakesTheChosenLineOrAllOfThemAsTheyAreKnown) {
+TEST(LineListTest, TakesTheChosenLineOrAllOfThemAsTheyAreKnown) {
   LineList list;
   list.fill(Lines);
   EXPECT_EQ(copied(list, 1), "MAIR Eva\t7");
