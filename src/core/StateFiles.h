@@ -12,8 +12,8 @@ struct Zustand {
 };
 
 QString zustandDatei(const Store &store);
-/// The values of Vext.dat; those that its content lacks are 0. A number too large is a ConversionFault, so is a count of
-/// more records than a file may hold: every list would be filled for ever.
+/// The values of Vext.dat; those that its content lacks are 0. A number too large is a ConversionFault, so is a count
+/// of more records than a file may hold: every list would be filled for ever.
 Zustand zustandAus(const QByteArray &bytes, const QString &path);
 QByteArray toBytes(const Zustand &zustand);
 
