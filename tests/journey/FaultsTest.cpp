@@ -9,9 +9,7 @@
 #include <QTest>
 
 #include <csignal>
-#include <fcntl.h>
 #include <sys/resource.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 // The real program, with a person at its screens (see support/Operator.cpp), dies in many ways; the next start must
