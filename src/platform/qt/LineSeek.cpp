@@ -3,6 +3,7 @@
 #include "platform/qt/LineList.h"
 #include "platform/qt/Look.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 
 #include <chrono>
@@ -21,12 +22,14 @@ LineSeek::LineSeek(LineList &list, Find find) : QLabel(list.viewport()), m_list(
   m_pause.setInterval(1s);
   m_pause.callOnTimeout([this] {
     if (m_find(m_text).second)
-      take();
+      takeByPause();
   });
   list.installEventFilter(this);
 }
 
-bool LineSeek::eventFilter(QObject *, QEvent *event) {
+bool LineSeek::eventFilter(QObject *watched, QEvent *event) {
+  if (watched == m_arrivedAt)
+    return isLateReturn(*event);
   if (event->type() == QEvent::FocusOut)
     grow({});
   return event->type() == QEvent::KeyPress && takeKey(static_cast<QKeyEvent &>(*event));
@@ -49,6 +52,27 @@ bool LineSeek::takeKey(const QKeyEvent &key) {
   }
   grow({});
   return growing && key.key() == Qt::Key_Escape;
+}
+
+void LineSeek::takeByPause() {
+  take();
+  m_arrivedAt = QApplication::focusWidget();
+  if (m_arrivedAt == &m_list)
+    m_arrivedAt = nullptr;
+  if (m_arrivedAt)
+    m_arrivedAt->installEventFilter(this);
+}
+
+// The hand that typed the text is still on its way to the Return key.
+bool LineSeek::isLateReturn(const QEvent &event) {
+  if (event.type() != QEvent::KeyPress && event.type() != QEvent::FocusOut)
+    return false;
+  m_arrivedAt->removeEventFilter(this);
+  m_arrivedAt = nullptr;
+  if (event.type() != QEvent::KeyPress)
+    return false;
+  const int key = static_cast<const QKeyEvent &>(event).key();
+  return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
 void LineSeek::grow(const QString &text) {

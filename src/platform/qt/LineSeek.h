@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QPointer>
 #include <QTimer>
 
 #include <functional>
@@ -9,7 +10,8 @@
 class LineList;
 
 /// What is typed while a list has the focus stands for one of its lines: it is shown while it grows, taken by Enter, or
-/// by a pause of a second where it can only mean one, and forgotten by Esc. The keys reach nothing else.
+/// by a pause of a second where it can only mean one, and forgotten by Esc. The keys reach nothing else, nor does an
+/// Enter that comes after the pause has taken the text.
 class LineSeek : public QLabel {
   Q_OBJECT
 
@@ -23,6 +25,8 @@ protected:
 
 private:
   bool takeKey(const QKeyEvent &key);
+  void takeByPause();
+  bool isLateReturn(const QEvent &event);
   void grow(const QString &text);
   void take();
   void tell(const QString &text);
@@ -31,4 +35,5 @@ private:
   Find m_find;
   QString m_text;
   QTimer m_pause;
+  QPointer<QWidget> m_arrivedAt;
 };
