@@ -9,11 +9,12 @@
 #include <QTextLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
 constexpr int Margin = 3;
-constexpr int LettersOfAHint = 120, MostLines = 3;
+constexpr int LettersOfAHint = 160, MostLines = 3;
 constexpr QRgb Ground = 0xFFF1C9;
 
 // A triangle with an exclamation mark, as high as the letters.
@@ -45,20 +46,26 @@ QStringList wrapped(const QString &text, const QFont &font, int width, int most)
 
 } // namespace
 
-HintLine::HintLine(int width, QWidget *parent) : QLabel(parent) {
-  m_lines = std::clamp(LettersOfAHint * fontMetrics().averageCharWidth() / std::max(width, 1) + 1, 1, MostLines);
+HintLine::HintLine(QWidget *parent) : QLabel(parent) {
   setObjectName(QStringLiteral("Hinweis"));
   setTextFormat(Qt::PlainText);
   setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 }
 
+void HintLine::makeRoom(int width) {
+  m_lines = std::clamp(LettersOfAHint * fontMetrics().averageCharWidth() / std::max(width, 1) + 1, 1, MostLines);
+  updateGeometry();
+}
+
 void HintLine::tell(const QStringList &hints) {
   if (hints == m_hints)
     return;
-  const QString before = m_hints.value(m_shown);
-  m_hints = hints;
+  const QString shown = m_hints.value(m_shown);
+  const QStringList before = std::exchange(m_hints, hints);
   setAccessibleDescription(m_hints.join(QLatin1Char('\n')));
-  show(std::max(0, int(m_hints.indexOf(before))));
+  const auto stays = m_hints.begin() + std::max<qsizetype>(0, m_hints.indexOf(shown));
+  const auto isNew = [&before](const QString &hint) { return !before.contains(hint); };
+  show(int(std::find_if(m_hints.begin(), stays, isNew) - m_hints.begin()));
 }
 
 void HintLine::showNext() {

@@ -9,11 +9,13 @@ class HintLine : public QLabel {
   Q_OBJECT
 
 public:
-  /// On a screen that likes to be `width` pixels wide; a narrow one gets room for more lines.
-  HintLine(int width, QWidget *parent);
+  explicit HintLine(QWidget *parent);
+
+  /// On a screen of `width` pixels; a narrow one gets room for more lines.
+  void makeRoom(int width);
 
   /// All that is to be told now, the most pressing first; nothing leaves the line blank. The one on show stays as long
-  /// as it holds.
+  /// as it holds, unless a new one goes before it.
   void tell(const QStringList &hints);
   void showNext();
 
@@ -30,5 +32,5 @@ private:
 
   QStringList m_hints;
   int m_shown = 0;
-  int m_lines;
+  int m_lines = 1;
 };

@@ -74,7 +74,7 @@ public:
     const auto *combo = qstyleoption_cast<const QStyleOptionComboBox *>(option);
     if (element != CE_ComboBoxLabel || !combo) {
       QProxyStyle::drawControl(element, option, painter, widget);
-      if (element == CE_PushButtonBevel || element == CE_CheckBox)
+      if (element == CE_PushButtonBevel || element == CE_CheckBox || element == CE_RadioButton)
         drawWarning(*painter, option->rect, widget);
       return;
     }

@@ -88,7 +88,7 @@ void Screen::makeFoot() {
   auto *form = static_cast<QVBoxLayout *>(layout());
   if (form->count() > 1)
     new ScrollBody(*form);
-  m_foot = new HintLine(sizeHint().width(), this);
+  m_foot = new HintLine(this);
   QMargins margins = form->contentsMargins();
   margins.setBottom(2);
   form->setContentsMargins(margins);
@@ -152,9 +152,10 @@ void Screen::setControlVisible(QWidget *control, bool visible, QWidget *instead)
 // A stored size may be larger than the monitor of today.
 void Screen::takeSize() {
   const QSize stored = Settings::windowSize(objectName());
-  const QSize frame = m_desk.frame();
+  const QSize room = screen()->availableGeometry().size() - m_desk.frame();
+  m_foot->makeRoom(std::min(room.width(), (stored.isValid() ? stored : sizeHint()).width()));
   const QSize wanted = stored.isValid() ? stored : testAttribute(Qt::WA_Resized) ? size() : sizeHint();
-  resize(wanted.boundedTo(screen()->availableGeometry().size() - frame).expandedTo(minimumSizeHint()));
+  resize(wanted.boundedTo(room).expandedTo(minimumSizeHint()));
   m_ownSize = size();
 }
 

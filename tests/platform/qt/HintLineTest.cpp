@@ -62,9 +62,9 @@ TEST_F(HintLineTest, TellsWhatTheRulesSayOnceTheScreenIsIdle) {
   desk.hints().renew();
   EXPECT_EQ(line->text(), "(2 von 2) zwei");
   QTest::mouseClick(find("Hinweis"), Qt::LeftButton);
-  EXPECT_EQ(line->text(), "(1 von 2) eins");
-  desk.setHint("Sicherung");
-  EXPECT_EQ(line->text(), "(2 von 3) eins"); // the one on show stays
+  EXPECT_EQ(line->text(), QStringLiteral("(1 von 2) eins"));
+  desk.setHint(QStringLiteral("Sicherung"));
+  EXPECT_EQ(line->text(), QStringLiteral("(1 von 3) Sicherung")); // new, and before the one on show
   EXPECT_TRUE(form->field->hasFocus());
   form->field->clear();
   desk.setHint({});
