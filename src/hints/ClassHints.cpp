@@ -73,6 +73,19 @@ QList<Cell> cellsOf(const Situation &now) {
   return cells;
 }
 
+/// The number of a starter's class in the order of the race, whether or not the classes have been assigned since;
+/// nothing without a class.
+std::optional<int> orderNumber(const Situation &now, const Starter &starter) {
+  const RennenSatz &race = now.store.Rennen;
+  const TeilnehmerZeile &participant = starter.participant;
+  if (participant.KlasseNr < 1 || participant.KlasseNr > Classes)
+    return {};
+  const auto half = [](int criterion, int value) { return criterion == 1 && value == 1 ? 1 : 0; };
+  return now.store.KlasseReihenfolge(participant.KlasseNr, half(race.WertGeschlecht, starter.athlete.Geschlecht),
+                                     half(race.WertGaeste, participant.Gast),
+                                     half(race.WertBoarder, participant.Boarder));
+}
+
 Hint aboutCell(const QString &text, const Cell &cell) {
   return {text, QStringLiteral("Label3_%1").arg(cell.position)};
 }
@@ -82,13 +95,21 @@ bool hasTwoRunTimes(const Situation &now) {
                      [](const Starter &starter) { return starter.participant.Zeit2 > 0; });
 }
 
+/// Whether there are starters, and none of them has it.
+template <typename Has> bool nobody(const Situation &now, Has has) {
+  const auto &all = now.starters();
+  return !all.isEmpty() &&
+         std::none_of(all.begin(), all.end(), [has](const Starter &starter) { return has(starter.participant); });
+}
+
 Hint fractionCut(const Situation &now, const char *field) {
   const QString shown = now.text(field);
   if (!shown.contains(QLatin1Char(',')))
     return {};
-  return {QStringLiteral("Das Feld liest nur bis zum Komma: Verlässt man es noch einmal, wird aus %1 %2.")
-              .arg(shown, plainText(leadingNumber(shown))),
-          QLatin1String(field)};
+  return {
+      QStringLiteral("Das Feld liest nur bis zum Komma, beim Verlassen wird aus %1 %2: Bruchteile mit Punkt tippen.")
+          .arg(shown, plainText(leadingNumber(shown))),
+      QLatin1String(field)};
 }
 
 using Names = Tabelle<QString, 0, 100>;
@@ -202,6 +223,14 @@ Hint Hints::sameNumberOtherName(const Situation &now) {
   return {};
 }
 
+Hint Hints::rankedTogether(const Situation &now) {
+  if (now.store.Rennen.WertKlassen != 1)
+    return {};
+  const QStringList who = namesOf(now, [&](const Starter &starter) { return orderNumber(now, starter) == 0; });
+  return {aboutStarters(who, "Teilnehmer hat", "Teilnehmer haben",
+                        "%1 keine Klassennummer, alle zusammen gewertet: „Klassen-Start-Reihenfolge“ öffnen (%2).")};
+}
+
 Hint Hints::classWithoutName(const Situation &now) {
   const QStringList who = namesOf(now, [&](const Starter &starter) {
     return nameIn(now.store.KlasseGenauName, starter.participant.KlasseGenau).isEmpty();
@@ -239,13 +268,25 @@ Hint Hints::menSurchargeCut(const Situation &now) {
   return fractionCut(now, "Text2");
 }
 
-Hint Hints::pointsWithoutPoints(const Situation &now) {
-  const auto &all = now.starters();
-  if (now.store.Rennen.WertZeit == 1 || all.isEmpty())
+Hint Hints::lowestPointsWin(const Situation &now) {
+  if (now.store.Rennen.WertZeit == 1)
     return {};
-  const bool any = std::any_of(all.begin(), all.end(), [](const Starter &s) { return s.participant.Punkte != 0; });
-  return {any ? QStringLiteral("Bei Punkten gewinnt die niedrigste Zahl, und jeder braucht eine Zeit im 1. Durchgang.")
-              : QStringLiteral("Gewertet wird nach Punkten, aber noch niemand hat welche.")};
+  return {QStringLiteral("Bei Punkten gewinnt die niedrigste Zahl, und jeder braucht eine Zeit im 1. Durchgang."),
+          QStringLiteral("Check5")};
+}
+
+Hint Hints::pointsWithoutPoints(const Situation &now) {
+  if (now.store.Rennen.WertZeit == 1 ||
+      !nobody(now, [](const TeilnehmerZeile &participant) { return participant.Punkte != 0; }))
+    return {};
+  return {QStringLiteral("Gewertet wird nach Punkten, und niemand hat welche: „Zeit“ in den Auswertungskriterien?")};
+}
+
+Hint Hints::groupsWithoutAny(const Situation &now) {
+  if (now.store.Rennen.WertKlassen == 1 || !nobody(now, groupOf))
+    return {};
+  return {
+      QStringLiteral("Gewertet wird nach Gruppen, und niemand ist in einer: „Klassen“ in den Auswertungskriterien?")};
 }
 
 Hint Hints::secondTimesLeft(const Situation &now) {

@@ -62,6 +62,16 @@ const Starter *shownStarter(const Situation &now) {
 
 } // namespace
 
+// The list is filled anew only where it is filtered.
+Hint Hints::athletesNotListed(const Situation &now) {
+  const int athletes = namedAthletes(now.store);
+  if (!trimmedBlanks(now.text("Text1")).isEmpty() || now.number("List1.Zeilen") == athletes)
+    return {};
+  return {QStringLiteral("Die Liste der Sportler ist nicht auf dem neuen Stand: „alle zeigen“ zeigt alle %1.")
+              .arg(athletes),
+          QStringLiteral("Command4")};
+}
+
 Hint Hints::filterHidesParticipants(const Situation &now) {
   const QString beginning = trimmedBlanks(upperCase(now.text("Text2")));
   if (beginning.isEmpty())
@@ -147,7 +157,8 @@ Hint Hints::participantsWithoutSex(const Situation &now) {
     return {};
   return {aboutStarters(namesOf(now, [](const Starter &starter) { return starter.athlete.Geschlecht == 2; }),
                         "Teilnehmer hat", "Teilnehmer haben",
-                        "%1 kein Geschlecht, beim Bilden der Klassen endet das Programm (%2).")};
+                        "%1 kein Geschlecht: bei „Läufer“ eintragen, sonst endet beim Bilden der Klassen das Programm "
+                        "(%2).")};
 }
 
 Hint Hints::participantsWithoutDate(const Situation &now) {
@@ -196,6 +207,16 @@ Hint Hints::drawReplacesNumbers(const Situation &now) {
     return {};
   return {QStringLiteral("„LOS !“ gibt allen eine neue Nummer, auch denen, die schon eine haben."),
           QStringLiteral("Command3")};
+}
+
+Hint Hints::groupRunTakesClass(const Situation &now) {
+  if (now.store.Rennen.WertKlassen == 1 || !now.isOn("Command11"))
+    return {};
+  const qint64 number = now.number("Combo2") + 1;
+  return {QStringLiteral("„LOS !“ gibt die Nummern nicht dieser Gruppe, sondern der Klasse %1, „%2“.")
+              .arg(number)
+              .arg(nameIn(now.store.KlasseName, int(number))),
+          QStringLiteral("Command11")};
 }
 
 Hint Hints::classRunRepeatsNumbers(const Situation &now) {

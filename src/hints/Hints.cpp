@@ -10,11 +10,15 @@ constexpr auto Entering = "beim Betreten des Feldes";
 constexpr auto Choosing = "bei der Auswahl";
 
 constexpr HintRule Rules[] = {
-    // What ends the program goes first.
+    // What ends the program or loses a race goes first.
     {"Geschlecht fehlt im Rennen", "Form4 Form5 Form6 Form7 Form8 Form10 Form12 Form14 Form15", Always,
      Hints::participantsWithoutSex},
+    {"Kein Rennen offen", "Form5 Form6 Form7 Form8 Form10 Form11 Form12 Form15", Always, Hints::noRaceOpen},
+    {"Bruchteil in Punkten", "Form4 Form5 Form6 Form7 Form8", Always, Hints::pointsLoseRace},
     {"Zu viele Rennen", "Form19", Choosing, Hints::tooManyRacesInSum},
     {"Zu viele Läufe", "Form20", Choosing, Hints::tooManyRoundsInCup},
+
+    {"Leerer Ordner", "Form1", Always, Hints::emptyFolder},
 
     {"Telefon", "Form2", Entering, Hints::phoneTakesContact},
     {"Kurzbezeichnung fehlt", "Form2", Always, Hints::clubWithoutShortName},
@@ -44,6 +48,7 @@ constexpr HintRule Rules[] = {
 
     {"Löschen aus der Liste", "Form5", Choosing, Hints::removalLosesResult},
     {"Neuaufnahme", "Form5", Typing, Hints::newEntryRenames},
+    {"Neue Läufer", "Form5", "nach einer Neuaufnahme", Hints::athletesNotListed},
     {"Filter", "Form5", Typing, Hints::filterHidesParticipants},
     {"Kombilauf", "Form5 Form8", Always, Hints::combinedRaceMoved},
     {"Zweimal im Feld", "Form5 Form6 Form7", Always, Hints::twiceInField},
@@ -54,10 +59,13 @@ constexpr HintRule Rules[] = {
     {"Häkchen nach dem Losen", "Form6", "nach einer Nummernvergabe", Hints::boxHitsAnother},
     {"Reserve", "Form6", Typing, Hints::reserveOutOfRange},
     {"Neu losen", "Form6", Choosing, Hints::drawReplacesNumbers},
+    {"Nummern einer Gruppe", "Form6", Choosing, Hints::groupRunTakesClass},
     {"Nummern einer Klasse", "Form6", Choosing, Hints::classRunRepeatsNumbers},
 
     {"Keine Zeit", "Form7", Typing, Hints::notAFirstTime},
     {"Keine zweite Zeit", "Form7", Typing, Hints::notASecondTime},
+    {"Zeit wird ersetzt", "Form7", Entering, Hints::timeReplaced},
+    {"Zeit in Teilen", "Form7", Entering, Hints::timeInParts},
     {"Punkte verlieren Bruchteile", "Form7", Always, Hints::pointsCut},
     {"Zeit passt nicht", "Form7", Always, Hints::unlikelyFirstTime},
     {"Zweite Zeit passt nicht", "Form7", Always, Hints::unlikelySecondTime},
@@ -82,6 +90,7 @@ constexpr HintRule Rules[] = {
     {"Nummern fehlen", "Form6 Form7 Form8", Always, Hints::numbersMissing},
     {"Nummern doppelt", "Form6 Form7 Form8", Always, Hints::numbersTwice},
     {"Keine Klasse", "Form5 Form6 Form8 Form10 Form15", Always, Hints::participantsWithoutClass},
+    {"Alle in einer Klasse", "Form6 Form7 Form8", Always, Hints::rankedTogether},
     {"Klasse ohne Bezeichnung", "Form8 Form15", Always, Hints::classWithoutName},
     {"Ohne Geburtsdatum", "Form5 Form6 Form10", Always, Hints::participantsWithoutDate},
     {"Ohne Namen", "Form5 Form6 Form8", Always, Hints::participantsWithoutName},
@@ -99,7 +108,9 @@ constexpr HintRule Rules[] = {
 
     {"Zuschlag Gäste", "Form14", Always, Hints::guestSurchargeCut},
     {"Zuschlag Männer", "Form14", Always, Hints::menSurchargeCut},
-    {"Wertung nach Punkten", "Form14", Always, Hints::pointsWithoutPoints},
+    {"Wertung nach Punkten", "Form14", Always, Hints::lowestPointsWin},
+    {"Niemand hat Punkte", "Form6 Form7 Form8 Form14", Always, Hints::pointsWithoutPoints},
+    {"Niemand in einer Gruppe", "Form6 Form7 Form8 Form14", Always, Hints::groupsWithoutAny},
     {"Zweite Zeiten übrig", "Form14", Always, Hints::secondTimesLeft},
 
     {"Mannschaften nicht gespeichert", "Form11", Always, Hints::teamsNotSaved},
@@ -138,12 +149,14 @@ std::span<const HintRule> hintRules() {
 
 QList<Hint> HintBook::of(const QString &screen, const ShownValues &shown) {
   const Situation now(m_store, shown, m_races);
-  QList<Hint> hints;
+  QList<Hint> ofMoment, lasting;
   for (const HintRule &rule : Rules) {
     if (!QString::fromLatin1(rule.screens).split(QLatin1Char(' ')).contains(screen))
       continue;
-    if (const Hint hint = rule.rule(now); !hint.text.isEmpty())
-      hints << hint;
+    const Hint hint = rule.rule(now);
+    if (hint.text.isEmpty())
+      continue;
+    (rule.moment == Always ? lasting : ofMoment) << hint;
   }
-  return hints;
+  return ofMoment + lasting;
 }

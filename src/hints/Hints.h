@@ -13,7 +13,7 @@ struct HintRule {
   Hint (*rule)(const Situation &);
 };
 
-/// All hints of the program; on a screen with several the first of this list is shown first.
+/// All hints of the program. On a screen with several those of a moment go first, then the first of this list.
 std::span<const HintRule> hintRules();
 
 /// The hints that stand on a screen now. They change nothing and never end the program.

@@ -1,6 +1,9 @@
+#include "core/RecordFiles.h"
 #include "hints/Rules.h"
 #include "platform/Numbers.h"
 #include "raceprep/RaceCopy.h"
+
+#include <QDir>
 
 // The hub of the races (Form4), its question (Form9) and the copy (CupKopie).
 
@@ -10,6 +13,11 @@ constexpr int HighestOfSeries = 999; // cup and time sum read three digits
 
 QString openRaceName(const Situation &now) {
   return shownText(now.store.Rennen.RennenName);
+}
+
+// The first name goes into record 1 while race 0 stays open.
+QString enteredName(const Situation &now) {
+  return now.store.AktRennen == 0 ? shownText(raceRecord(now.store, 1).RennenName) : openRaceName(now);
 }
 
 } // namespace
@@ -23,8 +31,24 @@ Hint Hints::firstRaceNotOpen(const Situation &now) {
           QStringLiteral("Command1")};
 }
 
+// All that is made there goes into files of race 0, which is never opened again.
+Hint Hints::noRaceOpen(const Situation &now) {
+  if (now.store.AktRennen != 0)
+    return {};
+  return {QStringLiteral(
+      "Noch ist kein Rennen offen, alles hier ginge verloren: mit „fertig“ bis ins Hauptmenü und wieder herein.")};
+}
+
+Hint Hints::emptyFolder(const Situation &now) {
+  if (now.store.LaeuferAnzahl + now.store.VereinAnzahl + now.store.RennenAnzahl > 0)
+    return {};
+  const QString folder = QDir(now.store.DatenOrdner).absolutePath();
+  return {QStringLiteral("Der Ordner „%1“ ist leer: mit „Vereine“ und „Läufer“ beginnen, dann „Veranstaltungen“.")
+              .arg(QDir(folder).dirName())};
+}
+
 Hint Hints::raceNameNotEntered(const Situation &now) {
-  const QString typed = trimmedBlanks(now.text("Text2")), stored = openRaceName(now);
+  const QString typed = trimmedBlanks(now.text("Text2")), stored = enteredName(now);
   if (typed == stored || (stored.isEmpty() && typed == QStringLiteral("leer")))
     return {};
   return {QStringLiteral(
@@ -33,7 +57,7 @@ Hint Hints::raceNameNotEntered(const Situation &now) {
 }
 
 Hint Hints::functionsLocked(const Situation &now) {
-  if (now.isOn("Command4") || trimmedBlanks(now.text("Text2")) != openRaceName(now))
+  if (now.isOn("Command4") || trimmedBlanks(now.text("Text2")) != enteredName(now))
     return {};
   return {QStringLiteral("Ein Klick in den Namen macht die Knöpfe grau: „eintragen“ macht sie wieder frei."),
           QStringLiteral("Command7")};

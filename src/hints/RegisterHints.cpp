@@ -141,9 +141,11 @@ Hint Hints::athleteWithoutDate(const Situation &now) {
 }
 
 Hint Hints::athletePointsCut(const Situation &now) {
-  const QString points = now.text("Text5");
+  QString points = now.text("Text5");
+  points.replace(QLatin1Char('.'), QLatin1Char(','));
   if (!points.contains(QLatin1Char(',')))
     return {};
-  return {QStringLiteral("Aus %1 Punkten werden beim Verlassen %2.").arg(points, plainText(leadingNumber(points))),
+  return {QStringLiteral("Punkte verlieren ihre Bruchteile, sobald man das Feld durchläuft: aus %1 wird %2.")
+              .arg(points, plainText(leadingNumber(points))),
           QStringLiteral("Text5")};
 }

@@ -60,6 +60,10 @@ QByteArrayView nameBytes(const Store &store, int athlete) {
   return record.first(std::min<qsizetype>(NameBytes, record.size()));
 }
 
+bool isBlank(QByteArrayView name) {
+  return std::all_of(name.begin(), name.end(), [](char byte) { return byte == ' '; });
+}
+
 bool begins(const Folded &name, const Folded &beginning) {
   return name.size >= beginning.size &&
          std::equal(beginning.letters.begin(), beginning.letters.begin() + beginning.size, name.letters.begin());
@@ -101,8 +105,12 @@ bool anyNameBegins(const Store &store, const QString &beginning) {
 }
 
 bool hasFreeRecord(const Store &store) {
-  const auto isBlank = [](QByteArrayView name) {
-    return std::all_of(name.begin(), name.end(), [](char byte) { return byte == ' '; });
-  };
   return firstAthlete(store, isBlank) != 0;
+}
+
+int namedAthletes(const Store &store) {
+  int named = 0;
+  for (int n = 1; store.LaeuferDatei.isOpen() && n <= store.LaeuferAnzahl; ++n)
+    named += store.LaeuferDatei.holds(n) && !isBlank(nameBytes(store, n));
+  return named;
 }

@@ -18,3 +18,5 @@ std::optional<SimilarName> similarName(const Store &store, const QString &name, 
 bool anyNameBegins(const Store &store, const QString &beginning);
 /// Whether a record without a name can be used anew.
 bool hasFreeRecord(const Store &store);
+/// How many athletes have a name.
+int namedAthletes(const Store &store);

@@ -21,6 +21,8 @@ Hint athleteWithoutDate(const Situation &now);
 Hint athletePointsCut(const Situation &now);
 
 // Races and their copies.
+Hint emptyFolder(const Situation &now);
+Hint noRaceOpen(const Situation &now);
 Hint firstRaceNotOpen(const Situation &now);
 Hint raceNameNotEntered(const Situation &now);
 Hint functionsLocked(const Situation &now);
@@ -34,6 +36,7 @@ Hint copyOfAnotherRace(const Situation &now);
 Hint copyTooHighForCup(const Situation &now);
 
 // Participants and start numbers.
+Hint athletesNotListed(const Situation &now);
 Hint filterHidesParticipants(const Situation &now);
 Hint clubNotChosen(const Situation &now);
 Hint twiceInField(const Situation &now);
@@ -49,6 +52,7 @@ Hint numbersMissing(const Situation &now);
 Hint boxHitsAnother(const Situation &now);
 Hint reserveOutOfRange(const Situation &now);
 Hint drawReplacesNumbers(const Situation &now);
+Hint groupRunTakesClass(const Situation &now);
 Hint classRunRepeatsNumbers(const Situation &now);
 Hint numberNotStored(const Situation &now);
 
@@ -59,12 +63,15 @@ Hint participantsWithoutClass(const Situation &now);
 Hint yearPutBack(const Situation &now);
 Hint classWithoutNumber(const Situation &now);
 Hint sameNumberOtherName(const Situation &now);
+Hint rankedTogether(const Situation &now);
 Hint classWithoutName(const Situation &now);
 Hint orderNumberTooHigh(const Situation &now);
 Hint emptyClassRow(const Situation &now);
 Hint guestSurchargeCut(const Situation &now);
 Hint menSurchargeCut(const Situation &now);
+Hint lowestPointsWin(const Situation &now);
 Hint pointsWithoutPoints(const Situation &now);
+Hint groupsWithoutAny(const Situation &now);
 Hint secondTimesLeft(const Situation &now);
 Hint teamsNotSaved(const Situation &now);
 Hint groupsNotSaved(const Situation &now);
@@ -76,7 +83,10 @@ Hint membersWithoutGroup(const Situation &now);
 // Times, statuses and points.
 Hint notAFirstTime(const Situation &now);
 Hint notASecondTime(const Situation &now);
+Hint timeReplaced(const Situation &now);
+Hint timeInParts(const Situation &now);
 Hint pointsCut(const Situation &now);
+Hint pointsLoseRace(const Situation &now);
 Hint withoutTime(const Situation &now);
 Hint withoutSecondTime(const Situation &now);
 Hint statusBesideTime(const Situation &now);

@@ -41,7 +41,8 @@ Hint notATime(const Situation &now, const char *field, Times time) {
   const QString typed = now.text(field);
   if (!shown || regionalNumber(KommaEingabe(typed)))
     return {};
-  return {QStringLiteral("„%1“ ist keine Zahl: Gespeichert bleibt %2.").arg(typed, plainText(shown->participant.*time)),
+  return {QStringLiteral("„%1“ ist keine Zahl, gespeichert bleibt %2: Sekunden tippen, etwa 63,45.")
+              .arg(typed, plainText(shown->participant.*time)),
           QLatin1String(field)};
 }
 
@@ -108,6 +109,30 @@ Hint Hints::notASecondTime(const Situation &now) {
   return now.store.Rennen.ZweiDurchgaenge == 0 ? Hint() : notATime(now, "Text6", &TeilnehmerZeile::Zeit2);
 }
 
+// The whole time is selected, so that the next key replaces it.
+Hint Hints::timeReplaced(const Situation &now) {
+  const bool second = now.hasFocus("Text6");
+  const Times time = second ? &TeilnehmerZeile::Zeit2 : &TeilnehmerZeile::Zeit1;
+  const Starter *shown = second || now.hasFocus("Text1") ? now.starterOf(now.number("Label11")) : nullptr;
+  if (!shown || !has(*shown, time))
+    return {};
+  return {QStringLiteral("%1 hat schon %2: Was hier getippt wird, ersetzt diese Zeit.")
+              .arg(numbered(*shown), ZeitText(shown->participant.*time)),
+          now.text("Fokus")};
+}
+
+Hint Hints::timeInParts(const Situation &now) {
+  const auto isIn = [&now](std::initializer_list<const char *> fields) {
+    return std::any_of(fields.begin(), fields.end(), [&now](const char *field) { return now.hasFocus(field); });
+  };
+  const bool first = isIn({"Text2", "Text3", "Text4"});
+  if (!first && !isIn({"Text7", "Text8", "Text9"}))
+    return {};
+  return {
+      QStringLiteral("Stunden, Minuten und Sekunden gelten erst nach „eintragen“ daneben, sonst sind sie verloren."),
+      first ? QStringLiteral("Command2") : QStringLiteral("Command6")};
+}
+
 Hint Hints::pointsCut(const Situation &now) {
   QString typed = now.text("Text5");
   typed.replace(QLatin1Char('.'), QLatin1Char(','));
@@ -116,6 +141,16 @@ Hint Hints::pointsCut(const Situation &now) {
   return {QStringLiteral("Punkte verlieren ihre Bruchteile, sobald man das Feld durchläuft: aus %1 wird %2.")
               .arg(typed, plainText(leadingNumber(typed))),
           QStringLiteral("Text5")};
+}
+
+// Their comma parts the line in two when the race is read again.
+Hint Hints::pointsLoseRace(const Situation &now) {
+  const auto parted = [](const Starter &starter) {
+    return plainText(starter.participant.Punkte).contains(QLatin1Char(','));
+  };
+  return {aboutStarters(
+      namesOf(now, parted), "Teilnehmer hat", "Teilnehmer haben",
+      "%1 Punkte mit Bruchteil: Nach dem Speichern fehlen Personen und Zeiten, ganze Zahlen tippen (%2).")};
 }
 
 Hint Hints::withoutTime(const Situation &now) {
@@ -138,12 +173,13 @@ Hint Hints::withoutSecondTime(const Situation &now) {
 }
 
 Hint Hints::statusBesideTime(const Situation &now) {
-  return {aboutStarters(namesOf(now,
-                                [](const Starter &starter) {
-                                  return !isOk(starter) && (has(starter, &TeilnehmerZeile::Zeit1) ||
-                                                            has(starter, &TeilnehmerZeile::Zeit2));
-                                }),
-                        "hat", "haben", "%1 eine Zeit und einen Status, also keine Wertung (%2).")};
+  return {
+      aboutStarters(namesOf(now,
+                            [](const Starter &starter) {
+                              return !isOk(starter) &&
+                                     (has(starter, &TeilnehmerZeile::Zeit1) || has(starter, &TeilnehmerZeile::Zeit2));
+                            }),
+                    "Teilnehmer hat", "Teilnehmer haben", "%1 eine Zeit und einen Status, also keine Wertung (%2).")};
 }
 
 Hint Hints::statusWithoutText(const Situation &now) {
@@ -152,7 +188,7 @@ Hint Hints::statusWithoutText(const Situation &now) {
                                   return std::max(starter.participant.Status1, starter.participant.Status2) >
                                          LastStatus;
                                 }),
-                        "hat", "haben", "%1 einen leeren Status, also keine Wertung (%2)."),
+                        "Teilnehmer hat", "Teilnehmer haben", "%1 einen leeren Status, also keine Wertung (%2)."),
           {}};
 }
 
@@ -175,12 +211,12 @@ Hint Hints::sameSecondTime(const Situation &now) {
 Hint Hints::pointsWithoutTime(const Situation &now) {
   if (now.store.Rennen.WertZeit == 1)
     return {};
-  return {aboutStarters(namesOf(now,
-                                [](const Starter &starter) {
-                                  return isOk(starter) && starter.participant.Punkte != 0 &&
-                                         !has(starter, &TeilnehmerZeile::Zeit1);
-                                }),
-                        "hat", "haben", "%1 Punkte und keine Zeit, ohne sie keine Wertung (%2).")};
+  return {aboutStarters(
+      namesOf(now,
+              [](const Starter &starter) {
+                return isOk(starter) && starter.participant.Punkte != 0 && !has(starter, &TeilnehmerZeile::Zeit1);
+              }),
+      "Teilnehmer hat", "Teilnehmer haben", "%1 Punkte und keine Zeit, ohne sie keine Wertung (%2).")};
 }
 
 Hint Hints::auxiliaryTakesFirstRun(const Situation &now) {

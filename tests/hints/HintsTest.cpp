@@ -91,6 +91,11 @@ struct Case {
 };
 
 const std::vector<Case> OfRegisters{
+    {"Leerer Ordner",
+     [](Trap &t, bool on) {
+       t.store.LaeuferAnzahl = t.store.VereinAnzahl = 0;
+       t.store.RennenAnzahl = on ? 0 : 1;
+     }},
     {"Geschlecht fehlt im Rennen", [](Trap &t, bool on) { t.store.Rennen.WertGeschlecht = on, t.sexOf(2, 2); }},
     {"Zu viele Rennen", [](Trap &t, bool on) { t.races(11), t.mark(on ? 11 : 10); }},
     {"Zu viele Läufe",
@@ -114,10 +119,36 @@ const std::vector<Case> OfRegisters{
        t.show("Text1", "2");
        t.athlete(on ? 2 : 1, [](auto &athlete) { athlete.Geburtsdatum = 2; });
      }},
-    {"Punkte des Läufers", [](Trap &t, bool on) { t.show("Text5", on ? "2,5" : "25"); }},
+    {"Punkte des Läufers", [](Trap &t, bool on) { t.show("Text5", on ? "2.5" : "25"); }},
 };
 
 const std::vector<Case> OfRaces{
+    {"Kein Rennen offen", [](Trap &t, bool on) { t.store.AktRennen = on ? 0 : 1; }},
+    {"Bruchteil in Punkten", [](Trap &t, bool on) { t.row(2).Punkte = on ? 2.5F : 2; }},
+    {"Name nicht eingetragen", // the first of the folder, entered and not yet open
+     [](Trap &t, bool on) {
+       t.races(1);
+       t.store.AktRennen = 0;
+       t.store.Rennen = {};
+       t.show("Text2", on ? "Lauf 2" : "Lauf 1");
+     }},
+    {"Neue Läufer", [](Trap &t, bool on) { t.show("List1.Zeilen", on ? "2" : "3"); }},
+    {"Nummern einer Gruppe",
+     [](Trap &t, bool on) {
+       t.store.Rennen.WertKlassen = on ? 0 : 1;
+       t.show("Command11", "1", "Combo2", "0");
+     }},
+    {"Alle in einer Klasse", [](Trap &t, bool on) { t.store.KlasseReihenfolge(1, 0, 0, 0) = on ? 0 : 1; }},
+    {"Niemand hat Punkte",
+     [](Trap &t, bool on) {
+       t.store.Rennen.WertZeit = 0;
+       t.row(3).Punkte = on ? 0 : 7;
+     }},
+    {"Niemand in einer Gruppe",
+     [](Trap &t, bool on) {
+       t.store.Rennen.WertKlassen = 0;
+       t.row(3).GruppeNr = on ? 0 : 1;
+     }},
     {"Erstes Rennen", [](Trap &t, bool on) { t.store.AktRennen = on ? 0 : 1; }},
     {"Name nicht eingetragen", [](Trap &t, bool on) { t.show("Text2", on ? "Rennen 2" : "Rennen "); }},
     {"Graue Knöpfe", [](Trap &t, bool on) { t.show("Text2", "Rennen", "Command4", on ? "0" : "1"); }},
@@ -161,6 +192,12 @@ const std::vector<Case> OfRaces{
 };
 
 const std::vector<Case> OfTimes{
+    {"Zeit wird ersetzt",
+     [](Trap &t, bool on) {
+       t.times(40, on ? 41. : 0., 42);
+       t.show("Label11", "2", "Fokus", "Text1");
+     }},
+    {"Zeit in Teilen", [](Trap &t, bool on) { t.show("Fokus", on ? "Text9" : "Text6"); }},
     {"Keine Zeit", [](Trap &t, bool on) { t.show("Label11", "1", "Text1", on ? "1.2.3" : "1.2"); }},
     {"Keine zweite Zeit",
      [](Trap &t, bool on) { t.store.Rennen.ZweiDurchgaenge = 1, t.show("Label11", "1", "Text6", on ? "x" : ""); }},

@@ -74,6 +74,8 @@ ShownValues shownValues(const QWidget &screen) {
     if (!control->objectName().isEmpty())
       if (const auto value = valueOf(control))
         values[control->objectName()] = *value;
+  for (const auto *list : screen.findChildren<LineList *>())
+    values[list->objectName() + QStringLiteral(".Zeilen")] = QString::number(list->lines().size());
   if (const auto *focus = screen.focusWidget())
     values[QStringLiteral("Fokus")] = focus->objectName();
   return values;
