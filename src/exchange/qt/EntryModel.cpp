@@ -81,6 +81,8 @@ QVariant EntryModel::data(const QModelIndex &index, int role) const {
     return text(line, index.column());
   if (role == Qt::BackgroundRole)
     return QColor(look.ground);
+  if (role == Qt::ForegroundRole)
+    return QColor(Qt::black); // the grounds are pale in every theme
   return {};
 }
 

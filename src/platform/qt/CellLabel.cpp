@@ -1,7 +1,15 @@
 #include "platform/qt/CellLabel.h"
 
+#include "platform/qt/Look.h"
+
 #include <QKeyEvent>
 #include <QPainter>
+
+namespace {
+
+constexpr QRgb ChosenGround = 0x1C222B; // on which green letters can be read
+
+} // namespace
 
 CellLabel::CellLabel(QWidget *parent) : QLabel(parent) {
   setFocusPolicy(Qt::ClickFocus);
@@ -9,9 +17,14 @@ CellLabel::CellLabel(QWidget *parent) : QLabel(parent) {
 }
 
 void CellLabel::setChosen(bool chosen, QColor letters) {
-  QPalette colors = palette();
-  colors.setColor(QPalette::WindowText, chosen ? letters : QColor(Qt::black));
-  setPalette(colors);
+  if (chosen == font().bold())
+    return;
+  Look::setGround(this, chosen ? QColor(ChosenGround) : QColor(Qt::white));
+  if (chosen) {
+    QPalette colors = palette();
+    colors.setColor(QPalette::WindowText, letters);
+    setPalette(colors);
+  }
   QFont type = font();
   type.setBold(chosen);
   setFont(type);
@@ -61,6 +74,5 @@ void CellLabel::paintEvent(QPaintEvent *event) {
   if (!hasFocus())
     return;
   QPainter painter(this);
-  painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-  painter.drawRect(rect().adjusted(1, 1, -1, -1));
+  Look::drawFrame(painter, rect(), palette().color(QPalette::Highlight), Look::FocusWidth);
 }

@@ -14,14 +14,14 @@
 namespace {
 
 constexpr int Margin = 3;
-constexpr int LettersOfAHint = 160, MostLines = 3;
-constexpr QRgb Ground = 0xFFF1C9;
+constexpr int LettersOfAHint = 120, MostLines = 3;
+constexpr QRgb Ground = 0xFFF1C9, Sign = 0xB85C00; // in every theme
 
 // A triangle with an exclamation mark, as high as the letters.
 void drawSign(QPainter &painter, const QRectF &area) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(Look::WarningColor));
+  painter.setBrush(QColor(Sign));
   painter.drawPolygon(QPolygonF{{area.center().x(), area.top()}, area.bottomLeft(), area.bottomRight()});
   painter.setBrush(Qt::white);
   const double x = area.center().x(), unit = area.height() / 14;

@@ -195,7 +195,7 @@ bool LineList::event(QEvent *event) {
   const bool handled = QListView::event(event);
   if (event->type() == QEvent::Paint && hasFocus()) {
     QPainter painter(this);
-    Look::drawFrame(painter, rect(), palette().color(QPalette::Highlight));
+    Look::drawFrame(painter, rect(), palette().color(QPalette::Highlight), Look::FocusWidth);
   }
   return handled;
 }

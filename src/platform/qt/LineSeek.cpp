@@ -15,7 +15,7 @@ LineSeek::LineSeek(LineList &list, Find find) : QLabel(list.viewport()), m_list(
   setTextFormat(Qt::PlainText);
   setMargin(4);
   setFrameShape(StyledPanel);
-  Look::setGround(this, QColor(Qt::white));
+  Look::setGround(this, palette().color(QPalette::Base));
   setAttribute(Qt::WA_TransparentForMouseEvents);
   hide();
   m_pause.setSingleShot(true);

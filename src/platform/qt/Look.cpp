@@ -2,6 +2,7 @@
 
 #include "platform/Fonts.h"
 #include "platform/qt/LineList.h"
+#include "platform/qt/Style.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -13,7 +14,6 @@
 #include <QLibraryInfo>
 #include <QLineEdit>
 #include <QPainter>
-#include <QProxyStyle>
 #include <QPushButton>
 #include <QStyleOption>
 #include <QToolTip>
@@ -26,72 +26,37 @@ namespace {
 
 constexpr qreal SmallestFont = 10.5;
 constexpr qreal ControlHeight = 1.6; // of edits, buttons and combos, in lines
-
-void setColors(QPalette &palette) {
-  palette.setColor(QPalette::Window, QColor(0xF4F5F7));
-  palette.setColor(QPalette::Base, Qt::white);
-  palette.setColor(QPalette::AlternateBase, QColor(0xF4F5F7));
-  palette.setColor(QPalette::Button, QColor(0xFBFBFC));
-  palette.setColor(QPalette::ToolTipBase, QColor(0xFFFFF0));
-  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
-    palette.setColor(role, QColor(0x1C222B));
-  palette.setColor(QPalette::PlaceholderText, QColor(0x5C6673));
-  palette.setColor(QPalette::Highlight, QColor(0x1F5FA8));
-  palette.setColor(QPalette::HighlightedText, Qt::white);
-  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-    palette.setColor(QPalette::Disabled, role, QColor(0x8A919C));
-}
-
+constexpr qreal HighContrast = 20;   // of at most 21
+constexpr qreal Visible = 3;
 constexpr const char *Warned = "gewarnt";
 
-/// Fusion, but for the frames of cards and lists: at 125 % it loses some of their lines; the chosen line of a combo
-/// ends with "…" where it does not fit, and its popup scrolls; and a control may have a warning edge.
-class Style : public QProxyStyle {
-public:
-  Style() : QProxyStyle(QStringLiteral("Fusion")) {}
-
-  void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
-                     const QWidget *widget) const override {
-    if (element == PE_Frame)
-      Look::drawFrame(*painter, option->rect, QColor(0xBCC2CA));
-    else
-      QProxyStyle::drawPrimitive(element, option, painter, widget);
-    if (element == PE_Frame || element == PE_PanelLineEdit)
-      drawWarning(*painter, option->rect, widget);
-  }
-  int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
-                QStyleHintReturn *data) const override {
-    return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
-  }
-  void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
-                          const QWidget *widget) const override {
-    QProxyStyle::drawComplexControl(control, option, painter, widget);
-    if (control == CC_ComboBox)
-      drawWarning(*painter, option->rect, widget);
-  }
-  void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
-                   const QWidget *widget) const override {
-    const auto *combo = qstyleoption_cast<const QStyleOptionComboBox *>(option);
-    if (element != CE_ComboBoxLabel || !combo) {
-      QProxyStyle::drawControl(element, option, painter, widget);
-      if (element == CE_PushButtonBevel || element == CE_CheckBox || element == CE_RadioButton)
-        drawWarning(*painter, option->rect, widget);
-      return;
-    }
-    QStyleOptionComboBox elided = *combo;
-    const int room = subControlRect(CC_ComboBox, combo, SC_ComboBoxEditField, widget).width() - 2;
-    elided.currentText = combo->fontMetrics.elidedText(combo->currentText, Qt::ElideRight, room);
-    QProxyStyle::drawControl(element, &elided, painter, widget);
-  }
-
-private:
-  static void drawWarning(QPainter &painter, const QRect &area, const QWidget *widget) {
-    if (!widget || !widget->property(Warned).toBool())
-      return;
-    for (const int inset : {0, 1})
-      Look::drawFrame(painter, area.adjusted(inset, inset, -inset, -inset), QColor(Look::WarningColor));
-  }
+/// The colours of one theme.
+struct Theme {
+  QRgb window, base, button, text, quiet, disabled, frame, highlight, highlightedText, warning;
 };
+
+constexpr Theme Light{0xF4F5F7, 0xFFFFFF, 0xFBFBFC, 0x1C222B, 0x5C6673,
+                      0x646C79, 0x848C98, 0x1F5FA8, 0xFFFFFF, 0xB85C00};
+constexpr Theme Dark{0x1E2227, 0x272C33, 0x313740, 0xE8EBEF, 0xAEB7C2,
+                     0x9AA4B0, 0x808B98, 0x7DB8F5, 0x10151B, 0xFFA53D};
+constexpr Theme BlackOnWhite{0xFFFFFF, 0xFFFFFF, 0xFFFFFF, 0x000000, 0x000000,
+                             0x404040, 0x000000, 0x003C9E, 0xFFFFFF, 0xA04800};
+constexpr Theme WhiteOnBlack{0x000000, 0x000000, 0x000000, 0xFFFFFF, 0xFFFFFF,
+                             0xC0C0C0, 0xFFFFFF, 0xFFE000, 0x000000, 0xFF9A2E};
+
+// A desktop with letters of the purest black and white wants the highest contrast.
+const Theme &themeFor(const QPalette &desktop) {
+  const QColor ground = desktop.color(QPalette::Active, QPalette::Window);
+  const QColor letters = desktop.color(QPalette::Active, QPalette::WindowText);
+  const bool dark = ground.lightness() < letters.lightness();
+  if (Look::contrast(ground, letters) >= HighContrast)
+    return dark ? WhiteOnBlack : BlackOnWhite;
+  return dark ? Dark : Light;
+}
+
+QColor lettersOn(QColor ground) {
+  return Look::contrast(ground, Qt::white) > Look::contrast(ground, Qt::black) ? Qt::white : Qt::black;
+}
 
 // Where the desktop names no font of its own, "sans-serif" may well be a typewriter's.
 QFont textFont() {
@@ -159,9 +124,7 @@ static void keepPictures() {
 void Look::apply(QApplication &application) {
   keepPictures();
   QApplication::setStyle(new Style);
-  QPalette palette = QApplication::palette();
-  setColors(palette);
-  QApplication::setPalette(palette);
+  QApplication::setPalette(paletteFor(QApplication::palette()));
   substituteFonts();
   QApplication::setFont(textFont());
   auto *german = new QTranslator(&application);
@@ -181,13 +144,47 @@ void Look::applyProperties(QWidget *screen) {
   }
 }
 
+QPalette Look::paletteFor(const QPalette &desktop) {
+  const Theme &theme = themeFor(desktop);
+  QPalette palette{QColor(theme.button), QColor(theme.window)};
+  palette.setColor(QPalette::Base, QColor(theme.base));
+  palette.setColor(QPalette::AlternateBase, QColor(theme.window));
+  palette.setColor(QPalette::ToolTipBase, QColor(theme.base));
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
+    palette.setColor(role, QColor(theme.text));
+  palette.setColor(QPalette::PlaceholderText, QColor(theme.quiet));
+  palette.setColor(QPalette::Mid, QColor(theme.frame));
+  palette.setColor(QPalette::Highlight, QColor(theme.highlight));
+  palette.setColor(QPalette::HighlightedText, QColor(theme.highlightedText));
+  palette.setColor(QPalette::Link, QColor(theme.highlight));
+  palette.setColor(QPalette::BrightText, QColor(theme.warning));
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    palette.setColor(QPalette::Disabled, role, QColor(theme.disabled));
+  return palette;
+}
+
+qreal Look::contrast(QColor one, QColor other) {
+  const auto linear = [](qreal part) { return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4); };
+  const auto brightness = [linear](QColor c) {
+    return 0.2126 * linear(c.redF()) + 0.7152 * linear(c.greenF()) + 0.0722 * linear(c.blueF());
+  };
+  const qreal first = brightness(one), second = brightness(other);
+  return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+}
+
 // Filled areas cover at least one pixel at every scale; a drawn line may fall between the pixels.
-void Look::drawFrame(QPainter &painter, const QRect &area, QColor color) {
+void Look::drawFrame(QPainter &painter, const QRect &area, QColor color, int width) {
   const QRectF r = area;
-  painter.fillRect(QRectF(r.left(), r.top(), r.width(), 1), color);
-  painter.fillRect(QRectF(r.left(), r.bottom() - 1, r.width(), 1), color);
-  painter.fillRect(QRectF(r.left(), r.top(), 1, r.height()), color);
-  painter.fillRect(QRectF(r.right() - 1, r.top(), 1, r.height()), color);
+  painter.fillRect(QRectF(r.left(), r.top(), r.width(), width), color);
+  painter.fillRect(QRectF(r.left(), r.bottom() - width, r.width(), width), color);
+  painter.fillRect(QRectF(r.left(), r.top(), width, r.height()), color);
+  painter.fillRect(QRectF(r.right() - width, r.top(), width, r.height()), color);
+}
+
+void Look::drawFrame(QPainter &painter, const QStyleOption &control) {
+  const bool focus = control.state & QStyle::State_HasFocus;
+  const QColor color = control.palette.color(focus ? QPalette::Highlight : QPalette::Mid);
+  drawFrame(painter, control.rect, color, focus ? FocusWidth : 1);
 }
 
 // Escaped, as a name may hold what looks like markup; a tool tip with markup breaks its lines.
@@ -196,19 +193,29 @@ void Look::showWhole(const QHelpEvent &event, const QString &text, QWidget *widg
   QToolTip::showText(event.globalPos(), QStringLiteral("<p>%1</p>").arg(markup), widget);
 }
 
+bool Look::isWarned(const QWidget *control) {
+  return control->property(Warned).toBool();
+}
+
 void Look::setWarned(QWidget *control, bool warned) {
-  if (control->property(Warned).toBool() == warned)
+  if (isWarned(control) == warned)
     return;
   control->setProperty(Warned, warned);
   control->update();
 }
 
+// What the theme shows focus, selection and warnings in may be too pale on this ground.
 void Look::setGround(QWidget *field, QColor ground) {
-  QPalette palette = field->palette();
+  const QColor letters = lettersOn(ground);
+  QPalette palette = QApplication::palette();
   for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button})
     palette.setColor(role, ground);
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-    palette.setColor(role, Qt::black);
+    palette.setColor(role, letters);
+  for (const auto role : {QPalette::Highlight, QPalette::BrightText})
+    if (contrast(palette.color(role), ground) < Visible)
+      palette.setColor(role, letters);
+  palette.setColor(QPalette::HighlightedText, lettersOn(palette.color(QPalette::Highlight)));
   field->setPalette(palette);
   field->setAutoFillBackground(true);
 }

@@ -1,5 +1,7 @@
 #include "platform/qt/HintLine.h"
 
+#include "platform/qt/Look.h"
+#include "platform/qt/Screen.h"
 #include "support/ScreenTest.h"
 
 #include <QPushButton>
@@ -24,8 +26,9 @@ public:
 
 using HintLineTest = ScreenTest<Plain>;
 
+// Inside the frame that tells the focus.
 QRgb edgeOf(QWidget *control) {
-  return control->grab().toImage().pixel(control->width() / 2, 0);
+  return control->grab().toImage().pixel(control->width() / 2, Look::FocusWidth);
 }
 
 } // namespace
