@@ -165,7 +165,7 @@ void Form6::showParticipant(int row) {
   const LaeuferSatz athlete = LaeuferLesen(m_store, participant.LaeuferNr);
   showAthlete(athlete);
   showFields(true);
-  Look::setGround(ui->Text1, FarbTabelle::BlassGruen);
+  showNumberIs(FarbTabelle::BlassGruen, {});
   fillClubs(athlete, participant.VereinNr);
 }
 
@@ -205,7 +205,15 @@ void Form6::showNobody() {
   Look::resetGround(ui->Label2);
   ui->Text1->clear();
   Look::resetGround(ui->Text1);
+  ui->Text1->setToolTip({});
   showFields(false);
+}
+
+// The colour in words, too.
+void Form6::showNumberIs(QColor ground, const QString &words) {
+  Look::setGround(ui->Text1, ground);
+  ui->Text1->setToolTip(words);
+  ui->Text1->setAccessibleDescription(words);
 }
 
 void Form6::storeNumber() {
@@ -216,10 +224,10 @@ void Form6::storeNumber() {
     return m_store.umgebung.piep();
   // The own number counts as in use too, on purpose: red without harm.
   if (startNrVergeben(m_store, *number)) {
-    Look::setGround(ui->Text1, InUse);
+    showNumberIs(InUse, QStringLiteral("schon vergeben"));
     return;
   }
-  Look::setGround(ui->Text1, FarbTabelle::BlassGruen);
+  showNumberIs(FarbTabelle::BlassGruen, {});
   m_store.Teilnehmer[m_row].StartNr = *number;
   fillList();
 }

@@ -59,6 +59,7 @@ private:
   QString clubName(int club);
   void showFields(bool shown);
   void showNobody();
+  void showNumberIs(QColor ground, const QString &words);
   void storeNumber();
 
   void setShown(std::initializer_list<QWidget *> controls, bool shown);

@@ -75,6 +75,8 @@ EntryScreen::EntryScreen(Desk &desk, Store &store, Table table, bool race)
   column->addWidget(makeChoices());
   column->addWidget(makeButtons());
   m_view->setModel(&m_model);
+  m_view->setAccessibleName(QStringLiteral("Zeilen der Tabelle"));
+  m_club->setAccessibleName(QStringLiteral("Verein der gewählten Zeilen"));
   m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
   m_view->verticalHeader()->hide();
   m_view->horizontalHeader()->setMaximumSectionSize(WidestColumn * fontMetrics().height());
@@ -94,6 +96,7 @@ QWidget *EntryScreen::makeColumns() {
   for (int i = 0; i < int(m_table.columns()); ++i) {
     auto *kind = new QComboBox;
     kind->setObjectName(QStringLiteral("spalte%1").arg(i + 1));
+    kind->setAccessibleName(QStringLiteral("Spalte %1 enthält").arg(i + 1));
     for (int k = 0; k < ColumnKinds; ++k)
       kind->addItem(nameOf(Column(k)));
     kind->setCurrentIndex(int(m_columns.kinds[i]));

@@ -12,6 +12,7 @@
 #include <QComboBox>
 #include <QGuiApplication>
 #include <QHelpEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
@@ -80,7 +81,18 @@ void Screen::setUp() {
     field->setValidator(new SingleLine(field));
     field->installEventFilter(this);
   }
+  nameFields();
   makeFoot();
+}
+
+// A caption beside a control is its name for those who do not see it, and in what a rescue tells. Of a combo without
+// one Qt tells the chosen entry as its name.
+void Screen::nameFields() {
+  for (auto *combo : findChildren<QComboBox *>())
+    combo->setAccessibleDescription(combo->accessibleName());
+  for (const auto *caption : findChildren<QLabel *>())
+    if (auto *control = caption->buddy(); control && control->accessibleName().isEmpty())
+      control->setAccessibleName(caption->text());
 }
 
 // The hint takes the place of the lower margin.

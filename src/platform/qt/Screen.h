@@ -80,6 +80,7 @@ protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+  void nameFields();
   void makeFoot();
   void fillFoot();
   void markControls(bool warned);
