@@ -13,6 +13,7 @@ Form17::Form17(Desk &desk)
   setAttribute(Qt::WA_ShowWithoutActivating);
   setUp();
   ui->List1->viewport()->installEventFilter(this);
+  onKey(Qt::Key_Escape, [this] { close(); });
   m_timer.setObjectName(QStringLiteral("Timer1"));
   connect(&m_timer, &QTimer::timeout, this, &Form17::comeForward);
   m_timer.start(15000ms);

@@ -61,6 +61,8 @@ void Form12::connectControls() {
   connect(ui->Command3, &QPushButton::clicked, this, &Form12::print);
   connect(ui->Command6, &QPushButton::clicked, this, &Form12::druckerGewuenscht);
   connect(ui->Command1, &QPushButton::clicked, this, &Form12::close);
+  onKey(Qt::Key_F5, [this] { press(ui->Command2); });
+  onKey(QKeySequence::Print, [this] { press(ui->Command3); });
 }
 
 void Form12::becomeActive() {

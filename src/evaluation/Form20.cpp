@@ -54,6 +54,8 @@ void Form20::connectControls() {
   connect(ui->Command1, &QPushButton::clicked, this, &Form20::evaluate);
   connect(ui->Command2, &QPushButton::clicked, this, &Form20::print);
   connect(ui->Command3, &QPushButton::clicked, this, &Form20::close);
+  onKey(Qt::Key_F5, [this] { press(ui->Command1); });
+  onKey(QKeySequence::Print, [this] { press(ui->Command2); });
 }
 
 void Form20::lockPrint() {

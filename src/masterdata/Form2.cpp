@@ -41,8 +41,11 @@ void Form2::connectButtons() {
       showAndFill(*n);
   });
   connect(ui->Command3, &QPushButton::clicked, this, [this] {
+    const int before = m_store.VereinAnzahl;
     if (const auto n = nextClub(m_store, typedIndex(), RecordText::of(ui->Text2)))
       showAndFill(*n);
+    if (m_store.VereinAnzahl > before)
+      enterField(ui->Text2);
   });
   connect(ui->List1, &LineList::chosen, this, [this](int line) {
     const int number = numberAtEnd(ui->List1->lines()[line]);

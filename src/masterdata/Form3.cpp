@@ -57,9 +57,12 @@ void Form3::connectNavigation() {
       LaeuferZeigen(*n);
   });
   connect(ui->Command3, &QPushButton::clicked, this, [this] {
+    const int before = m_store.LaeuferAnzahl;
     const qint64 shown = wholeNumber(ui->Text1->text());
     if (const auto n = nextAthlete(m_store, shown, RecordText::of(ui->Text2), ui->Text4->text()))
       LaeuferZeigen(*n);
+    if (m_store.LaeuferAnzahl > before)
+      enterField(ui->Text2);
   });
   connect(ui->Command4, &QPushButton::clicked, this, [this] {
     if (!looksUndated(ui->Text4->text()))

@@ -8,6 +8,7 @@ Form28::Form28(Desk &desk, Printers &printers)
   setUp();
   connect(ui->List1, &LineList::chosen, this, [this] { ui->Command2->setEnabled(true); });
   connect(ui->Command2, &QPushButton::clicked, this, &Form28::takeChosen);
+  onReturn(ui->List1, [this] { press(ui->Command2); });
   connect(ui->Command1, &QPushButton::clicked, this, &Form28::close);
   ui->List1->setFocus();
 }

@@ -60,6 +60,7 @@ void Form8::connectDocuments() {
 void Form8::connectChoices() {
   connect(ui->Command1, &QPushButton::clicked, this, &Form8::close);
   connect(ui->Command6, &QPushButton::clicked, this, &Form8::druckerGewuenscht);
+  onKey(QKeySequence::Print, [this] { press(ui->Command3); });
   connect(ui->Command10, &QPushButton::clicked, this, [this] {
     keepBanners();
     Q_EMIT werbungGewuenscht();

@@ -17,6 +17,7 @@ Form5::Form5(Desk &desk, Store &store)
   ui->List2->hideNumbers();
   connectAthletes();
   connectParticipants();
+  connectKeys();
   connect(ui->Command1, &QPushButton::clicked, this, &Form5::close);
   fillAthletes();
   fillParticipants();
@@ -55,6 +56,14 @@ void Form5::connectParticipants() {
   connect(ui->List2, &LineList::doubleChosen, this, [this] { openParticipant(); });
   onReturn(ui->List2, [this] { openParticipant(); });
   connect(ui->Command3, &QPushButton::clicked, this, &Form5::remove);
+}
+
+void Form5::connectKeys() {
+  onKey(Qt::Key_F5, [this] {
+    fillAthletes();
+    fillParticipants();
+  });
+  onKey(QKeySequence::Find, [this] { enterField(ui->Text1->hasFocus() ? ui->Text2 : ui->Text1); });
 }
 
 void Form5::becomeActive() {

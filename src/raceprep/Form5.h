@@ -47,6 +47,7 @@ protected:
 private:
   void connectAthletes();
   void connectParticipants();
+  void connectKeys();
   void fillAthletes();
   void fillParticipants();
   void showAthlete(int record);

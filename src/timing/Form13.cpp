@@ -7,6 +7,7 @@ Form13::Form13(Desk &desk, Store &store)
   ui->setupUi(this);
   setUp();
   connect(ui->Command1, &QPushButton::clicked, this, &Form13::close);
+  onKey(Qt::Key_Escape, [this] { close(); });
   ui->List2->setFocus();
   zeigen();
 }

@@ -22,6 +22,7 @@ Form18::Form18(Desk &desk) : Screen(desk, QStringLiteral("Form18"), 18), ui(std:
   });
   onReturn(ui->Text6, [this] { subtract(); });
   connect(ui->Command4, &QPushButton::clicked, this, &Form18::carryOver);
+  onKey(Qt::Key_Escape, [this] { close(); });
 }
 
 Form18::~Form18() = default;

@@ -87,6 +87,7 @@ void Form7::connectControls() {
       refill();
       ui->List2->setFocus();
     });
+  onKey(Qt::Key_F5, [this] { refillByKey(); });
   connect(ui->List2, &LineList::chosen, this, &Form7::lineChosen);
   connect(ui->List2, &LineList::doubleChosen, this, &Form7::returnInList);
   onReturn(ui->List2, [this] { returnInList(); });
@@ -117,6 +118,13 @@ void Form7::connectStatus(QComboBox *combo, int TeilnehmerZeile::*status) {
     if (combo->currentIndex() >= 0)
       selected().*status = combo->currentIndex();
   });
+}
+
+// As a press on the list mode that is on.
+void Form7::refillByKey() {
+  for (auto *option : {ui->Option1, ui->Option2, ui->Option3, ui->Option4, ui->Option5})
+    if (option->isChecked())
+      return press(option);
 }
 
 void Form7::becomeActive() {

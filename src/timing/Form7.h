@@ -63,6 +63,7 @@ private:
   void hideUnused();
   QList<QWidget *> secondRunControls() const;
   void connectControls();
+  void refillByKey();
   void connectLauf(Lauf &lauf, QPushButton *split, QPushButton *join);
   void connectStatus(QComboBox *combo, int TeilnehmerZeile::*status);
 

@@ -25,7 +25,7 @@ constexpr Athlete Athletes[] = {
     {"IRL Paul", "31.12.1985", true, 3, 0, false, 8},  {"JOST Eva", "1.1.1986", false, 1, 0, false, 7},
     {"KERN Tom", "08.08.2000", true, 0, 0, true, 6},   {"LÄNDER Sara", "9.9.2001", false, 0, 0, true, 5},
 };
-constexpr int Count = std::size(Athletes);
+constexpr int Count = std::size(Athletes), Columns = 8; // of the grid of classes
 
 /// A start number falls to somebody of its class, whoever draws it, with this time and place.
 struct Number {
@@ -48,11 +48,16 @@ struct PreparationJourneyTest : RoofTest {
     storeStarten(*store);
     start(*store);
   }
+  /// Without the mouse, as all that is done here.
+  void press(const char *button) {
+    tabTo(button);
+    key(Qt::Key_Space);
+  }
   void open(const char *button, const char *screen) {
-    arriveAt("Form4");
-    press("Form4", button);
+    press(button);
     arriveAt(screen);
   }
+  void close(const char *button, const char *opener = "Form4") { open(button, opener); }
 
   void enterClub(const char *name) {
     tabTo("Text2");
@@ -77,36 +82,34 @@ struct PreparationJourneyTest : RoofTest {
       key(Qt::Key_Down);
   }
   void fillRegisters() {
-    press("Form1", "Command2");
-    arriveAt("Form2");
+    arriveAt("Form1");
+    open("Command2", "Form2");
     enterClub("SC Alm");
     for (const char *club : {"TV Berg", "Union Öd"}) {
       key(Qt::Key_Space);
       enterClub(club);
     }
-    window("Form2")->close();
-    press("Form1", "Command1");
-    arriveAt("Form3");
+    close("Command1", "Form1");
+    open("Command1", "Form3");
     enterAthlete(Athletes[0]);
     for (int i = 1; i < Count; ++i) {
       key(Qt::Key_Space);
       enterAthlete(Athletes[i]);
     }
-    window("Form3")->close();
+    close("Command1", "Form1");
   }
 
   // The first race is open as number 0, with a beep at each look at it, until one comes back from the menu; it is
   // meant.
   void createRace() {
-    press("Form1", "Command3");
-    arriveAt("Form4");
+    open("Command3", "Form4");
     tabTo("Text2");
     type("Vereinslauf");
-    press("Form4", "Command7");
-    EXPECT_EQ(lines("Form4", "List1"), QStringList{" 1    Vereinslauf"});
+    press("Command7");
+    EXPECT_EQ(lines("Form4", "List1"), QStringList{QStringLiteral(" 1    Vereinslauf")});
     EXPECT_EQ(store->AktRennen, 0);
-    press("Form4", "Command1");
-    press("Form1", "Command3");
+    close("Command1", "Form1");
+    open("Command3", "Form4");
     EXPECT_EQ(store->AktRennen, 1);
     test.beeps = 0;
   }
@@ -114,29 +117,41 @@ struct PreparationJourneyTest : RoofTest {
     open("Command4", "Form5");
     for (int i = 0; i < Count; ++i)
       keys({Qt::Key_Down, Qt::Key_Tab, Qt::Key_Space});
-    press("Form5", "Command1");
+    close("Command1");
   }
   // A first race has no criteria to inherit: it is by groups and by points until then.
   void chooseCriteriaAndClasses() {
     open("Command14", "Form14");
-    press("Form14", {"Check1", "Check3", "Check4", "Check6", "Command1"});
+    for (const char *check : {"Check1", "Check3", "Check4", "Check6"})
+      press(check);
+    close("Command1");
     open("Command13", "Form10");
-    press("Form10", {"Command2", "Command3", "Command1"});
+    press("Command2");
+    press("Command3");
+    close("Command1");
   }
 
-  void clickCells(std::initializer_list<const char *> cells) {
-    for (const char *cell : cells)
-      QTest::mouseClick(control<QLabel>("Form15", cell), Qt::LeftButton);
+  int cell() { return QApplication::focusWidget()->objectName().section(QLatin1Char('_'), 1).toInt(); }
+  void pressCells(std::initializer_list<int> cells) {
+    for (const int wanted : cells) {
+      for (int steps = 0; cell() != wanted; ++steps) {
+        ASSERT_LT(steps, 40) << wanted << " is not reached by the arrow keys";
+        const bool otherRow = cell() / Columns != wanted / Columns;
+        key(otherRow ? Qt::Key_Down : cell() < wanted ? Qt::Key_Right : Qt::Key_Left);
+      }
+      key(Qt::Key_Space);
+    }
   }
   // "Schüler U14" w and m, "Schüler U15" m merged with the latter; "Allg. Kl." w, m, G-w, G-m; "AK 1" w; "AK 2" m.
   void orderClasses() {
     open("Command15", "Form15");
-    clickCells({"Label3_64", "Label3_65", "Label3_73"});
+    pressCells({64, 65, 73});
     tabTo("Text2");
     type("2");
-    press("Form15", "Command2");
-    clickCells({"Label3_104", "Label3_105", "Label3_106", "Label3_107", "Label3_112", "Label3_121"});
-    press("Form15", "Command1");
+    press("Command2");
+    tabTo("Label3_73");
+    pressCells({104, 105, 106, 107, 112, 121});
+    close("Command1");
   }
 
   void chooseTeamsAndGuests() {
@@ -147,17 +162,20 @@ struct PreparationJourneyTest : RoofTest {
       type(team);
       key(Qt::Key_Return);
     }
-    press("Form11", "Command4");
+    close("Command4");
     open("Command5", "Form6");
     for (int i = 0; i < Count; ++i) {
-      chooseLine("Form6", "List1", i); // no numbers yet: by name
+      tabTo("List1");
+      key(Qt::Key_Home); // no numbers yet: by name
+      for (int line = 0; line < i; ++line)
+        key(Qt::Key_Down);
       tabTo("Combo3");
       chooseEntry(Athletes[i].team);
       tabTo("Check1");
       if (Athletes[i].guest)
         key(Qt::Key_Space);
     }
-    press("Form6", "Command1");
+    close("Command1");
   }
   // On the screen opened anew, so that the guests stand in their classes.
   void drawNumbers() {
@@ -166,7 +184,7 @@ struct PreparationJourneyTest : RoofTest {
     keys({Qt::Key_Space, Qt::Key_Tab});
     type("3");
     keys({Qt::Key_Tab, Qt::Key_Space});
-    press("Form6", "Command1");
+    close("Command1");
   }
   void typeTimes() {
     open("Command6", "Form7");
@@ -176,7 +194,24 @@ struct PreparationJourneyTest : RoofTest {
       type(number.time);
       key(Qt::Key_Return);
     }
-    press("Form7", "Command3");
+    press("Check1");
+    ASSERT_EQ(visible(), "Form13 Form7");
+    QTest::keyClick(window("Form13"), Qt::Key_Escape);
+    close("Command3");
+  }
+  // The other printer by Enter, the list by its key, certificates of the first and the third.
+  void print() {
+    open("Command8", "Form8");
+    open("Command6", "Form28");
+    keys({Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
+    arriveAt("Form8");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_P, Qt::ControlModifier);
+    tabTo("List2");
+    keys({Qt::Key_Space, Qt::Key_Down, Qt::Key_Down, Qt::Key_Space});
+    press("Command5");
+    EXPECT_EQ(printers.usedPrinters, QStringList(3, QStringLiteral("Alt")));
+    EXPECT_EQ(printers.documents.first().name, QStringLiteral("Ergebnisliste"));
+    close("Command1");
   }
 
   void expectField() {
@@ -215,13 +250,15 @@ TEST_F(PreparationJourneyTest, FromAnEmptyFolderToPlacesThatLast) {
   chooseTeamsAndGuests();
   drawNumbers();
   typeTimes();
-  window("Form4")->close();
-  QTimer::singleShot(0, [this] { press("Form1", "Command4"); });
+  print();
+  close("Command1", "Form1");
+  QTimer::singleShot(0, [this] { press("Command4"); });
   QApplication::exec();
   EXPECT_EQ(test.beeps, 0);
 
   startOnFolder();
-  press("Form1", "Command3");
+  arriveAt("Form1");
+  open("Command3", "Form4");
   open("Command6", "Form7");
   expectField();
   EXPECT_EQ(store->VereinAnzahl, 3);

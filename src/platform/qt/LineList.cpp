@@ -330,6 +330,8 @@ void MarkList::mousePressEvent(QMouseEvent *event) {
 void MarkList::keyPressEvent(QKeyEvent *event) {
   if (event->matches(QKeySequence::SelectAll)) // each line is marked for itself
     return;
+  if (event->key() == Qt::Key_Space && !currentIndex().isValid())
+    choose(0);
   if (event->key() != Qt::Key_Space || !currentIndex().isValid())
     return LineList::keyPressEvent(event);
   selectionModel()->select(currentIndex(), QItemSelectionModel::Toggle);

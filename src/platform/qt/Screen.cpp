@@ -144,6 +144,17 @@ void Screen::onReturn(QWidget *control, std::function<void()> action) {
   control->installEventFilter(this);
 }
 
+void Screen::onKey(const QKeySequence &key, std::function<void()> action) {
+  connect(new QShortcut(key, this), &QShortcut::activated, this, std::move(action));
+}
+
+void Screen::press(QAbstractButton *button) {
+  if (!button->isVisible() || !button->isEnabled())
+    return;
+  button->setFocus();
+  button->click();
+}
+
 void Screen::enterField(QLineEdit *field) {
   field->setFocus();
   field->selectAll();

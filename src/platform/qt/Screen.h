@@ -10,6 +10,8 @@
 
 class Desk;
 class HintLine;
+class QAbstractButton;
+class QKeySequence;
 class QLineEdit;
 
 /// Base of all screens, which are top-level windows. It does for each of them: the window's place in the table of
@@ -62,6 +64,12 @@ protected:
   void onEnter(QWidget *field, std::function<void()> action);
   /// What Enter does in a control that has the focus. On buttons it presses them without this.
   void onReturn(QWidget *control, std::function<void()> action);
+
+  /// What a key does wherever the focus is on this screen.
+  void onKey(const QKeySequence &key, std::function<void()> action);
+  /// Presses a button as a person does: it takes the focus, so that the field that had it is left first. One that
+  /// cannot be pressed is not.
+  static void press(QAbstractButton *button);
 
   /// Puts the focus into a field as Tab does: what is typed next takes the place of what is there.
   static void enterField(QLineEdit *field);
