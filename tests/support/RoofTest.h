@@ -13,8 +13,15 @@
 #include <memory>
 
 /// The whole program over a store, worked as a person works it: screens and controls are found by name.
-struct RoofTest : StoreTest {
-  ~RoofTest() override { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+class RoofTest : public StoreTest {
+protected:
+  // The menu's closing ends the event loop of the application; no message box would wait until that has begun anew.
+  ~RoofTest() override {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QMetaObject::invokeMethod(
+        qApp, [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
+    QCoreApplication::exec();
+  }
 
   void start(Store &started) {
     programm = std::make_unique<Programm>(started, *printers.printers);
