@@ -9,6 +9,8 @@ QSettings file() {
   return {QSettings::IniFormat, QSettings::UserScope, QStringLiteral("VEXT"), QStringLiteral("VEXT")};
 }
 
+const QString FrameKey = QStringLiteral("Fenster/Rahmen");
+
 QString sizeKey(const QString &screen) {
   return QStringLiteral("Fenster/") + screen;
 }
@@ -73,4 +75,12 @@ QSize Settings::windowSize(const QString &screen) {
 
 void Settings::setWindowSize(const QString &screen, QSize size) {
   file().setValue(sizeKey(screen), size);
+}
+
+QSize Settings::windowFrame() {
+  return file().value(FrameKey).toSize();
+}
+
+void Settings::setWindowFrame(QSize frame) {
+  file().setValue(FrameKey, frame);
 }

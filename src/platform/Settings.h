@@ -26,5 +26,8 @@ QString organisationName(const QString &folder);
 /// The size that the operator gave a screen, without frame; invalid if none.
 QSize windowSize(const QString &screen);
 void setWindowSize(const QString &screen, QSize size);
+/// How much larger a window is with its frame, as it was last; invalid if never seen.
+QSize windowFrame();
+void setWindowFrame(QSize frame);
 
 } // namespace Settings

@@ -7,6 +7,7 @@
 //   Form7.Text1 type 63,45        click into a field, replace its text
 //   Form7.Text1 key               Enter
 //   Form7 close                   the window's own button
+//   Form7 move 120 80             drag the window by its frame
 //   Fehlerbericht press Schließen a button by its caption, or by one of several: Ja|Gut
 //   Form7 await weiter            go on when there is a file of that name in the data folder
 //   Form7 pause 2000              wait that many milliseconds
@@ -38,6 +39,10 @@ using Action = void (*)(QWidget *, const QString &);
 constexpr int Patience = 2000; // looks
 constexpr int GivenUp = 99;
 
+void moveTo(QWidget *window, const QString &place) {
+  window->move(place.section(u' ', 0, 0).toInt(), place.section(u' ', 1).toInt());
+}
+
 void pressCaption(QWidget *window, const QString &caption) {
   for (auto *button : window->findChildren<QPushButton *>())
     if (caption.split(u'|').contains(button->text()))
@@ -48,6 +53,7 @@ const std::map<QString, Action> Actions = {
     {"click", [](QWidget *w, const QString &) { Person::press(w); }},
     {"key", [](QWidget *w, const QString &) { QTest::keyClick(w, Qt::Key_Return); }},
     {"close", [](QWidget *w, const QString &) { w->close(); }},
+    {"move", moveTo},
     {"line",
      [](QWidget *w, const QString &line) { Person::chooseLine(qobject_cast<QAbstractItemView *>(w), line.toInt()); }},
     {"type", Person::type},

@@ -1,11 +1,15 @@
 #include "platform/qt/Desk.h"
 
+#include "platform/Settings.h"
 #include "platform/qt/Screen.h"
 
 #include <QWidget>
 
 Desk::Desk(WindowPlaces &places, std::function<void()> savePlaces)
-    : m_places(places), m_savePlaces(std::move(savePlaces)) {}
+    : m_places(places), m_savePlaces(std::move(savePlaces)) {
+  if (const QSize known = Settings::windowFrame(); known.isValid())
+    m_frame = known;
+}
 
 QString Desk::openInput() const {
   auto *field = m_guard.field();

@@ -185,21 +185,21 @@ void Screen::takeSize() {
 // The place is that of the frame. It is told to the native window too, as move() alone would put the contents there
 // before the first showing, and tell the window system nothing after hiding to where it is.
 void Screen::takePlace() {
-  QPoint place = m_leftAt;
-  if (place.isNull() && m_row > 0)
-    place = QPoint(m_desk.places().FensterLeft[m_row], m_desk.places().FensterTop[m_row]) / double(UnitsAPixel);
-  if (place.isNull())
+  const auto &places = m_desk.places();
+  const QPoint stored = m_row > 0 ? QPoint(places.FensterLeft[m_row], places.FensterTop[m_row]) : QPoint();
+  if (!m_leftAt && stored.isNull())
     return;
-  place = heldOnScreen(place, size() + m_desk.frame());
+  const QPoint place = heldOnScreen(m_leftAt.value_or(stored / double(UnitsAPixel)), size() + m_desk.frame());
   move(place);
   create();
   windowHandle()->setFramePosition(place);
 }
 
-// A screen that was never visible leaves its row alone.
+// A screen that was never visible leaves its row alone. A row of 0 and 0 would say that there is no place: the corner
+// of the monitor is told by a unit, which is less than a pixel.
 void Screen::storePlace() {
   if (m_row > 0 && m_placed) {
-    m_desk.places().FensterLeft[m_row] = x() * UnitsAPixel;
+    m_desk.places().FensterLeft[m_row] = pos().isNull() ? 1 : x() * UnitsAPixel;
     m_desk.places().FensterTop[m_row] = y() * UnitsAPixel;
   }
   m_desk.savePlaces();
@@ -223,10 +223,14 @@ void Screen::comeBack() {
   show();
 }
 
-// A screen is left by hiding or closing; how large its frame is holds for the others.
+// A screen is left by hiding or closing; how large its frame is holds for the others, and for the next start.
 void Screen::noteWhereItIs() {
   m_leftAt = pos();
-  m_desk.setFrame(frameSize() - size());
+  const QSize frame = frameSize() - size();
+  if (frame == m_desk.frame())
+    return;
+  m_desk.setFrame(frame);
+  Settings::setWindowFrame(frame);
 }
 
 void Screen::closeEvent(QCloseEvent *event) {

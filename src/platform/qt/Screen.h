@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 class Desk;
 class HintLine;
@@ -105,7 +106,7 @@ private:
   HintLine *m_foot = nullptr;
   QList<Hint> m_hints;
   bool m_placed = false;
-  QPoint m_leftAt;              // of the frame; null before the first hiding
-  QSize m_ownSize;              // that it opened with
-  QObject *m_pressed = nullptr; // the field that a press has just brought the focus to
+  std::optional<QPoint> m_leftAt; // of the frame; nothing before the first hiding
+  QSize m_ownSize;                // that it opened with
+  QObject *m_pressed = nullptr;   // the field that a press has just brought the focus to
 };

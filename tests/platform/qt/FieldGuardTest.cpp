@@ -1,3 +1,4 @@
+#include "platform/qt/Screen.h"
 #include "support/ScreenTest.h"
 
 #include <QCheckBox>
@@ -162,6 +163,16 @@ TEST_F(FieldGuardTest, PlaceOfTheWindowIsKeptInTwentiethsOfAPoint) {
   form->close();
   EXPECT_EQ(places.FensterLeft[7], 450);
   EXPECT_EQ(places.FensterTop[7], 750);
+}
+
+// A row of 0 and 0 would say that there is no place.
+TEST_F(FieldGuardTest, TheCornerOfTheMonitorIsAPlaceToo) {
+  open();
+  form->move(0, 0);
+  form->close();
+  EXPECT_NE(QPoint(store.Fenster.FensterLeft[7], store.Fenster.FensterTop[7]), QPoint());
+  open();
+  EXPECT_EQ(form->pos(), QPoint());
 }
 
 TEST_F(FieldGuardTest, SizeOfTheWindowIsKept) {
