@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QScreen>
 
 #include <algorithm>
 #include <cmath>
@@ -17,7 +18,14 @@ namespace {
 
 // The preview shows the page from 163 mm down, 202 × 126 mm.
 constexpr double PageTop = 163, PageWidth = 202, PageHeight = 126;
-constexpr double DotsAMillimetre = 96 / 25.4; // before the desktop's scale
+constexpr double DotsAMillimetre = 96 / 25.4;               // before the desktop's scale
+constexpr double MonitorWidth = 0.57, MonitorHeight = 0.63; // how much of a monitor the page may take
+
+// On a small monitor the page is shown smaller, so that its fields stay beside it.
+double zoomOn(QSize monitor) {
+  return std::min({1.0, monitor.width() * MonitorWidth / (PageWidth * DotsAMillimetre),
+                   monitor.height() * MonitorHeight / (PageHeight * DotsAMillimetre)});
+}
 
 } // namespace
 
@@ -42,10 +50,11 @@ Form21::Form21(Desk &desk, Store &store)
 Form21::~Form21() = default;
 
 int Form21::pixels(double millimetres) const {
-  return int(std::lround(millimetres * DotsAMillimetre));
+  return int(std::lround(millimetres * DotsAMillimetre * m_zoom));
 }
 
 void Form21::makePage() {
+  m_zoom = zoomOn(screen()->availableSize());
   ui->Image3->setFixedSize(pixels(PageWidth), pixels(PageHeight));
   Look::setGround(ui->Image3, Qt::white);
   auto *line = new QFrame(ui->Image3);
@@ -55,7 +64,8 @@ void Form21::makePage() {
                     pixels(Titelfuss::Rechts - Titelfuss::Links), 2);
   auto *text = new QLabel(QStringLiteral("Mit freundlicher Unterstützung von"), ui->Image3);
   text->setObjectName(QStringLiteral("Label5"));
-  QFont font(QStringLiteral("Times"), 8);
+  QFont font(QStringLiteral("Times"));
+  font.setPointSizeF(8 * m_zoom);
   font.setBold(true);
   text->setFont(font);
   text->adjustSize();
@@ -140,14 +150,14 @@ void Form21::preview() {
 // The fields have the ground of the screen, but for those of the chosen banner.
 void Form21::showBanner(const Row &row, bool chosen) {
   for (auto *field : {row.datei, row.rechts, row.runter, row.groesse})
-    Look::setGround(field, chosen ? QColor(Qt::white) : palette().color(QPalette::Window));
+    Look::setGround(field, palette().color(chosen ? QPalette::Base : QPalette::Window));
   const QString path = m_store.DatenOrdner + row.datei->text();
   const bool used = row.check->isChecked() && !row.datei->text().isEmpty() && QFile::exists(path);
   const QSize natural = used ? pictureSize(path) : QSize();
   row.image->setVisible(natural.isValid());
   if (!natural.isValid())
     return;
-  const double scale = leadingNumber(row.groesse->text()) / 100;
+  const double scale = leadingNumber(row.groesse->text()) / 100 * m_zoom;
   row.image->setFile(path);
   row.image->setGeometry(pixels(leadingNumber(row.rechts->text())), pixels(leadingNumber(row.runter->text()) - PageTop),
                          int(std::lround(natural.width() * scale)), int(std::lround(natural.height() * scale)));

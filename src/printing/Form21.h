@@ -49,6 +49,7 @@ private:
   bool stepByKey(QLineEdit *box, int key);
   void preview();
   void showBanner(const Row &row, bool chosen);
+  /// On the screen, of a length on paper.
   int pixels(double millimetres) const;
 
   std::unique_ptr<Ui::Form21> ui;
@@ -57,4 +58,5 @@ private:
   /// 0 to 7; −1 = none.
   int m_selection = -1;
   QByteArray m_atOpening;
+  double m_zoom = 1;
 };

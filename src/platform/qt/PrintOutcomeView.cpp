@@ -1,6 +1,7 @@
 #include "platform/qt/PrintOutcomeView.h"
 
 #include "platform/print/Printers.h"
+#include "platform/qt/ElidedLabel.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -17,12 +18,6 @@ QString captionFor(qsizetype files) {
   return files > 1 ? QStringLiteral("%1 Dateien, die letzte").arg(files) : QStringLiteral("letzte Datei");
 }
 
-// A long path wraps behind any of its folders instead of widening the screen.
-QString breakable(const QString &path) {
-  const QChar mayBreak(0x200B);
-  return QDir::toNativeSeparators(path).replace(QDir::separator(), QString(QDir::separator()) + mayBreak);
-}
-
 QString picturesText(const QStringList &paths) {
   QStringList names;
   for (const QString &path : paths)
@@ -33,9 +28,10 @@ QString picturesText(const QStringList &paths) {
 } // namespace
 
 PrintOutcomeView::PrintOutcomeView(QWidget *parent)
-    : QWidget(parent), m_caption(addLabel(QStringLiteral("dateiTitel"), true)),
-      m_name(addLabel(QStringLiteral("letzteDatei"), false)), m_folder(addLabel(QStringLiteral("dateiOrdner"), true)),
-      m_pictures(addLabel(QStringLiteral("bilderFehlen"), false)),
+    : QWidget(parent), m_caption(addLabel<QLabel>(QStringLiteral("dateiTitel"), true)),
+      m_name(addLabel<ElidedLabel>(QStringLiteral("letzteDatei"), false)),
+      m_folder(addLabel<ElidedLabel>(QStringLiteral("dateiOrdner"), true)),
+      m_pictures(addLabel<QLabel>(QStringLiteral("bilderFehlen"), false)),
       m_open(addButton(QStringLiteral("dateiOeffnen"), QStringLiteral("öffnen"))),
       m_showFolder(addButton(QStringLiteral("ordnerZeigen"), QStringLiteral("Ordner zeigen"))) {
   auto *grid = new QGridLayout(this);
@@ -43,22 +39,21 @@ PrintOutcomeView::PrintOutcomeView(QWidget *parent)
   grid->setHorizontalSpacing(8);
   grid->setVerticalSpacing(2);
   grid->addWidget(m_caption, 0, 0);
-  grid->addWidget(m_name, 0, 1, 1, 3);
-  grid->addWidget(m_folder, 1, 1);
-  grid->addWidget(m_open, 1, 2);
-  grid->addWidget(m_showFolder, 1, 3);
+  grid->addWidget(m_name, 0, 1);
+  grid->addWidget(m_open, 0, 2);
+  grid->addWidget(m_showFolder, 0, 3);
+  grid->addWidget(m_folder, 1, 0, 1, 4);
   grid->addWidget(m_pictures, 2, 0, 1, 4);
   grid->setColumnStretch(1, 1);
-  m_caption->setWordWrap(false);
+  m_pictures->setWordWrap(true);
   connect(m_open, &QPushButton::clicked, this, [this] { open(m_path); });
   connect(m_showFolder, &QPushButton::clicked, this, [this] { open(QFileInfo(m_path).path()); });
   hide();
 }
 
-QLabel *PrintOutcomeView::addLabel(const QString &name, bool pale) {
-  auto *label = new QLabel(this);
+template <typename Label> Label *PrintOutcomeView::addLabel(const QString &name, bool pale) {
+  auto *label = new Label(this);
   label->setObjectName(name);
-  label->setWordWrap(true);
   label->setProperty("leise", pale);
   return label;
 }
@@ -75,7 +70,7 @@ void PrintOutcomeView::tell(const PrintOutcome &outcome) {
   m_path = anyFile ? QFileInfo(outcome.files.last()).absoluteFilePath() : QString();
   m_caption->setText(captionFor(outcome.files.size()));
   m_name->setText(QFileInfo(m_path).fileName());
-  m_folder->setText(breakable(QFileInfo(m_path).path()));
+  m_folder->setText(QDir::toNativeSeparators(QFileInfo(m_path).path()));
   m_pictures->setText(picturesText(outcome.unreadablePictures));
   for (QWidget *part : std::initializer_list<QWidget *>{m_caption, m_name, m_folder, m_open, m_showFolder})
     part->setVisible(anyFile);

@@ -16,7 +16,7 @@ public:
   void tell(const PrintOutcome &outcome);
 
 private:
-  QLabel *addLabel(const QString &name, bool pale);
+  template <typename Label> Label *addLabel(const QString &name, bool pale);
   QPushButton *addButton(const QString &name, const QString &caption);
   void open(const QString &path);
 
