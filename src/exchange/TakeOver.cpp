@@ -96,9 +96,15 @@ private:
       if (club->club == ClubAnswer::MakeNew) {
         VereinSatz record = VereinLeeren(m_store);
         record.VereinName = record.VereinKurz = club->text;
-        m_clubs.append({++m_counts.VereinAnzahl, record});
-        m_numbers.insert(club.key(), m_counts.VereinAnzahl);
+        m_clubs.append({numberOfNextClub(), record});
+        m_numbers.insert(club.key(), m_clubs.last().first);
       }
+  }
+
+  // The first record is counted as soon as its screen shows it, though it may never have been written.
+  int numberOfNextClub() {
+    const bool isUnwritten = m_counts.VereinAnzahl == 1 && m_clubs.isEmpty() && !m_store.VereinDatei.holds(1);
+    return isUnwritten ? 1 : ++m_counts.VereinAnzahl;
   }
 
   // Those behind the last record come first: they are not to be seen before the count has risen, and a disk that is
@@ -121,7 +127,7 @@ private:
   QList<int> freeRecords(qsizetype most) const {
     QList<int> free;
     for (int n = 1; n <= m_store.LaeuferAnzahl && free.size() < most; ++n)
-      if (m_store.LaeuferDatei.holds(n) && LaeuferLesen(m_store, n).Name.isEmpty())
+      if (LaeuferLesen(m_store, n).Name.isEmpty())
         free << n;
     return free;
   }
@@ -146,7 +152,7 @@ private:
     QList<std::pair<int, QByteArray>> reused;
     for (const auto &[n, athlete] : m_athletes)
       if (n <= m_before.LaeuferAnzahl)
-        reused.append({n, m_store.LaeuferDatei.read(n)});
+        reused.append({n, m_store.LaeuferDatei.holds(n) ? m_store.LaeuferDatei.read(n) : toBytes(LaeuferSatz())});
     return reused;
   }
 

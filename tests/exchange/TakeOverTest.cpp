@@ -170,6 +170,8 @@ TEST_F(TakeOverTest, TheRegisterOutAsATableAndInAgainIsTheSame) {
   const Table table = tableFrom(out, "Liste.csv");
   EntryPlan all = planFor(empty.store, entriesOf(table, recognisedColumns(table), QDate(2026, 11, 15)));
   makeClubs(all);
+  lastAthlete(empty.store);
+  lastClub(empty.store);
   takeOver(empty.store, all, false);
   EXPECT_GT(empty.store.LaeuferAnzahl, 50);
   EXPECT_EQ(csvOf(athleteTable(empty.store)), out);
