@@ -19,7 +19,7 @@ namespace {
 // The preview shows the page from 163 mm down, 202 × 126 mm.
 constexpr double PageTop = 163, PageWidth = 202, PageHeight = 126;
 constexpr double DotsAMillimetre = 96 / 25.4;               // before the desktop's scale
-constexpr double MonitorWidth = 0.57, MonitorHeight = 0.63; // how much of a monitor the page may take
+constexpr double MonitorWidth = 0.54, MonitorHeight = 0.63; // how much of a monitor the page may take
 
 // On a small monitor the page is shown smaller, so that its fields stay beside it.
 double zoomOn(QSize monitor) {
