@@ -92,7 +92,7 @@ TEST(EntriesTest, BirthDatesAndSexes) {
 }
 
 TEST(EntriesTest, AreShownAsTheRegisterWillKeepThem) {
-  const Entry cut = entry("Name;Nr;Verein;Punkte;geb\nHuber Zoë Łucja;1234567890;SC;2.5;2012\n");
+  const Entry cut = entry("Name;ÖSV-Nr;Verein;Punkte;geb\nHuber Zoë Łucja;1234567890;SC;2.5;2012\n");
   EXPECT_EQ(cut.athlete.Name, "HUBER Zoë ?ucja");
   EXPECT_EQ(cut.athlete.OesvNr, "123456789");
   EXPECT_EQ(cut.athlete.LaeuferPunkte, 2.5F);
