@@ -14,7 +14,7 @@
 namespace {
 
 constexpr int Margin = 3;
-constexpr int LettersOfAHint = 120, MostLines = 3;
+constexpr int LettersOfAHint = 170, MostLines = 3;
 constexpr QRgb Ground = 0xFFF1C9, Sign = 0xB85C00; // in every theme
 
 // A triangle with an exclamation mark, as high as the letters.
