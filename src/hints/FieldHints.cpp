@@ -64,8 +64,10 @@ const Starter *shownStarter(const Situation &now) {
 
 // The list is filled anew only where it is filtered.
 Hint Hints::athletesNotListed(const Situation &now) {
+  if (!trimmedBlanks(now.text("Text1")).isEmpty())
+    return {};
   const int athletes = namedAthletes(now.store);
-  if (!trimmedBlanks(now.text("Text1")).isEmpty() || now.number("List1.Zeilen") == athletes)
+  if (now.number("List1.Zeilen") == athletes)
     return {};
   return {QStringLiteral("Die Liste der Sportler ist nicht auf dem neuen Stand: „alle zeigen“ zeigt alle %1.")
               .arg(athletes),
