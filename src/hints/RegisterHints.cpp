@@ -92,11 +92,9 @@ Hint Hints::renaming(const Situation &now) {
   const QString stored = nameOf(storedAthlete(now)), typed = trimmedBlanks(now.text("Text2"));
   if (stored.isEmpty() || typed == stored)
     return {};
-  return {typed.isEmpty()
-              ? QStringLiteral("Ohne Namen fehlt %1 in allen Listen und Rennen, auch in früheren.").arg(stored)
-              : QStringLiteral("Beim Verlassen wird %1 (Nr. %2) umbenannt, in allen Rennen. Neu? „neu“, dann „+“.")
-                    .arg(stored, now.text("Text1")),
-          QStringLiteral("Text2")};
+  const QString what = typed.isEmpty() ? QStringLiteral("Das ist %1 (Nr. %2): Leer fehlt der Name in allen Rennen.")
+                                       : QStringLiteral("Beim Verlassen wird %1 (Nr. %2) umbenannt, in allen Rennen.");
+  return {what.arg(stored, now.text("Text1")) + QStringLiteral(" Neu? „neu“, dann „+“."), QStringLiteral("Text2")};
 }
 
 Hint Hints::twoDigitYear(const Situation &now) {
