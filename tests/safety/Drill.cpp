@@ -296,6 +296,10 @@ void Drill::judgeFacts(Findings &findings, const QStringList &required, const QS
   for (const auto &fact : m_before)
     if (m_after.contains(fact) && !facts.contains(fact))
       findings.wiped << fact;
+  const auto come = std::count_if(m_session.together.begin(), m_session.together.end(),
+                                  [&](const char *fact) { return facts.contains(QString::fromUtf8(fact)); });
+  if (come != 0 && come != qsizetype(m_session.together.size()))
+    findings.mixed << QStringLiteral("entries");
   if (m_session.replacedRace > 0) {
     const auto race = ofRace(facts, m_session.replacedRace);
     if (race != ofRace(m_before, m_session.replacedRace) && race != ofRace(m_after, m_session.replacedRace))

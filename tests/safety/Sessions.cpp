@@ -39,6 +39,14 @@ constexpr char Classes[] =
     "Form4.Command17 click | Form20.Text1 type 1 | Form20.Text2 type 25 => Cup 1 25 | Form20 pause 2300 | "
     "Form20.Command3 click ! | Form4 pause 2300 | Form4.Command1 click | Form1.Command4 click";
 
+// One fills a record whose name was taken away, the other one stands behind the last.
+constexpr char Entries[] =
+    "Form1.Command1 click | Form3.List1 line 1 | Form3.Text2 type   | Form3.Text3 type 7 | "
+    "Form3.List1 menu Meldungen aus Tabelle einlesen … | QFileDialog.fileNameEdit type Meldungen.csv | "
+    "QFileDialog.fileNameEdit key | Meldungen.alleVereine click | "
+    "Meldungen.uebernehmen click => Läufer 4 ALT Ida ! | Form3 pause 2300 | Form3.Command1 click | "
+    "Form1.Command4 click";
+
 std::vector<Step> stepsOf(const char *script) {
   std::vector<Step> steps;
   for (QString step : QString(script).split(" | ")) {
@@ -102,7 +110,10 @@ void addRace(Facts &facts, Store &store, int race) {
 
 const std::vector<Session> &sessions() {
   static const std::vector<Session> all = {
-      {"Zeiten", stepsOf(Times)}, {"Karteien", stepsOf(Registers)}, {"Klassen, Kopie, Cup", stepsOf(Classes), 2}};
+      {"Zeiten", stepsOf(Times)},
+      {"Karteien", stepsOf(Registers)},
+      {"Klassen, Kopie, Cup", stepsOf(Classes), 2},
+      {"Meldungen", stepsOf(Entries), 0, {"Verein 3 SC Neu", "Läufer 2 NEU Udo", "Läufer 4 ALT Ida"}}};
   return all;
 }
 
@@ -127,6 +138,7 @@ void makeEvent(const QString &folder) {
   cup.bezeichnung = "Talcup";
   cupSpeichern(store, cup);
   FensterSpeichern(store);
+  test.writeFile(QStringLiteral("Meldungen.csv"), "Name;Jg;Verein\nNeu Udo;2012;SC Neu\nAlt Ida;2011;SC Neu\n");
   QDir().mkpath(folder);
   for (const auto &name : QDir(test.folder.path()).entryList(QDir::Files))
     QFile::copy(test.folder.filePath(name), folder + u'/' + name);

@@ -18,6 +18,8 @@ struct Session {
   std::vector<Step> steps;
   /// The race that the session writes as a whole: all of it is old or all of it is new, 0 for none.
   int replacedRace = 0;
+  /// Facts that come together: all of them or none.
+  std::vector<const char *> together = {};
 };
 
 /// Each begins at the menu and ends the program.

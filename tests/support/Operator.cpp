@@ -6,6 +6,7 @@
 //   Form7.List2 line 1            press on a line (from 0)
 //   Form7.Text1 type 63,45        click into a field, replace its text
 //   Form7.Text1 key               Enter
+//   Form3.List1 menu Liste        an entry of its own in the context menu
 //   Form7 close                   the window's own button
 //   Form7 move 120 80             drag the window by its frame
 //   Fehlerbericht press Schließen a button by its caption, or by one of several: Ja|Gut
@@ -20,6 +21,7 @@
 
 #include "person/Person.h"
 
+#include <QAction>
 #include <QFile>
 #include <QGenericPlugin>
 #include <QPushButton>
@@ -49,6 +51,12 @@ void pressCaption(QWidget *window, const QString &caption) {
       return Person::press(button);
 }
 
+void choose(QWidget *control, const QString &entry) {
+  for (auto *action : control->actions())
+    if (action->text() == entry)
+      return action->trigger();
+}
+
 const std::map<QString, Action> Actions = {
     {"click", [](QWidget *w, const QString &) { Person::press(w); }},
     {"key", [](QWidget *w, const QString &) { QTest::keyClick(w, Qt::Key_Return); }},
@@ -56,6 +64,7 @@ const std::map<QString, Action> Actions = {
     {"move", moveTo},
     {"line",
      [](QWidget *w, const QString &line) { Person::chooseLine(qobject_cast<QAbstractItemView *>(w), line.toInt()); }},
+    {"menu", choose},
     {"type", Person::type},
     {"press", pressCaption},
     {"await", [](QWidget *, const QString &) {}},
