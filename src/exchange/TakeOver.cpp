@@ -7,6 +7,9 @@
 #include "raceprep/ParticipantList.h"
 #include "safety/RaceImage.h"
 
+#include <QFile>
+#include <QFileInfo>
+
 #include <algorithm>
 #include <utility>
 
@@ -77,14 +80,21 @@ public:
   }
 
   /// Takes all back if the disk refuses one.
-  void write() const {
+  void write(const EntryProgress &progress) const {
     const QList<std::pair<int, QByteArray>> reused = reusedRecords();
+    const qint64 clubs = QFileInfo(m_store.VereinDatei.path()).size(),
+                 athletes = QFileInfo(m_store.LaeuferDatei.path()).size();
     try {
       for (const auto &[n, club] : m_clubs)
         VereinSchreiben(m_store, n, club);
-      for (const auto &[n, athlete] : m_athletes)
-        LaeuferSchreiben(m_store, n, athlete);
+      for (qsizetype i = 0; i < m_athletes.size(); ++i) {
+        LaeuferSchreiben(m_store, m_athletes[i].first, m_athletes[i].second);
+        progress(i + 1, m_athletes.size());
+      }
     } catch (const Fault &) {
+      const std::scoped_lock lock(m_store.umgebung.writing);
+      QFile::resize(m_store.VereinDatei.path(), clubs);
+      QFile::resize(m_store.LaeuferDatei.path(), athletes);
       takeBack(reused);
       throw;
     }
@@ -156,11 +166,10 @@ private:
     return reused;
   }
 
-  // What lies behind the counts is never looked at.
+  // What lies behind the counts is never looked at; it went only to give the room back.
   void takeBack(const QList<std::pair<int, QByteArray>> &reused) const noexcept {
     m_store.LaeuferAnzahl = m_before.LaeuferAnzahl;
     m_store.VereinAnzahl = m_before.VereinAnzahl;
-    const std::scoped_lock lock(m_store.umgebung.writing);
     for (const auto &[n, record] : reused)
       try {
         m_store.LaeuferDatei.write(n, record);
@@ -195,10 +204,7 @@ void requireRoom(const Store &store, const EntryPlan &plan) {
                                     [&](const PlannedEntry &line) { return isToBeEntered(store, plan, line); });
   if (const int free = freeRows(store); wanted > free)
     throw TableFault(
-        QStringLiteral("In das Rennen passen noch %1 Teilnehmer, es sollen aber %2 hinein. Übernommen wurde "
-                       "nichts.")
-            .arg(free)
-            .arg(wanted));
+        QStringLiteral("In das Rennen passen noch %1 Teilnehmer, es sollen aber %2 hinein.").arg(free).arg(wanted));
 }
 
 /// The slot of an athlete's club, from 1; 0 if it is none of his.
@@ -229,11 +235,11 @@ void enterAll(Store &store, const EntryPlan &plan, const QList<int> &records) {
 }
 
 // From now to `nachDemErsetzen` a death leaves what the next start can finish or take back.
-void writeRecords(Store &store, const NewRecords &records) {
+void writeRecords(Store &store, const NewRecords &records, const EntryProgress &progress) {
   store.vorDemErsetzen(replacingRegisters(store, records.files()));
   Batch batch(store.umgebung);
   try {
-    records.write();
+    records.write(progress);
   } catch (const Fault &) {
     store.nachDemErsetzen();
     throw;
@@ -243,12 +249,12 @@ void writeRecords(Store &store, const NewRecords &records) {
 
 } // namespace
 
-void takeOver(Store &store, const EntryPlan &plan, bool race) {
+void takeOver(Store &store, const EntryPlan &plan, bool race, const EntryProgress &progress) {
   if (race)
     requireRoom(store, plan);
   const NewRecords records(store, plan);
   if (!records.isEmpty())
-    writeRecords(store, records);
+    writeRecords(store, records, progress);
   if (race)
     enterAll(store, plan, records.ofLines());
   if (!records.isEmpty())

@@ -150,11 +150,13 @@ TEST_F(TakeOverTest, AFullRaceOrDiskLeavesAllAsItWas) {
   rlimit usual;
   getrlimit(RLIMIT_FSIZE, &usual);
   std::signal(SIGXFSZ, SIG_IGN);
+  const QByteArray athletes = test.file(QStringLiteral("Laeufer.rec"));
   for (const rlim_t most : {2 * 798, 9 * 349, 10 * 349 + 10}) { // no club, no athlete, one and a bit
     const rlimit small{most, usual.rlim_max};
     setrlimit(RLIMIT_FSIZE, &small);
     EXPECT_THROW(takeOver(store, three, false), Fault) << most;
     setrlimit(RLIMIT_FSIZE, &usual);
+    EXPECT_EQ(test.file("Laeufer.rec"), athletes) << most;
     EXPECT_EQ(verdicts(plan(Three)), "unbekannter Verein „SC Drei“ | neu | neu");
     EXPECT_EQ(test.file("Vext.dat"), " 9 \r\n 2 \r\n 1 \r\n 0 \r\n");
   }

@@ -179,19 +179,23 @@ void EntryScreen::recognise() {
 }
 
 // Painted at once, without turning to other events, so that nothing can change meanwhile.
-EntryPlan EntryScreen::makePlan() {
-  const BusyPointer busy;
+EntryProgress EntryScreen::progressFromNow() {
   QElapsedTimer time;
   time.start();
-  EntryPlan plan = planFor(m_store, entriesOf(m_table, m_columns, m_store.umgebung.heute()),
-                           [this, &time](qsizetype done, qsizetype all) {
-                             if (time.elapsed() < MomentOfWork || done % LinesAStep != 0)
-                               return;
-                             m_progress->setRange(0, int(all));
-                             m_progress->setValue(int(done));
-                             m_progress->show();
-                             m_progress->repaint();
-                           });
+  return [this, time](qsizetype done, qsizetype all) {
+    if (time.elapsed() < MomentOfWork || done % LinesAStep != 0)
+      return;
+    m_progress->setRange(0, int(all));
+    m_progress->setValue(int(done));
+    m_progress->show();
+    m_progress->parentWidget()->layout()->activate();
+    m_progress->parentWidget()->repaint();
+  };
+}
+
+EntryPlan EntryScreen::makePlan() {
+  const BusyPointer busy;
+  EntryPlan plan = planFor(m_store, entriesOf(m_table, m_columns, m_store.umgebung.heute()), progressFromNow());
   m_progress->hide();
   return plan;
 }
@@ -290,9 +294,10 @@ void EntryScreen::showCount() {
 void EntryScreen::take() {
   try {
     const BusyPointer busy;
-    takeOver(m_store, m_model.plan(), m_race);
+    takeOver(m_store, m_model.plan(), m_race, progressFromNow());
   } catch (const Fault &fault) {
-    QMessageBox::warning(this, windowTitle(), fault.report());
+    m_progress->hide();
+    QMessageBox::warning(this, windowTitle(), fault.report() + QStringLiteral(" Übernommen wurde nichts."));
     return;
   }
   Q_EMIT takenOver();

@@ -39,6 +39,8 @@ private:
   QPushButton *addChoice(QLayout *row, const char *name, const QString &caption, Choice choice);
   void recognise();
   EntryPlan makePlan();
+  /// Shows how far a work that begins now is, as soon as it takes longer than a moment.
+  EntryProgress progressFromNow();
   void chooseForSelected(Choice choice);
   void fillClubs();
   void answerClub();
