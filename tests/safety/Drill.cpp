@@ -237,7 +237,10 @@ QString Drill::trouble() const {
 }
 
 std::vector<Case> Drill::cases() const {
-  return casesOf({&m_session, {}, {}}, &Case::first, m_run.calls);
+  auto all = casesOf({&m_session, {}, {}}, &Case::first, m_run.calls);
+  if (!m_session.together.empty())
+    std::erase_if(all, [](const Case &one) { return !one.first.isDeath(); });
+  return all;
 }
 
 std::vector<Case> Drill::casesOfNextStart(const Mishap &death) const {

@@ -18,7 +18,8 @@ struct Session {
   std::vector<Step> steps;
   /// The race that the session writes as a whole: all of it is old or all of it is new, 0 for none.
   int replacedRace = 0;
-  /// Facts that come together: all of them or none.
+  /// Facts that come together: all of them or none. What the disk refuses meanwhile is told in a window that no step
+  /// knows, so that such a session meets deaths alone.
   std::vector<const char *> together = {};
 };
 
