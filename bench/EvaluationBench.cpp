@@ -47,7 +47,7 @@ Event &event() {
 
 void bareWork(benchmark::State &state) {
   auto &store = event().store;
-  for (auto _ : state)
+  for ([[maybe_unused]] auto _ : state)
     for (store.AktRennen = 1; store.AktRennen <= Races; ++store.AktRennen) {
       RennDatenLaden(store);
       KlassenZuordnen(store);
@@ -57,13 +57,13 @@ void bareWork(benchmark::State &state) {
 BENCHMARK(bareWork)->Unit(benchmark::kMillisecond);
 
 void cup(benchmark::State &state) {
-  for (auto _ : state)
+  for ([[maybe_unused]] auto _ : state)
     benchmark::DoNotOptimize(cupAuswerten(event().store, event().races, 2));
 }
 BENCHMARK(cup)->Unit(benchmark::kMillisecond);
 
 void timeSum(benchmark::State &state) {
-  for (auto _ : state)
+  for ([[maybe_unused]] auto _ : state)
     zeitsummeErzeugen(event().store, event().races, Races + 1);
 }
 BENCHMARK(timeSum)->Unit(benchmark::kMillisecond);
@@ -73,7 +73,7 @@ void sumOfTheBest(benchmark::State &state) {
   store.AktRennen = 1;
   RennDatenLaden(store);
   wertungVorbereiten(store);
-  for (auto _ : state)
+  for ([[maybe_unused]] auto _ : state)
     benchmark::DoNotOptimize(
         teamWertung(store, {Einheit::Mannschaft, WertungsArt::ZeitsummeDerBesten, WertungsFilter::Gemischt, 5}));
 }

@@ -68,7 +68,7 @@ void hints(benchmark::State &state, const QString &screen) {
   static Event event;
   HintBook book(event.store);
   book.of(screen, shown()); // reads the other races
-  for (auto _ : state)
+  for ([[maybe_unused]] auto _ : state)
     benchmark::DoNotOptimize(book.of(screen, shown()));
 }
 

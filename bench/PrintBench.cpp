@@ -50,7 +50,7 @@ Recording recordedList() {
 
 void RecordResultList(benchmark::State &state) {
   fullRace();
-  for (auto _ : state)
+  for ([[maybe_unused]] auto _ : state)
     benchmark::DoNotOptimize(recordedList());
 }
 BENCHMARK(RecordResultList)->Unit(benchmark::kMillisecond);
@@ -58,7 +58,7 @@ BENCHMARK(RecordResultList)->Unit(benchmark::kMillisecond);
 void ResultListAsPdf(benchmark::State &state) {
   const Recording recording = recordedList();
   qsizetype size = 0;
-  for (auto _ : state)
+  for ([[maybe_unused]] auto _ : state)
     size = pdfOf(recording).size();
   state.counters["kB"] = double(size) / 1000;
   state.counters["pages"] = double(recording.pages.size());
@@ -66,7 +66,7 @@ void ResultListAsPdf(benchmark::State &state) {
 BENCHMARK(ResultListAsPdf)->Unit(benchmark::kMillisecond);
 
 void FirstPageOnScreen(benchmark::State &state) {
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     const Recording recording = recordedList();
     QImage page(800, 1131, QImage::Format_RGB32);
     page.fill(Qt::white);
@@ -80,7 +80,7 @@ BENCHMARK(FirstPageOnScreen)->Unit(benchmark::kMillisecond);
 
 void HundredCertificates(benchmark::State &state) {
   recordedList();
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     const QTemporaryDir target;
     Druckschicht druck([&target](const Recording &done) {
       writePrintFile(target.path(), QDateTime::currentDateTime(), done, QStringLiteral("pdf"), pdfOf(done));

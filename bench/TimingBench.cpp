@@ -64,7 +64,7 @@ Store &eventStore() {
 void bareWork(benchmark::State &state) {
   auto &store = eventStore();
   QStringList names;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     SortedLines keys;
     for (int row = 1; row <= People; ++row)
       keys.add(QStringLiteral("00%1").arg(row % 20) + QStringLiteral("00123,45") + LaeuferLesen(store, row).Name);
@@ -74,26 +74,26 @@ void bareWork(benchmark::State &state) {
 BENCHMARK(bareWork)->Unit(benchmark::kMillisecond);
 
 void ergebnisRechnen(benchmark::State &state) {
-  for (auto _ : state)
+  for ([[maybe_unused]] auto _ : state)
     ErgebnisRechnen(eventStore());
 }
 BENCHMARK(ergebnisRechnen)->Unit(benchmark::kMillisecond);
 
 void rangfolge1(benchmark::State &state) {
-  for (auto _ : state)
+  for ([[maybe_unused]] auto _ : state)
     Rangfolge1(eventStore());
 }
 BENCHMARK(rangfolge1)->Unit(benchmark::kMillisecond);
 
 void rennDatenLaden(benchmark::State &state) {
-  for (auto _ : state)
+  for ([[maybe_unused]] auto _ : state)
     RennDatenLaden(eventStore());
   KlassenZuordnen(eventStore());
 }
 BENCHMARK(rennDatenLaden)->Unit(benchmark::kMillisecond);
 
 void rennDatenSpeichern(benchmark::State &state) {
-  for (auto _ : state)
+  for ([[maybe_unused]] auto _ : state)
     RennDatenSpeichern(eventStore());
 }
 BENCHMARK(rennDatenSpeichern)->Unit(benchmark::kMillisecond);
@@ -116,7 +116,7 @@ void refillUntilPainted(benchmark::State &state) {
   Shown shown;
   auto *option = shown.find<QRadioButton>(QStringLiteral("Option%1").arg(state.range(0)));
   auto *list = shown.find<LineList>(QStringLiteral("List2"));
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     option->click();
     list->viewport()->repaint();
   }
@@ -130,7 +130,7 @@ void enterUntilNextLine(benchmark::State &state) {
   auto *box = shown.find<QLineEdit>(QStringLiteral("Text1"));
   list->choose(0);
   box->setFocus();
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     QTest::keyClick(box, Qt::Key_Return);
     QTest::keyClick(list, list->chosenLine() + 1 < People ? Qt::Key_Down : Qt::Key_Home);
     shown.form.repaint();

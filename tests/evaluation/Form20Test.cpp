@@ -61,7 +61,8 @@ TEST_F(Form20Test, ClosingKeepsTheChoiceAndOpensTheRaceOfBefore) {
   store.AktRennen = store.RennenIdx = 2;
   open();
   markAll();
-  clickLine("List1", 1);
+  keys({Qt::Key_Up, Qt::Key_Space});                              // takes the mark of the second away
+  QTest::keyClick(find("List1"), Qt::Key_A, Qt::ControlModifier); // each line is marked for itself
   type("Text4", " Talcup ");
   press("Command1");
   EXPECT_EQ(store.Rennen.ZweiDurchgaenge, 0);
