@@ -38,7 +38,7 @@ struct Run {
   long end = 0, firstFailure = -1;
 
   /// Ended as it may: by a kill, well, or with a report in German.
-  bool isAccounted(const Mishap &mishap, size_t steps) const;
+  bool isAccounted(const Mishap &mishap, size_t wanted) const;
 };
 
 /// What went wrong, in words; all empty if nothing did.
