@@ -23,6 +23,7 @@ void CellLabel::setChosen(bool chosen, QColor letters) {
   if (chosen) {
     QPalette colors = palette();
     colors.setColor(QPalette::WindowText, letters);
+    colors.setColor(QPalette::Highlight, letters);
     setPalette(colors);
   }
   QFont type = font();

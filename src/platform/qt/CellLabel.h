@@ -9,7 +9,7 @@ class CellLabel : public QLabel {
 
 public:
   explicit CellLabel(QWidget *parent = nullptr);
-  /// A chosen cell has bold letters in this colour, any other plain black ones.
+  /// A chosen cell has bold letters in this colour on a dark ground, any other plain black ones on white.
   void setChosen(bool chosen, QColor letters);
 
 Q_SIGNALS:

@@ -98,13 +98,14 @@ void Screen::nameFields() {
 // The hint takes the place of the lower margin.
 void Screen::makeFoot() {
   auto *form = static_cast<QVBoxLayout *>(layout());
-  if (form->count() > 1)
-    new ScrollBody(*form);
+  auto *body = form->count() > 1 ? new ScrollBody(*form) : nullptr;
   m_foot = new HintLine(this);
   QMargins margins = form->contentsMargins();
   margins.setBottom(2);
   form->setContentsMargins(margins);
   form->addWidget(m_foot);
+  if (body)
+    body->updateGeometry(); // it has less room now
   connect(&m_desk, &Desk::hintChanged, this, &Screen::fillFoot);
   connect(new QShortcut(Qt::Key_F2, this), &QShortcut::activated, m_foot, &HintLine::showNext);
   fillFoot();
