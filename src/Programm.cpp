@@ -27,6 +27,7 @@
 #include "raceprep/Form9.h"
 #include "raceprep/RaceRegister.h"
 #include "safety/RaceImage.h"
+#include "safety/SafetyFolder.h"
 #include "timing/Form13.h"
 #include "timing/Form18.h"
 #include "timing/Form7.h"
@@ -45,6 +46,8 @@ void letPaint() {
 
 Programm::Programm(Store &store, Printers &printers)
     : m_store(store), m_printers(printers), m_desk(store.Fenster, [&store] { FensterSpeichern(store); }),
+      m_help({store.ProgrammName + QLatin1Char(' ') + store.Version, SafetyFolder(store.DatenOrdner).dataFolder(),
+              SafetyFolder(store.DatenOrdner).path()}),
       m_openings(openings()) {
   m_desk.hints().rules = [this](const QString &screen, const ShownValues &shown) { return hintsOf(screen, shown); };
   store.umgebung.erinnern = [this](const QStringList &lines) { remind(lines); };
@@ -59,6 +62,7 @@ void Programm::start() {
   m_menu = new Form1(m_desk, m_store);
   adopt(*m_menu);
   connect(m_menu, &Form1::oeffnet, this, &Programm::open);
+  connect(m_menu, &Form1::hilfeVerlangt, this, [this] { m_help.open(m_menu->objectName()); });
   connect(m_menu, &Screen::closed, this, [this] {
     if (m_reminder)
       m_reminder->close();

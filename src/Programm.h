@@ -4,6 +4,7 @@
 #include "hints/Hints.h"
 #include "platform/print/Printers.h"
 #include "platform/qt/Desk.h"
+#include "platform/qt/Help.h"
 
 #include <QHash>
 #include <QObject>
@@ -92,6 +93,7 @@ private:
   Desk m_desk;
   HintBook m_hintBook{m_store};
   QString m_journalHint;
+  Help m_help;
   QHash<QString, Opening> m_openings;
   QPointer<Form1> m_menu;
   QPointer<Form4> m_hub;

@@ -6,12 +6,14 @@
 #include "person/Person.h"
 #include "platform/Faults.h"
 #include "platform/print/PdfFile.h"
+#include "platform/qt/FolderChoice.h"
 #include "platform/qt/LineList.h"
 #include "platform/qt/Look.h"
 #include "platform/qt/Preview.h"
 
 #include <QDir>
 #include <QIcon>
+#include <QLabel>
 #include <QProcess>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -29,6 +31,9 @@ public:
   }
 
   void press(const char *screen, const char *control) { Person::press(find(screen, control)); }
+  void say(const char *screen, const char *label, const QString &text) {
+    find<QLabel>(screen, label)->setText(text);
+  }
   void type(const char *screen, const char *field, const QString &text) { Person::type(find(screen, field), text); }
   void enter(const char *screen, const char *field) { QTest::keyClick(find(screen, field), Qt::Key_Return); }
   void closeWindow(const char *screen) { window(screen)->close(); }
@@ -88,7 +93,16 @@ private:
   int m_count = 0;
 };
 
+// The question before the menu, as it looks at the very first start.
+void choiceOfFolder(Tour &tour) {
+  FolderChoice choice({}, [] { return QString(); });
+  choice.show();
+  tour.takePicture("Mappenwahl", "mappenwahl");
+}
+
+// The folder of the tour has another name each time.
 void menu(Tour &tour) {
+  tour.say("Form1", "mappe", QStringLiteral("/home/rennen/Dokumente/VEXT"));
   tour.takePicture("Form1", "menue");
 }
 
@@ -308,10 +322,11 @@ void theEnd(Tour &tour) {
   tour.press("Form1", "Command4");
 }
 
-constexpr void (*Steps[])(Tour &) = {menu,     clubs,      athletes,    raceRegister, participants,  missingBirthDate,
-                                     criteria, classRules, classOrder,  teams,        startNumbers,  timing,
-                                     lists,    banners,    preview,     twoRuns,      titlePageData, teamResults,
-                                     cup,      timeSum,    copyOfARace, newRace,      deleteRace,    theEnd};
+constexpr void (*Steps[])(Tour &) = {
+    choiceOfFolder, menu,       clubs,      athletes,      raceRegister, participants, missingBirthDate,
+    criteria,       classRules, classOrder, teams,         startNumbers, timing,       lists,
+    banners,        preview,    twoRuns,    titlePageData, teamResults,  cup,          timeSum,
+    copyOfARace,    newRace,    deleteRace, theEnd};
 
 void copyFiles(const QDir &from, const QDir &to) {
   for (const auto &name : from.entryList(QDir::Files))
@@ -346,9 +361,17 @@ void makeTour(const QDir &example, const QDir &pictures) {
   keepDocuments(QDir(QStringLiteral("Ausdrucke")), pictures);
 }
 
+// A window that nobody sees cannot be raised, and a folder for one session is not needed; Qt says so each time.
+void tell(QtMsgType, const QMessageLogContext &, const QString &text) {
+  if (!text.startsWith(QStringLiteral("This plugin does not support")) &&
+      !text.startsWith(QStringLiteral("QStandardPaths: XDG_RUNTIME_DIR")))
+    std::fprintf(stderr, "%s\n", qUtf8Printable(text));
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
+  qInstallMessageHandler(tell);
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" VEXT_MONITOR);
   QApplication application(argc, argv);

@@ -3,8 +3,11 @@
 #include "core/RecordFiles.h"
 #include "core/WebAdresse.h"
 #include "platform/Numbers.h"
+#include "platform/qt/OpenOutside.h"
 #include "platform/qt/Picture.h"
 #include "ui_Form1.h"
+
+#include <QDir>
 
 #include <chrono>
 
@@ -15,6 +18,7 @@ Form1::Form1(Desk &desk, Store &store)
   ui->setupUi(this);
   setWindowTitle(store.ProgrammName + QStringLiteral("  V") + store.Version);
   makePictures();
+  makeFolderLine();
   resize(QSize(62, 39) * fontMetrics().height());
   setUp();
   showName();
@@ -40,6 +44,13 @@ void Form1::makePictures() {
     picture->hide();
     ui->bildLayout->addWidget(picture);
   }
+}
+
+void Form1::makeFolderLine() {
+  const QString folder = QDir(m_store.DatenOrdner).absolutePath();
+  ui->mappe->setText(QDir::toNativeSeparators(folder));
+  connect(ui->mappeOeffnen, &QPushButton::clicked, this, [this, folder] { openOutside(this, folder); });
+  connect(ui->hilfe, &QPushButton::clicked, this, &Form1::hilfeVerlangt);
 }
 
 void Form1::becomeActive() {

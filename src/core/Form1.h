@@ -16,7 +16,7 @@ class Form1;
 /// The menu. `Label1` the organisation's name, and the makers' web address for a moment when the mouse moves over it
 /// (`Timer1`, 2 seconds); `Image1` to `Image8` pictures, one drawn by lot each time; `Label2`, `Label3`, `Label4` the
 /// counts of athletes, clubs and races over `Command1`, `Command2`, `Command3`, which open the registers; `Command4`
-/// ends the program.
+/// ends the program. At its foot the data folder, with a button that opens it, and one for the handbook.
 class Form1 : public Screen {
   Q_OBJECT
 
@@ -29,6 +29,7 @@ public:
 Q_SIGNALS:
   /// A register is to be opened, by its object name.
   void oeffnet(const QString &screen);
+  void hilfeVerlangt();
 
 protected:
   void closing() override;
@@ -36,6 +37,7 @@ protected:
 
 private:
   void makePictures();
+  void makeFolderLine();
   void showName();
   void showAddress();
 

@@ -11,7 +11,8 @@ QSize ElidedLabel::minimumSizeHint() const {
 }
 
 QString ElidedLabel::shown() const {
-  return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+  const auto mode = property("mitteKuerzen").toBool() ? Qt::ElideMiddle : Qt::ElideRight;
+  return fontMetrics().elidedText(text(), mode, contentsRect().width());
 }
 
 bool ElidedLabel::event(QEvent *event) {

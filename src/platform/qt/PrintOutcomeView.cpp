@@ -2,15 +2,13 @@
 
 #include "platform/print/Printers.h"
 #include "platform/qt/ElidedLabel.h"
+#include "platform/qt/OpenOutside.h"
 
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPushButton>
-#include <QUrl>
 
 namespace {
 
@@ -46,8 +44,8 @@ PrintOutcomeView::PrintOutcomeView(QWidget *parent)
   grid->addWidget(m_pictures, 2, 0, 1, 4);
   grid->setColumnStretch(1, 1);
   m_pictures->setWordWrap(true);
-  connect(m_open, &QPushButton::clicked, this, [this] { open(m_path); });
-  connect(m_showFolder, &QPushButton::clicked, this, [this] { open(QFileInfo(m_path).path()); });
+  connect(m_open, &QPushButton::clicked, this, [this] { openOutside(window(), m_path); });
+  connect(m_showFolder, &QPushButton::clicked, this, [this] { openOutside(window(), QFileInfo(m_path).path()); });
   hide();
 }
 
@@ -76,10 +74,4 @@ void PrintOutcomeView::tell(const PrintOutcome &outcome) {
     part->setVisible(anyFile);
   m_pictures->setVisible(anyPicture);
   setVisible(anyFile || anyPicture);
-}
-
-void PrintOutcomeView::open(const QString &path) {
-  if (!QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
-    QMessageBox::information(window(), QStringLiteral("Drucken"),
-                             QStringLiteral("Es gibt kein Programm, das „%1“ öffnet.").arg(path));
 }

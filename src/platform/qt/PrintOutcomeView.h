@@ -18,7 +18,6 @@ public:
 private:
   template <typename Label> Label *addLabel(const QString &name, bool pale);
   QPushButton *addButton(const QString &name, const QString &caption);
-  void open(const QString &path);
 
   QLabel *m_caption, *m_name, *m_folder, *m_pictures;
   QPushButton *m_open, *m_showFolder;
