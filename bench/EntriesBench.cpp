@@ -32,8 +32,8 @@ QDate birthOf(int n) {
 struct Event {
   Event() {
     store.DatenOrdner = folder.path() + QLatin1Char('/');
-    storeStarten(store);
-    alleDateienOeffnen(store);
+    startStore(store);
+    openRecordFiles(store);
     store.LaeuferAnzahl = Athletes; // the state file once, not with each record
     for (int n = 1; n <= Athletes; ++n) {
       LaeuferSatz athlete;

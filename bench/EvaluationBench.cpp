@@ -58,13 +58,13 @@ BENCHMARK(bareWork)->Unit(benchmark::kMillisecond);
 
 void cup(benchmark::State &state) {
   for ([[maybe_unused]] auto _ : state)
-    benchmark::DoNotOptimize(cupAuswerten(event().store, event().races, 2));
+    benchmark::DoNotOptimize(evaluateCup(event().store, event().races, 2));
 }
 BENCHMARK(cup)->Unit(benchmark::kMillisecond);
 
 void timeSum(benchmark::State &state) {
   for ([[maybe_unused]] auto _ : state)
-    zeitsummeErzeugen(event().store, event().races, Races + 1);
+    generateTimeSum(event().store, event().races, Races + 1);
 }
 BENCHMARK(timeSum)->Unit(benchmark::kMillisecond);
 
@@ -72,10 +72,10 @@ void sumOfTheBest(benchmark::State &state) {
   auto &store = event().store;
   store.AktRennen = 1;
   RennDatenLaden(store);
-  wertungVorbereiten(store);
+  prepareUnits(store);
   for ([[maybe_unused]] auto _ : state)
     benchmark::DoNotOptimize(
-        teamWertung(store, {Einheit::Mannschaft, WertungsArt::ZeitsummeDerBesten, WertungsFilter::Gemischt, 5}));
+        evaluateUnits(store, {Einheit::Mannschaft, WertungsArt::ZeitsummeDerBesten, WertungsFilter::Gemischt, 5}));
 }
 BENCHMARK(sumOfTheBest)->Unit(benchmark::kMillisecond);
 

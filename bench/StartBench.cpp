@@ -51,7 +51,7 @@ void startToMenu(benchmark::State &state) {
     Safety safety(store, worker);
     safety.claim();
     safety.offerLeftBehind([](const Safety::Offer &) {});
-    storeStarten(store);
+    startStore(store);
     Printers printers([] { return SystemPrinters(); }, {});
     Programm programm(store, printers);
     programm.start();

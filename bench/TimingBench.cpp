@@ -23,7 +23,7 @@ constexpr int People = 1000;
 
 struct Event : TestStore {
   Event() {
-    umgebung.zufall.seed(7);
+    umgebung.generator.seed(7);
     addRace(QStringLiteral("Messung"));
     store.Rennen.ZweiDurchgaenge = 1;
     makeClasses();
@@ -43,15 +43,15 @@ struct Event : TestStore {
   }
 
   void addParticipant(int row) {
-    const auto letter = [this] { return QChar(int('A') + int(26 * umgebung.zufallszahl())); };
+    const auto letter = [this] { return QChar(int('A') + int(26 * umgebung.randomNumber())); };
     addAthlete(
         QStringLiteral("%1%2%3ÖLLER-STEINHUBER %4lisabeth").arg(letter()).arg(letter()).arg(letter()).arg(letter()),
         2000 + row % 20, row % 2);
     auto &participant = store.Teilnehmer[row];
     participant.LaeuferNr = row;
     participant.StartNr = People + 1 - row;
-    participant.Zeit1 = 60 + 40 * umgebung.zufallszahl();
-    participant.Zeit2 = 60 + 40 * umgebung.zufallszahl();
+    participant.Zeit1 = 60 + 40 * umgebung.randomNumber();
+    participant.Zeit2 = 60 + 40 * umgebung.randomNumber();
   }
 };
 

@@ -50,7 +50,7 @@ Programm::Programm(Store &store, Printers &printers)
               SafetyFolder(store.DatenOrdner).path()}),
       m_openings(openings()) {
   m_desk.hints().rules = [this](const QString &screen, const ShownValues &shown) { return hintsOf(screen, shown); };
-  store.umgebung.erinnern = [this](const QStringList &lines) { remind(lines); };
+  store.umgebung.remind = [this](const QStringList &lines) { remind(lines); };
 }
 
 Programm::~Programm() {
@@ -61,7 +61,7 @@ Programm::~Programm() {
 void Programm::start() {
   m_menu = new Form1(m_desk, m_store);
   adopt(*m_menu);
-  connect(m_menu, &Form1::oeffnet, this, &Programm::open);
+  connect(m_menu, &Form1::openRequested, this, &Programm::open);
   connect(m_menu, &Form1::hilfeVerlangt, this, [this] { m_help.open(m_menu->objectName()); });
   connect(m_menu, &Screen::closed, this, [this] {
     if (m_reminder)
@@ -71,11 +71,11 @@ void Programm::start() {
   m_desk.show(*m_menu);
 }
 
-void Programm::sicherungHinweis(const QString &text) {
+void Programm::showSafetyHint(const QString &text) {
   m_desk.setHint(text);
 }
 
-void Programm::protokollHinweis(const QString &text) {
+void Programm::showJournalHint(const QString &text) {
   m_journalHint = text;
   m_desk.hints().renew();
 }
@@ -126,20 +126,20 @@ QHash<QString, Programm::Opening> Programm::openings() {
 }
 
 void Programm::openClubs() {
-  alleDateienOeffnen(m_store);
+  openRecordFiles(m_store);
   replace(*m_menu, new Form2(m_desk, m_store));
 }
 
 void Programm::openAthletes() {
-  alleDateienOeffnen(m_store);
+  openRecordFiles(m_store);
   offerEntries(replace(*m_menu, new Form3(m_desk, m_store)), false);
 }
 
 void Programm::openRaceRegister() {
-  alleDateienOeffnen(m_store);
+  openRecordFiles(m_store);
   m_hub = &replace(*m_menu, new Form4(m_desk, m_store, m_printers));
-  connect(m_hub, &Form4::oeffnet, this, &Programm::open);
-  m_hub->waehlen(rennenZuBeginn(m_store));
+  connect(m_hub, &Form4::openRequested, this, &Programm::open);
+  m_hub->chooseRace(raceToOpenFirst(m_store));
 }
 
 template <typename S> void Programm::openPlain() {
@@ -148,36 +148,36 @@ template <typename S> void Programm::openPlain() {
 
 void Programm::askDeletion() {
   auto &form = replace(*m_hub, new Form9(m_desk, m_store));
-  connect(&form, &Form9::geloescht, m_hub, &Form4::geloeschtZeigen);
+  connect(&form, &Form9::raceDeleted, m_hub, &Form4::showDeleted);
 }
 
 void Programm::copyRace() {
   if (auto *open = shown<CupKopie>())
     return m_desk.show(*open);
-  auto &form = beside(*m_hub, new CupKopie(m_desk, m_store, [this] { return m_hub->bezeichnung(); }));
-  connect(&form, &CupKopie::copied, m_hub, &Form4::listeFuellen);
+  auto &form = beside(*m_hub, new CupKopie(m_desk, m_store, [this] { return m_hub->typedName(); }));
+  connect(&form, &CupKopie::copied, m_hub, &Form4::refillRaces);
 }
 
 void Programm::openParticipants() {
   auto &form = replace(*m_hub, new Form5(m_desk, m_store));
-  connect(&form, &Form5::athletGewaehlt, this, [this, &form](int record) { athletesOnTop(form).zeigen(record); });
-  connect(&form, &Form5::neuaufnahme, this,
-          [this, &form](const QString &name) { athletesOnTop(form).neuaufnehmen(name); });
+  connect(&form, &Form5::athleteChosen, this, [this, &form](int record) { athletesOnTop(form).showRecord(record); });
+  connect(&form, &Form5::newEntryRequested, this,
+          [this, &form](const QString &name) { athletesOnTop(form).startNewEntry(name); });
   offerEntries(form, true);
-  connect(&form, &Form5::teilnehmerGewaehlt, this, [this, &form](int row) { openNumbersOnTop(form, row); });
-  connect(&form, &Form5::teilnehmerGeloescht, this, [this] {
+  connect(&form, &Form5::participantChosen, this, [this, &form](int row) { openNumbersOnTop(form, row); });
+  connect(&form, &Form5::participantDeleted, this, [this] {
     if (auto *numbers = shown<Form6>())
-      numbers->zeilenVerschoben();
+      numbers->rowsMoved();
   });
 }
 
 template <typename S> void Programm::offerEntries(S &screen, bool race) {
-  connect(&screen, &S::meldungenGewuenscht, this, [this, &screen, race] {
+  connect(&screen, &S::entriesRequested, this, [this, &screen, race] {
     if (auto table = EntryScreen::chosenTable(&screen)) {
       auto &entries = beside(screen, new EntryScreen(m_desk, m_store, *std::move(table), race));
-      connect(&entries, &EntryScreen::takenOver, &screen, &S::meldungenZeigen);
+      connect(&entries, &EntryScreen::takenOver, &screen, &S::showEntered);
       if (auto *athletes = shown<Form3>())
-        connect(&entries, &EntryScreen::takenOver, athletes, &Form3::meldungenZeigen, Qt::UniqueConnection);
+        connect(&entries, &EntryScreen::takenOver, athletes, &Form3::showEntered, Qt::UniqueConnection);
     }
   });
 }
@@ -199,7 +199,7 @@ void Programm::openNumbersOnTop(Screen &participants, int row) {
     m_desk.show(*numbers);
   else
     numbers = &beside(participants, new Form6(m_desk, m_store));
-  numbers->teilnehmerWaehlen(row);
+  numbers->chooseParticipant(row);
 }
 
 void Programm::openNumbers() {
@@ -219,19 +219,19 @@ void Programm::openClassOrder() {
 void Programm::openTiming() {
   KlassenZuordnen(m_store);
   auto &form = replace(*m_hub, new Form7(m_desk, m_store));
-  connect(&form, &Form7::ergebnisVerlangt, this, [this, &form](bool open) { showResult(form, open); });
-  connect(&form, &Form7::ergebnisGerechnet, this, [this] {
+  connect(&form, &Form7::resultRequested, this, [this, &form](bool open) { showResult(form, open); });
+  connect(&form, &Form7::resultComputed, this, [this] {
     if (auto *result = shown<Form13>())
-      result->zeigen();
+      result->showListing();
   });
-  connect(&form, &Form7::hilfszeitVerlangt, this, [this, &form] { openAuxiliaryTiming(form); });
+  connect(&form, &Form7::auxiliaryTimingRequested, this, [this, &form] { openAuxiliaryTiming(form); });
 }
 
 void Programm::openAuxiliaryTiming(Form7 &timing) {
   if (auto *open = shown<Form18>())
     return m_desk.show(*open);
   auto &form = beside(timing, new Form18(m_desk));
-  connect(&form, &Form18::uebernommen, &timing, &Form7::zeitUebernehmen);
+  connect(&form, &Form18::differenceTaken, &timing, &Form7::takeDifference);
 }
 
 void Programm::showResult(Screen &opener, bool open) {
@@ -252,18 +252,18 @@ void Programm::openPrinting() {
   auto *prints = new Form8(m_desk, m_store, m_printers);
   showResult(*m_hub, false);
   auto &form = replace(*m_hub, prints);
-  connect(&form, &Form8::druckerGewuenscht, this, [this, &form] { replace(form, new Form28(m_desk, m_printers)); });
-  connect(&form, &Form8::werbungGewuenscht, this, [this, &form] { replace(form, new Form21(m_desk, m_store)); });
+  connect(&form, &Form8::printerRequested, this, [this, &form] { replace(form, new Form28(m_desk, m_printers)); });
+  connect(&form, &Form8::bannersRequested, this, [this, &form] { replace(form, new Form21(m_desk, m_store)); });
 }
 
 void Programm::openTeamEvaluation() {
   auto &form = replace(*m_hub, new Form12(m_desk, m_store, m_printers));
-  connect(&form, &Form12::druckerGewuenscht, this, [this, &form] { replace(form, new Form28(m_desk, m_printers)); });
+  connect(&form, &Form12::printerRequested, this, [this, &form] { replace(form, new Form28(m_desk, m_printers)); });
 }
 
 void Programm::openTitlePageData() {
   auto &form = replace(*m_hub, new Form16(m_desk, m_store));
-  connect(&form, &Form16::werbungGewuenscht, this, [this, &form] { replace(form, new Form21(m_desk, m_store)); });
+  connect(&form, &Form16::bannersRequested, this, [this, &form] { replace(form, new Form21(m_desk, m_store)); });
 }
 
 void Programm::openCup() {
@@ -274,7 +274,7 @@ void Programm::openCup() {
 void Programm::openTimeSum() {
   auto &form = replace(*m_hub, new Form19(m_desk, m_store));
   connectWorkSign(form);
-  connect(&form, &Form19::erzeugt, this, [this, &form] {
+  connect(&form, &Form19::raceGenerated, this, [this, &form] {
     disconnect(&form, &Screen::closed, m_hub, nullptr);
     connect(&form, &Screen::closed, m_hub, &QWidget::close);
   });
@@ -282,11 +282,11 @@ void Programm::openTimeSum() {
 
 // The provisional result stands there while races are ranked, as a sign of work.
 template <typename S> void Programm::connectWorkSign(S &screen) {
-  connect(&screen, &S::arbeitBegonnen, this, [this, &screen] {
+  connect(&screen, &S::workBegun, this, [this, &screen] {
     showResult(screen, true);
     letPaint();
   });
-  connect(&screen, &S::arbeitBeendet, this, [this, &screen] { showResult(screen, false); });
+  connect(&screen, &S::workEnded, this, [this, &screen] { showResult(screen, false); });
 }
 
 // Opened at each save, and closed again unseen if there is nothing to tell.
@@ -299,7 +299,7 @@ void Programm::remind(const QStringList &lines) {
   if (lines.isEmpty())
     m_reminder->close();
   else
-    m_reminder->erinnern(lines);
+    m_reminder->remind(lines);
 }
 
 template <typename S> S &Programm::replace(Screen &opener, S *screen) {

@@ -34,9 +34,9 @@ public:
   /// What the open screens would write if they closed now, and the note of a field not yet left.
   QList<SavedFile> openWork() const;
   /// What the quiet line at the foot of every screen tells; empty = nothing.
-  void sicherungHinweis(const QString &text);
+  void showSafetyHint(const QString &text);
   /// What the line at the foot of the menu alone tells besides.
-  void protokollHinweis(const QString &text);
+  void showJournalHint(const QString &text);
   /// What renews the other hints; it can be asked to do so at once, or be left without rules.
   HintRenewal &hints() { return m_desk.hints(); }
 

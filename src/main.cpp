@@ -66,10 +66,10 @@ void setUp(Application &application) {
 }
 
 void setUp(Store &store) {
-  store.umgebung.piep = [] { QApplication::beep(); };
-  store.umgebung.zufall.seed(unsigned(std::chrono::system_clock::now().time_since_epoch().count()));
+  store.umgebung.beep = [] { QApplication::beep(); };
+  store.umgebung.generator.seed(unsigned(std::chrono::system_clock::now().time_since_epoch().count()));
   store.OrganisationName = Settings::organisationName(QDir::currentPath());
-  storeStarten(store);
+  startStore(store);
 }
 
 // A failure of the worker becomes a fault in the event loop.
@@ -144,7 +144,7 @@ int run(Store &store, Safety &safety, DiskWorker &worker) {
     return race > 0 && store.TabellenRennen == race && store.AktRennen == race;
   };
   preview.offer({QStringLiteral("alle Listen dieses Rennens (HTML)"), isOpen,
-                 [&](int) { alleListenDrucken(store, printers, folder, now); }});
+                 [&](int) { printAllLists(store, printers, folder, now); }});
   preview.offer({QStringLiteral("Protokoll dieses Rennens"), isOpen, [&](int race) {
                    Druckschicht druck([&](const Recording &done) { printers.print(done, preview.printer()); });
                    Protokoll(store, druck, race);
@@ -156,8 +156,8 @@ int run(Store &store, Safety &safety, DiskWorker &worker) {
     const BusyPointer busy;
     worker.wait();
   };
-  safety.hint = [&programm](const QString &line) { programm.sicherungHinweis(line); };
-  safety.journalHint = [&programm](const QString &line) { programm.protokollHinweis(line); };
+  safety.hint = [&programm](const QString &line) { programm.showSafetyHint(line); };
+  safety.journalHint = [&programm](const QString &line) { programm.showJournalHint(line); };
   programm.start();
   safety.start();
   const int code = QApplication::exec();

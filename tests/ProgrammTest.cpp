@@ -140,7 +140,7 @@ TEST_F(ProgrammTest, TheHintStandsOnEveryScreenAndMovesNothing) {
   const auto *exit = control<QAbstractButton>("Form4", "Command1");
   const QRect place = exit->geometry();
   const QString hint = QString(300, u'x');
-  programm->sicherungHinweis(hint);
+  programm->showSafetyHint(hint);
   press("Form4", "Command16");
   for (const char *screen : {"Form4", "CupKopie"}) {
     const auto *line = control<QLabel>(screen, "Hinweis");
@@ -151,14 +151,14 @@ TEST_F(ProgrammTest, TheHintStandsOnEveryScreenAndMovesNothing) {
     EXPECT_TRUE(QToolTip::text().contains(hint));
   }
   EXPECT_EQ(exit->geometry(), place);
-  programm->sicherungHinweis({});
+  programm->showSafetyHint({});
   EXPECT_EQ(control<QLabel>("Form4", "Hinweis")->text(), QString());
   EXPECT_EQ(exit->geometry(), place);
 }
 
 TEST_F(ProgrammTest, OnlyTheMenuEndsTheProgramAlsoBesideTheReminder) {
   start({});
-  test.umgebung.erinnern({"1"});
+  test.umgebung.remind({"1"});
   bool stillRuns = false;
   QTimer::singleShot(0, [&] {
     window("Form4")->close();

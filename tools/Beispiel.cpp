@@ -34,7 +34,7 @@ void writeClubs(Store &store) {
     VereinSatz verein;
     verein.VereinName = utf8(club.lang);
     verein.VereinKurz = utf8(club.kurz);
-    verein.VereinOesvNr = utf8(club.nummer);
+    verein.VereinOesvNr = utf8(club.number);
     verein.VereinOrt = utf8(club.ort);
     verein.Ansprechpartner = utf8(club.ansprechpartner);
     verein.Adresse = utf8(club.adresse);
@@ -51,7 +51,7 @@ void writePeople(Store &store) {
     LaeuferSatz laeufer;
     laeufer.Name = utf8(person.name);
     laeufer.Geschlecht = person.geschlecht;
-    const int day = int(store.umgebung.zufallszahl() * 365);
+    const int day = int(store.umgebung.randomNumber() * 365);
     if (person.jahrgang != 0)
       laeufer.Geburtsdatum = toDays(QDate(person.jahrgang, 1, 1).addDays(day));
     laeufer.Verein1 = qint16(person.vereine[0]);
@@ -190,7 +190,7 @@ void drawStartNumbers(Store &store) {
   };
   std::vector<Lot> lots;
   forEachRow(store, [&](TeilnehmerZeile &row) {
-    lots.push_back({row.KlasseReihe, store.umgebung.zufallszahl(), &row});
+    lots.push_back({row.KlasseReihe, store.umgebung.randomNumber(), &row});
   });
   std::stable_sort(lots.begin(), lots.end(),
                    [](const Lot &a, const Lot &b) { return std::tie(a.reihe, a.draw) < std::tie(b.reihe, b.draw); });
@@ -211,7 +211,7 @@ double ageFactor(double age) {
 /// Seconds to the hundredth; `talent` from 0 (best) to 1.
 double runTime(Store &store, const Person &person, double richtzeit, double talent) {
   double seconds = richtzeit * ageFactor(Season - person.jahrgang) * (1 + Talent * talent);
-  seconds *= 1 + DayForm * store.umgebung.zufallszahl();
+  seconds *= 1 + DayForm * store.umgebung.randomNumber();
   if (person.geschlecht == Weiblich)
     seconds *= Women;
   return std::round(seconds * 100) / 100;
@@ -346,12 +346,12 @@ void holdCup(Store &store, const std::vector<double> &talents) {
 }
 
 void makeEvent(Store &store) {
-  storeStarten(store);
-  alleDateienOeffnen(store);
+  startStore(store);
+  openRecordFiles(store);
   writeClubs(store);
   writePeople(store);
   std::vector<double> talents;
-  std::generate_n(std::back_inserter(talents), std::size(People), [&] { return store.umgebung.zufallszahl(); });
+  std::generate_n(std::back_inserter(talents), std::size(People), [&] { return store.umgebung.randomNumber(); });
   holdChampionship(store, talents);
   holdNightSlalom(store, talents);
   announceChildrensRace(store);
@@ -372,8 +372,8 @@ int main(int argc, char **argv) {
     return 1;
   }
   Umgebung umgebung;
-  umgebung.heute = [] { return Today; };
-  umgebung.zufall.seed(Seed);
+  umgebung.today = [] { return Today; };
+  umgebung.generator.seed(Seed);
   Store store(umgebung);
   store.DatenOrdner = folder.path() + QLatin1Char('/');
   try {

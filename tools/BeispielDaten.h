@@ -7,7 +7,7 @@
 // Clubs, people and races of the example event; all of them are invented.
 
 struct Club {
-  const char *lang, *kurz, *nummer, *ort, *ansprechpartner, *adresse, *telefon, *mail;
+  const char *lang, *kurz, *number, *ort, *ansprechpartner, *adresse, *telefon, *mail;
 };
 
 constexpr int Tannberg = 1;

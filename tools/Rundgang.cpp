@@ -351,10 +351,10 @@ void makeTour(const QDir &example, const QDir &pictures) {
   QDir::setCurrent(data.path());
   QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, data.path());
   Umgebung umgebung;
-  umgebung.heute = [] { return QDate(2026, 1, 15); };
+  umgebung.today = [] { return QDate(2026, 1, 15); };
   Store store(umgebung);
   store.OrganisationName = QStringLiteral("Schiclub Tannberg");
-  storeStarten(store);
+  startStore(store);
   Tour tour(store, pictures);
   for (const auto step : Steps)
     step(tour);

@@ -27,9 +27,9 @@ Form1::Form1(Desk &desk, Store &store)
   m_timer.setSingleShot(true);
   m_timer.setInterval(2000ms);
   connect(&m_timer, &QTimer::timeout, this, &Form1::showName);
-  connect(ui->Command1, &QPushButton::clicked, this, [this] { Q_EMIT oeffnet(QStringLiteral("Form3")); });
-  connect(ui->Command2, &QPushButton::clicked, this, [this] { Q_EMIT oeffnet(QStringLiteral("Form2")); });
-  connect(ui->Command3, &QPushButton::clicked, this, [this] { Q_EMIT oeffnet(QStringLiteral("Form4")); });
+  connect(ui->Command1, &QPushButton::clicked, this, [this] { Q_EMIT openRequested(QStringLiteral("Form3")); });
+  connect(ui->Command2, &QPushButton::clicked, this, [this] { Q_EMIT openRequested(QStringLiteral("Form2")); });
+  connect(ui->Command3, &QPushButton::clicked, this, [this] { Q_EMIT openRequested(QStringLiteral("Form4")); });
   connect(ui->Command4, &QPushButton::clicked, this, &Form1::close);
   ui->Command3->setFocus();
 }
@@ -59,7 +59,7 @@ void Form1::becomeActive() {
   ui->Label4->setText(plainText(m_store.RennenAnzahl));
   for (auto *picture : m_pictures)
     picture->hide();
-  m_pictures.at(size_t(m_store.umgebung.zufallszahl() * PictureCount))->show();
+  m_pictures.at(size_t(m_store.umgebung.randomNumber() * PictureCount))->show();
 }
 
 void Form1::closing() {

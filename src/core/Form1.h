@@ -28,7 +28,7 @@ public:
 
 Q_SIGNALS:
   /// A register is to be opened, by its object name.
-  void oeffnet(const QString &screen);
+  void openRequested(const QString &screen);
   void hilfeVerlangt();
 
 protected:

@@ -21,7 +21,7 @@ Form17::Form17(Desk &desk)
 
 Form17::~Form17() = default;
 
-void Form17::erinnern(const QStringList &lines) {
+void Form17::remind(const QStringList &lines) {
   ui->List1->fill(lines);
   if (!isVisible())
     comeForward();

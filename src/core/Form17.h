@@ -21,7 +21,7 @@ public:
   ~Form17() override;
 
   /// Shows these lines instead of those before, and the screen if it is not visible yet.
-  void erinnern(const QStringList &lines);
+  void remind(const QStringList &lines);
 
 protected:
   void mousePressEvent(QMouseEvent *event) override;

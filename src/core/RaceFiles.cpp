@@ -147,10 +147,10 @@ void RennDatenLaden(Store &store) {
 
 void RennDatenSpeichern(Store &store) {
   store.TabellenRennen = store.AktRennen;
-  store.umgebung.erinnern(missingAthleteData(store));
-  store.vorDemSpeichern();
+  store.umgebung.remind(missingAthleteData(store));
+  store.beforeSaving();
   writeRaceFiles(store, store.AktRennen, raceFiles(store));
-  store.nachDemSpeichern();
+  store.afterSaving();
 }
 
 void writeRaceFiles(const Store &store, int race, const QList<RaceFile> &files) {

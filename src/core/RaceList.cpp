@@ -10,7 +10,7 @@ constexpr int NumberWidth = 6; // a blank and five digits
 
 } // namespace
 
-QStringList rennenZeilen(const Store &store) {
+QStringList raceLines(const Store &store) {
   QStringList lines;
   for (int n = store.RennenAnzahl; n >= 1; --n)
     if (const QString name = raceRecord(store, n).RennenName; !name.isEmpty())
@@ -24,11 +24,11 @@ QStringList RennenListeFuellen(Store &store) {
     store.RennenIdx = 1;
     RennenLesen(store);
   }
-  rennsatzLesen(store);
+  readOpenRace(store);
   RennDatenLaden(store);
-  return rennenZeilen(store);
+  return raceLines(store);
 }
 
-int rennenNummer(QStringView line) {
+int raceOfLine(QStringView line) {
   return int(wholeNumber(line.left(NumberWidth)));
 }

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr quint8 LastBestzeitKlasse = 17;
+constexpr quint8 LastBestTimeClass = 17;
 
 // A record that begins at or beyond the end of its file has never been written: it reads as an empty one.
 template <typename Satz> Satz readOrEmpty(const RecordFile &file, int index, Satz (*fromBytes)(const QByteArray &)) {
@@ -33,7 +33,7 @@ void raiseCount(Store &store, int index, int &count) {
 bool isInRegister(const Store &store, int n, int count) {
   const bool inside = n >= 1 && n <= count;
   if (!inside)
-    store.umgebung.piep();
+    store.umgebung.beep();
   return inside;
 }
 
@@ -68,7 +68,7 @@ void RennenSchliessen(Store &store) {
   store.RennenDatei.close();
 }
 
-void alleDateienOeffnen(Store &store) {
+void openRecordFiles(Store &store) {
   LaeuferOeffnen(store);
   VereinOeffnen(store);
   RennenOeffnen(store);
@@ -108,7 +108,7 @@ RennenSatz trimmedRace(const QByteArray &record) {
         &rennen.Zielrichter, &rennen.Zeitnehmung, &rennen.Chefkampfrichter, &rennen.Sponsor1, &rennen.Sponsor2,
         &rennen.Sponsor3, &rennen.Sponsor4, &rennen.Sponsor5, &rennen.Sponsor6})
     *text = trimmedBlanks(*text);
-  if (rennen.BestzeitAbKlasse > LastBestzeitKlasse)
+  if (rennen.BestzeitAbKlasse > LastBestTimeClass)
     rennen.BestzeitAbKlasse = 0;
   return rennen;
 }
@@ -119,7 +119,7 @@ void RennenLesen(Store &store) {
     store.Rennen = trimmedRace(store.RennenDatei.read(store.RennenIdx));
 }
 
-void rennsatzLesen(Store &store) {
+void readOpenRace(Store &store) {
   store.RennenIdx = store.AktRennen;
   RennenLesen(store);
 }
@@ -147,7 +147,7 @@ void RennenSchreiben(Store &store) {
   raiseCount(store, store.RennenIdx, store.RennenAnzahl);
 }
 
-void rennsatzSpeichern(Store &store) {
+void writeOpenRace(Store &store) {
   store.RennenIdx = store.AktRennen;
   if (store.AktRennen > 0)
     RennenSchreiben(store);

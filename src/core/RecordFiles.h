@@ -21,7 +21,7 @@ LaeuferSatz LaeuferLesen(const Store &store, int n);
 /// RennenLeeren first, whatever comes next; texts are trimmed but for `RennenNrText`. Outside the range: a beep.
 void RennenLesen(Store &store);
 /// The same for the open race.
-void rennsatzLesen(Store &store);
+void readOpenRace(Store &store);
 
 /// The record of race n, trimmed like the race in work, which stays; an empty one if there is none.
 RennenSatz raceRecord(const Store &store, int n);
@@ -36,7 +36,7 @@ void LaeuferSchreiben(Store &store, int n, const LaeuferSatz &laeufer);
 /// The same for the race in work, at `RennenIdx`; below 1 it is a FileFault.
 void RennenSchreiben(Store &store);
 /// The race in work becomes the record of the open race. The first race may be open as number 0, which has none.
-void rennsatzSpeichern(Store &store);
+void writeOpenRace(Store &store);
 
 /// A club without texts. The four unnamed bytes are those of the club of the last call.
 VereinSatz VereinLeeren(const Store &store);
@@ -52,4 +52,4 @@ QStringList VereinListeFuellen(const Store &store);
 QStringList LaeuferListeFuellen(const Store &store);
 
 /// Opens all three files, as the buttons of the menu do.
-void alleDateienOeffnen(Store &store);
+void openRecordFiles(Store &store);

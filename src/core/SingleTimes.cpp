@@ -13,7 +13,7 @@ QString timesFile(const Store &store) {
 
 } // namespace
 
-bool hatSingleTimes(const Store &store) {
+bool hasSingleTimes(const Store &store) {
   return fileExists(timesFile(store));
 }
 
@@ -29,11 +29,11 @@ QByteArray singleTimesBytes(const CupTabellen &cup) {
   return file.bytes();
 }
 
-void singleTimesSpeichern(const Store &store) {
+void saveSingleTimes(const Store &store) {
   replaceFile(timesFile(store), singleTimesBytes(store.cup));
 }
 
-void singleTimesLaden(Store &store) {
+void loadSingleTimes(Store &store) {
   TextReader file(readFile(timesFile(store)), timesFile(store));
   for (int round = 1; round <= 10; ++round)
     file.lineInto(store.cup.ZeitsummeRennenKurz[round]);

@@ -21,7 +21,7 @@ constexpr int SeasonYear = 2015;
 constexpr int DaysToNextSeason = 180;
 
 void fillBuiltInTables(Store &store) {
-  store.JahrOffset = float(store.umgebung.heute().addDays(DaysToNextSeason).year() - SeasonYear);
+  store.JahrOffset = float(store.umgebung.today().addDays(DaysToNextSeason).year() - SeasonYear);
   int row = 1;
   for (const auto &season : SeasonClasses)
     store.StdKlasse[row++] = {QString::fromUtf8(season.name), qint16(season.von + int(store.JahrOffset)),
@@ -34,7 +34,7 @@ void fillBuiltInTables(Store &store) {
 
 } // namespace
 
-void storeStarten(Store &store) {
+void startStore(Store &store) {
   FensterLesen(store);
   ZustandLesen(store);
   store.RennenIdx = store.RennenAnzahl;

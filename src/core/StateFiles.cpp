@@ -11,11 +11,11 @@ QString windowFile(const Store &store) {
 
 } // namespace
 
-QString zustandDatei(const Store &store) {
+QString stateFilePath(const Store &store) {
   return store.DatenOrdner + QStringLiteral("Vext.dat");
 }
 
-Zustand zustandAus(const QByteArray &bytes, const QString &path) {
+Zustand stateFrom(const QByteArray &bytes, const QString &path) {
   TextReader file(bytes, path);
   Zustand read;
   file.numberInto(read.LaeuferAnzahl, LargestRecordFile / LaeuferLaenge);
@@ -25,19 +25,19 @@ Zustand zustandAus(const QByteArray &bytes, const QString &path) {
   return read;
 }
 
-QByteArray toBytes(const Zustand &zustand) {
+QByteArray toBytes(const Zustand &state) {
   TextWriter file;
-  for (const int value : {zustand.LaeuferAnzahl, zustand.VereinAnzahl, zustand.RennenAnzahl, zustand.VextReserve})
+  for (const int value : {state.LaeuferAnzahl, state.VereinAnzahl, state.RennenAnzahl, state.VextReserve})
     file.number(value);
   return file.bytes();
 }
 
-Zustand zustand(const Store &store) {
+Zustand stateOf(const Store &store) {
   return {store.LaeuferAnzahl, store.VereinAnzahl, store.RennenAnzahl, store.VextReserve};
 }
 
 Zustand countsOnDisk(const Store &store) {
-  return zustandAus(readIfThere(zustandDatei(store)).value_or(QByteArray()), zustandDatei(store));
+  return stateFrom(readIfThere(stateFilePath(store)).value_or(QByteArray()), stateFilePath(store));
 }
 
 Zustand raisedCounts(const Store &store, const Zustand &wanted) {
@@ -64,7 +64,7 @@ void ZustandLesen(Store &store) {
 }
 
 void ZustandSchreiben(Store &store) {
-  store.umgebung.replaceSoon(zustandDatei(store), toBytes(zustand(store)));
+  store.umgebung.replaceSoon(stateFilePath(store), toBytes(stateOf(store)));
 }
 
 void FensterLesen(Store &store) {

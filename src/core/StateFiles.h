@@ -11,14 +11,14 @@ struct Zustand {
   bool operator==(const Zustand &) const = default;
 };
 
-QString zustandDatei(const Store &store);
+QString stateFilePath(const Store &store);
 /// The values of Vext.dat; those that its content lacks are 0. A number too large is a ConversionFault, so is a count
 /// of more records than a file may hold: every list would be filled for ever.
-Zustand zustandAus(const QByteArray &bytes, const QString &path);
-QByteArray toBytes(const Zustand &zustand);
+Zustand stateFrom(const QByteArray &bytes, const QString &path);
+QByteArray toBytes(const Zustand &state);
 
 /// The counts as the store has them.
-Zustand zustand(const Store &store);
+Zustand stateOf(const Store &store);
 /// Takes the counts from Vext.dat; 0 without the file.
 void ZustandLesen(Store &store);
 /// The counts as Vext.dat has them now.

@@ -2,7 +2,7 @@
 
 #include "core/CupTabellen.h"
 #include "core/MannschaftsTabellen.h"
-#include "core/Rangliste.h"
+#include "core/RangTabellen.h"
 #include "core/Records.h"
 #include "platform/RecordFile.h"
 #include "platform/Tabelle.h"
@@ -127,7 +127,7 @@ struct Store {
   Tabelle<QString, 0, 100> MannschaftName{"MannschaftName"}, GruppeName{"GruppeName"};
 
   // What the evaluations of the open race, or of a series of races, leave behind.
-  Rangliste rangliste;
+  RangTabellen ranking;
   MannschaftsTabellen mannschaften;
   CupTabellen cup;
 
@@ -137,9 +137,9 @@ struct Store {
   Tabelle<QString, 0, 5> StatusText{"StatusText"};
 
   /// Called by RennDatenSpeichern before the first and after the last file.
-  std::function<void()> vorDemSpeichern = [] {}, nachDemSpeichern = [] {};
+  std::function<void()> beforeSaving = [] {}, afterSaving = [] {};
   /// Called before the first and after the last file of what is written all or none: a whole new race, perhaps over
   /// another; registers.
-  std::function<void(const RaceImage &)> vorDemErsetzen = [](const RaceImage &) {};
-  std::function<void()> nachDemErsetzen = [] {};
+  std::function<void(const RaceImage &)> beforeReplacing = [](const RaceImage &) {};
+  std::function<void()> afterReplacing = [] {};
 };

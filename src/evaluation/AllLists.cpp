@@ -15,11 +15,11 @@ namespace {
 class EvaluationKept {
 public:
   explicit EvaluationKept(Store &store)
-      : m_store(store), m_rows(store.Teilnehmer), m_ranking(store.rangliste), m_teams(store.mannschaften),
+      : m_store(store), m_rows(store.Teilnehmer), m_ranking(store.ranking), m_teams(store.mannschaften),
         m_cup(store.cup) {}
   ~EvaluationKept() {
     m_store.Teilnehmer = std::move(m_rows);
-    m_store.rangliste = std::move(m_ranking);
+    m_store.ranking = std::move(m_ranking);
     m_store.mannschaften = std::move(m_teams);
     m_store.cup = std::move(m_cup);
   }
@@ -28,7 +28,7 @@ public:
 private:
   Store &m_store;
   Tabelle<TeilnehmerZeile, 0, 1000> m_rows;
-  Rangliste m_ranking;
+  RangTabellen m_ranking;
   MannschaftsTabellen m_teams;
   CupTabellen m_cup;
 };
@@ -36,8 +36,8 @@ private:
 // The list of units is called alike for all of them.
 void addUnits(QList<Recording> &lists, Store &store, Einheit unit, const QString &what) {
   const Wertung how{unit, WertungsArt::Bestzeit, WertungsFilter::Gemischt, 2};
-  const TeamListe list{how, teamWertung(store, how)};
-  if (list.einheiten.isEmpty())
+  const TeamPrint list{how, evaluateUnits(store, how)};
+  if (list.units.isEmpty())
     return;
   Druckschicht druck([&](Recording done) {
     done.name += QLatin1Char(' ') + what;
@@ -45,13 +45,13 @@ void addUnits(QList<Recording> &lists, Store &store, Einheit unit, const QString
     lists.append(done);
   });
   Mannschaftsliste(store, druck, list, [&](int line) {
-    return mitgliederZeilen(store, how, numberAtEnd(list.einheiten[line]), MitgliederOrdnung::NachZeit);
+    return memberLines(store, how, numberAtEnd(list.units[line]), MemberOrder::ByTime);
   });
 }
 
 } // namespace
 
-QList<Recording> alleListen(Store &store) {
+QList<Recording> allLists(Store &store) {
   const EvaluationKept kept(store);
   QList<Recording> lists;
   Druckschicht druck([&lists](const Recording &done) { lists.append(done); });
@@ -60,19 +60,19 @@ QList<Recording> alleListen(Store &store) {
   if (store.Rennen.ZweiDurchgaenge != 0)
     StartlisteZweiterDurchgang(store, druck);
   NichtInDerWertung(store, druck);
-  wertungVorbereiten(store);
+  prepareUnits(store);
   addUnits(lists, store, Einheit::Verein, QStringLiteral("Vereine"));
-  if (!mannschaftsZeilen(store).isEmpty())
+  if (!teamLines(store).isEmpty())
     addUnits(lists, store, Einheit::Mannschaft, QStringLiteral("Mannschaften"));
-  if (!gruppenZeilen(store).isEmpty())
+  if (!groupLines(store).isEmpty())
     addUnits(lists, store, Einheit::Gruppe, QStringLiteral("Gruppen"));
   return lists;
 }
 
-void alleListenDrucken(Store &store, Printers &printers, const QString &folder, const std::function<QDateTime()> &now) {
+void printAllLists(Store &store, Printers &printers, const QString &folder, const std::function<QDateTime()> &now) {
   QList<std::pair<QString, QString>> pages;
   const Printer web = htmlPrinter(folder, now);
-  for (const Recording &list : alleListen(store)) {
+  for (const Recording &list : allLists(store)) {
     printers.print(list, web);
     pages.append({list.name, QFileInfo(printers.outcome().files.last()).fileName()});
   }

@@ -56,9 +56,9 @@ private:
 QStringList gatherPersons(Store &store, const QList<int> &races) {
   Persons persons(store);
   for (const int race : races) {
-    rennenLaden(store, race);
-    rennsatzLesen(store);
-    klassenNamenMerken(store);
+    loadRaceTables(store, race);
+    readOpenRace(store);
+    keepClassNames(store);
     persons.takeRace();
   }
   return persons.names();
@@ -72,7 +72,7 @@ int secondTimes(const Store &store) {
 }
 
 void takeRound(Store &store) {
-  const QHash<int, int> rows = zeilenDerLaeufer(store);
+  const QHash<int, int> rows = rowsOfAthletes(store);
   const int round = ++store.cup.CupRunden;
   for (int person = 1; person <= store.cup.CupLaeufer.last() && store.cup.CupLaeufer[person] != 0; ++person) {
     const int row = rows.value(store.cup.CupLaeufer[person]);
@@ -84,48 +84,48 @@ void takeRound(Store &store) {
 }
 
 void takeRounds(Store &store, int race, const Kriterien &kriterien) {
-  rennenLaden(store, race);
+  loadRaceTables(store, race);
   const bool twoRounds = secondTimes(store) >= SecondTimesOfARound;
-  zweitenLaufStreichen(store);
-  werten(store, kriterien);
+  dropSecondRun(store);
+  rankUnder(store, kriterien);
   takeRound(store);
   if (!twoRounds)
     return;
-  rennenLaden(store, race);
-  zweitenLaufVorziehen(store);
-  werten(store, kriterien);
+  loadRaceTables(store, race);
+  promoteSecondRun(store);
+  rankUnder(store, kriterien);
   takeRound(store);
 }
 
 } // namespace
 
-CupErgebnis cupAuswerten(Store &store, const QList<int> &races, qint64 streichresultate) {
-  CupErgebnis result;
-  result.namen = gatherPersons(store, races);
-  const Kriterien kriterien = kriterienMerken(store);
+CupResult evaluateCup(Store &store, const QList<int> &races, qint64 strikes) {
+  CupResult result;
+  result.names = gatherPersons(store, races);
+  const Kriterien kriterien = criteriaInForce(store);
   store.cup.CupRunden = 0;
   for (qsizetype line = races.size(); line-- > 0;)
     takeRounds(store, races[line], kriterien);
-  const int persons = int(result.namen.size());
-  result.gestrichen = int(std::min<qint64>(std::abs(streichresultate), store.cup.CupRunden));
-  resultateStreichen(store.cup, persons, result.gestrichen);
-  punkteVergeben(store.cup, persons);
-  result.schluessel = cupSchluessel(store.cup, result.namen);
-  result.zeilen = cupZeilen(store.cup, result.schluessel, result.namen);
+  const int persons = int(result.names.size());
+  result.struck = int(std::min<qint64>(std::abs(strikes), store.cup.CupRunden));
+  strikeResults(store.cup, persons, result.struck);
+  awardPoints(store.cup, persons);
+  result.keys = cupKeys(store.cup, result.names);
+  result.lines = cupLines(store.cup, result.keys, result.names);
   return result;
 }
 
-QStringList teilnehmerZeilen(const QStringList &names) {
+QStringList personLines(const QStringList &names) {
   SortedLines lines;
   for (const QString &name : names)
     lines.add(name);
   return lines.take();
 }
 
-QStringList punkteZeilen(const CupTabellen &cup, bool auchNegative) {
+QStringList pointsLines(const CupTabellen &cup, bool negativeToo) {
   QStringList lines;
   for (const int place : cup.CupPunkteTabelle.rows())
-    if (const int points = cup.CupPunkteTabelle[place]; points > 0 || (auchNegative && points != 0))
+    if (const int points = cup.CupPunkteTabelle[place]; points > 0 || (negativeToo && points != 0))
       lines << QStringLiteral("Platz") + spacedText(place) + QStringLiteral(": ") + spacedText(points) +
                    QStringLiteral(" P.");
   return lines;
@@ -147,37 +147,37 @@ bool storePoints(CupTabellen &cup, int place, const QString &typed) {
   return points.has_value();
 }
 
-CupAuswahl cupLaden(Store &store) {
+CupChoice loadCup(Store &store) {
   store.cup.CupPunkteTabelle.fill(0);
   int place = 0;
   for (const qint16 points : UsualPoints)
     store.cup.CupPunkteTabelle[++place] = points;
-  CupAuswahl auswahl;
+  CupChoice choice;
   auto file = TextReader::ifThere(cupFile(store));
   if (!file)
-    return auswahl;
-  file->lineInto(auswahl.bezeichnung);
+    return choice;
+  file->lineInto(choice.name);
   for (const int row : store.cup.CupPunkteTabelle.rows())
     file->numberInto(store.cup.CupPunkteTabelle[row]);
   while (!file->atEnd())
-    file->numberInto(auswahl.rennen.emplaceBack(0));
-  return auswahl;
+    file->numberInto(choice.races.emplaceBack(0));
+  return choice;
 }
 
-QByteArray cupBytes(const CupTabellen &cup, const CupAuswahl &auswahl) {
+QByteArray cupBytes(const CupTabellen &cup, const CupChoice &choice) {
   TextWriter file;
-  file.text(trimmedBlanks(auswahl.bezeichnung));
+  file.text(trimmedBlanks(choice.name));
   for (const int place : cup.CupPunkteTabelle.rows())
     file.number(cup.CupPunkteTabelle[place]);
-  for (const int race : auswahl.rennen)
+  for (const int race : choice.races)
     file.number(race);
   return file.bytes();
 }
 
-void cupSpeichern(const Store &store, const CupAuswahl &auswahl) {
-  replaceFile(cupFile(store), cupBytes(store.cup, auswahl));
+void saveCup(const Store &store, const CupChoice &choice) {
+  replaceFile(cupFile(store), cupBytes(store.cup, choice));
 }
 
-int rennenDesCups(const QString &line) {
+int cupRaceOfLine(const QString &line) {
   return int(wholeNumber(QStringView(line).left(NumberLength)));
 }

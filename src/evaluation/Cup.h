@@ -3,15 +3,15 @@
 #include "core/Store.h"
 
 /// What the screen of the cup shows after an evaluation.
-struct CupErgebnis {
+struct CupResult {
   /// Names of all persons, in the order in which they were found.
-  QStringList namen;
-  /// One line for each person in the order of the result, see cupSchluessel.
-  QStringList schluessel;
+  QStringList names;
+  /// One line for each person in the order of the result, see cupKeys.
+  QStringList keys;
   /// The listing.
-  QStringList zeilen;
+  QStringList lines;
   /// Results struck per person: as many as were wanted, at most one for each round.
-  int gestrichen = 0;
+  int struck = 0;
 };
 
 /// Scores the cup of `races`, which stand as in the list of races; round 1 is the last of them. A second run counts as
@@ -21,13 +21,13 @@ struct CupErgebnis {
 ///
 /// A person is a name: of two athletes with the same name only the first one found gets results. A person without a
 /// name does not take part.
-CupErgebnis cupAuswerten(Store &store, const QList<int> &races, qint64 streichresultate);
+CupResult evaluateCup(Store &store, const QList<int> &races, qint64 strikes);
 
 /// The names in the order of a list of persons.
-QStringList teilnehmerZeilen(const QStringList &names);
+QStringList personLines(const QStringList &names);
 
-/// Lines of the points table: the places with more than 0 points; with `auchNegative` all that are not 0.
-QStringList punkteZeilen(const CupTabellen &cup, bool auchNegative);
+/// Lines of the points table: the places with more than 0 points; with `negativeToo` all that are not 0.
+QStringList pointsLines(const CupTabellen &cup, bool negativeToo);
 
 /// The place that a typed text stands for, held to the points table.
 int heldPlace(const QString &typed);
@@ -37,15 +37,15 @@ QString pointsText(const CupTabellen &cup, int place);
 bool storePoints(CupTabellen &cup, int place, const QString &typed);
 
 /// What Cup.dat holds beside the points table.
-struct CupAuswahl {
-  QString bezeichnung;
-  QList<int> rennen;
+struct CupChoice {
+  QString name;
+  QList<int> races;
 };
 /// Sets the points table from Cup.dat, or as usual where there is none.
-CupAuswahl cupLaden(Store &store);
+CupChoice loadCup(Store &store);
 /// The content of Cup.dat.
-QByteArray cupBytes(const CupTabellen &cup, const CupAuswahl &auswahl);
+QByteArray cupBytes(const CupTabellen &cup, const CupChoice &choice);
 /// Replaces Cup.dat whole.
-void cupSpeichern(const Store &store, const CupAuswahl &auswahl);
+void saveCup(const Store &store, const CupChoice &choice);
 /// Number that Cup.dat holds for a line of the race list.
-int rennenDesCups(const QString &line);
+int cupRaceOfLine(const QString &line);

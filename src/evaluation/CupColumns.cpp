@@ -16,8 +16,8 @@ constexpr double WidePitch = 28;
 constexpr double NarrowLeft = 107, NarrowRight = 253, TotalRight = 270;
 constexpr double HeadSize = 11, CellSize = 9, SmallestSize = 7, SizeStep = 0.5;
 
-using Column = Spalte<CupRow>;
-using enum Ausrichtung;
+using CupListColumn = Column<CupLine>;
+using enum Alignment;
 
 QString clubText(const Store &store, const LaeuferSatz &athlete) {
   // The second club is passed over, and the club of the race plays no part; this is meant.
@@ -35,20 +35,20 @@ QString timeText(const Store &store, int person, int round) {
   return time == 0 ? QStringLiteral("-") : ZeitText(time);
 }
 
-Column roundTime(const Store &store, int round) {
+CupListColumn roundTime(const Store &store, int round) {
   const double x = WidePitch * round;
   return {plainText(round) + QStringLiteral(". Lauf"),
           82 + x,
-          Zeit,
+          Time,
           CellSize,
-          [&store, round](const CupRow &row) { return timeText(store, row.person, round); },
+          [&store, round](const CupLine &line) { return timeText(store, line.person, round); },
           85 + x};
 }
 
-Column roundPoints(const Store &store, int round) {
-  return {QStringLiteral("Pkte"), 100 + WidePitch * round, Links, CellSize, [&store, round](const CupRow &row) {
-            return store.cup.CupStreich(row.person, round) == 1 ? PrintItem(QStringLiteral("X"))
-                                                                : PrintItem(store.cup.CupPunkte(row.person, round));
+CupListColumn roundPoints(const Store &store, int round) {
+  return {QStringLiteral("Pkte"), 100 + WidePitch * round, Left, CellSize, [&store, round](const CupLine &line) {
+            return store.cup.CupStreich(line.person, round) == 1 ? PrintItem(QStringLiteral("X"))
+                                                                 : PrintItem(store.cup.CupPunkte(line.person, round));
           }};
 }
 
@@ -60,27 +60,27 @@ double toBaseline(double size, double smallerSize) {
 
 } // namespace
 
-CupSpalten cupPersonSpalten(const Store &store) {
-  const auto place = [](const CupRow &row) { return row.place; };
-  const auto name = [](const CupRow &row) { return trimmedBlanks(row.athlete.Name); };
-  const auto club = [&store](const CupRow &row) { return clubText(store, row.athlete); };
-  const auto year = [](const CupRow &row) { return yearOf(row.athlete.Geburtsdatum); };
-  return {inBold(Column(QStringLiteral("Rang"), 25, Links, CellSize, place, 22)),
-          {QStringLiteral("Name / Klasse"), 36, Links, CellSize, name},
-          withoutHead(Column(QStringLiteral("Verein"), 36, Links, CellSize, club)),
-          {QStringLiteral("Jahrg."), 96, Links, CellSize, year}};
+CupListColumns cupPersonColumns(const Store &store) {
+  const auto place = [](const CupLine &line) { return line.place; };
+  const auto name = [](const CupLine &line) { return trimmedBlanks(line.athlete.Name); };
+  const auto club = [&store](const CupLine &line) { return clubText(store, line.athlete); };
+  const auto year = [](const CupLine &line) { return yearOf(line.athlete.Geburtsdatum); };
+  return {inBold(CupListColumn(QStringLiteral("Rang"), 25, Left, CellSize, place, 22)),
+          {QStringLiteral("Name / Klasse"), 36, Left, CellSize, name},
+          withoutHead(CupListColumn(QStringLiteral("Verein"), 36, Left, CellSize, club)),
+          {QStringLiteral("Jahrg."), 96, Left, CellSize, year}};
 }
 
-CupSpalten cupRundenSpalten(const Store &store) {
-  CupSpalten columns;
+CupListColumns cupRoundColumns(const Store &store) {
+  CupListColumns columns;
   for (int round = 1; round <= store.cup.CupRunden; ++round)
     columns << roundTime(store, round) << roundPoints(store, round);
-  const auto total = [&store](const CupRow &row) { return store.cup.CupPunkte(row.person, 0); };
-  return columns << Column(QStringLiteral("Ges. Pkte"), 265, Links, CellSize, total, 255);
+  const auto total = [&store](const CupLine &line) { return store.cup.CupPunkte(line.person, 0); };
+  return columns << CupListColumn(QStringLiteral("Ges. Pkte"), 265, Left, CellSize, total, 255);
 }
 
 CupColumns::CupColumns(const Store &store, Druckschicht &druck, const QList<int> &persons)
-    : m_store(store), m_druck(druck), m_columns(cupRundenSpalten(store)), m_size(CellSize) {
+    : m_store(store), m_druck(druck), m_columns(cupRoundColumns(store)), m_size(CellSize) {
   if (narrow())
     fitSize(persons);
 }
@@ -104,7 +104,7 @@ void CupColumns::fitSize(const QList<int> &persons) {
 
 // Two blanks keep a time from the one before.
 double CupColumns::widestCell(const QList<int> &persons) const {
-  double widest = double(m_druck.TextWidth(time(m_store.cup.CupRunden).kopf));
+  double widest = double(m_druck.TextWidth(time(m_store.cup.CupRunden).head));
   for (const int person : persons)
     for (int round = 1; round <= m_store.cup.CupRunden; ++round)
       widest = std::max(widest, double(m_druck.TextWidth(timeText(m_store, person, round))));
@@ -125,44 +125,44 @@ void CupColumns::printNarrowHeads(double y) const {
   const double top = y + toBaseline(HeadSize, m_size);
   m_druck.FontSize = m_size;
   for (int round = 1; round <= m_store.cup.CupRunden; ++round) {
-    printRightAligned(rightOf(round), top, time(round).kopf);
-    printRightAligned(rightOf(round), top + SecondLine, points(round).kopf);
+    printRightAligned(rightOf(round), top, time(round).head);
+    printRightAligned(rightOf(round), top + SecondLine, points(round).head);
   }
   m_druck.FontSize = HeadSize;
-  ::printHeads(m_druck, CupSpalten{m_columns.last()}, y);
+  ::printHeads(m_druck, CupListColumns{m_columns.last()}, y);
 }
 
-void CupColumns::printRounds(const CupRow &row, double y) const {
+void CupColumns::printRounds(const CupLine &line, double y) const {
   if (narrow())
-    return printNarrow(row, y);
+    return printNarrow(line, y);
   for (int round = 1; round <= m_store.cup.CupRunden; ++round) {
-    printWideTime(row, round, y);
-    printCell(m_druck, points(round), row, y);
+    printWideTime(line, round, y);
+    printCell(m_druck, points(round), line, y);
   }
-  printCell(m_druck, m_columns.last(), row, y);
+  printCell(m_druck, m_columns.last(), line, y);
 }
 
 // A status stands further right than a time, and only a time is right-aligned.
-void CupColumns::printWideTime(const CupRow &row, int round, double y) const {
+void CupColumns::printWideTime(const CupLine &line, int round, double y) const {
   constexpr double statusShift = 9;
   const auto &column = time(round);
-  if (m_store.cup.CupStatus(row.person, round) > Status::Ok)
-    Zelle(m_druck, column.zelleX + statusShift, y, column.zelle(row));
-  else if (m_store.cup.CupZeit(row.person, round) == 0)
-    Zelle(m_druck, column.zelleX, y, column.zelle(row));
+  if (m_store.cup.CupStatus(line.person, round) > Status::Ok)
+    printItemAt(m_druck, column.cellX + statusShift, y, column.cell(line));
+  else if (m_store.cup.CupZeit(line.person, round) == 0)
+    printItemAt(m_druck, column.cellX, y, column.cell(line));
   else
-    printCell(m_druck, column, row, y);
+    printCell(m_druck, column, line, y);
 }
 
-void CupColumns::printNarrow(const CupRow &row, double y) const {
+void CupColumns::printNarrow(const CupLine &line, double y) const {
   const double top = y + toBaseline(CellSize, m_size);
   m_druck.FontSize = m_size;
   for (int round = 1; round <= m_store.cup.CupRunden; ++round) {
-    printRightAligned(rightOf(round), top, cellText(time(round), row));
-    printRightAligned(rightOf(round), top + SecondLine, cellText(points(round), row));
+    printRightAligned(rightOf(round), top, cellText(time(round), line));
+    printRightAligned(rightOf(round), top + SecondLine, cellText(points(round), line));
   }
   m_druck.FontSize = CellSize;
-  printRightAligned(TotalRight, y + SecondLine, cellText(m_columns.last(), row));
+  printRightAligned(TotalRight, y + SecondLine, cellText(m_columns.last(), line));
 }
 
 void CupColumns::printRightAligned(double right, double y, const QString &text) const {

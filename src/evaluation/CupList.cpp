@@ -15,9 +15,9 @@ constexpr unsigned FrameColor = 0x505050;
 constexpr int NameAndClub = 38; // characters
 /// The columns of a person.
 enum PersonColumn { Rang, Name, Club, Jahrgang };
-constexpr double HeadY = 32, PageEnd = 160, RowHeight = 4;
-// Rows are counted in tenths: a heading takes 2.7 of them.
-constexpr int Row = 10, BehindHeading = 17, NearlyEmpty = 100, NoRoomForClass = 300, LastRow = 380;
+constexpr double HeadY = 32, PageEnd = 160, LineHeight = 4;
+// Lines are counted in tenths: a heading takes 2.7 of them.
+constexpr int Line = 10, BehindHeading = 17, NearlyEmpty = 100, NoRoomForClass = 300, LastLine = 380;
 
 QList<int> personsOf(const QStringList &keys) {
   QList<int> persons;
@@ -28,45 +28,45 @@ QList<int> personsOf(const QStringList &keys) {
 
 class CupPrinter {
 public:
-  CupPrinter(const Store &store, Druckschicht &druck, const CupListe &liste)
-      : m_store(store), m_druck(druck), m_liste(liste), m_persons(personsOf(liste.schluessel)),
-        m_person(cupPersonSpalten(store)), m_columns(store, druck, m_persons) {
+  CupPrinter(const Store &store, Druckschicht &druck, const CupPrint &print)
+      : m_store(store), m_druck(druck), m_print(print), m_persons(personsOf(print.keys)),
+        m_person(cupPersonColumns(store)), m_columns(store, druck, m_persons) {
     printHead();
   }
 
   void printPersons() {
     for (qsizetype i = 0; i < m_persons.size(); ++i) {
       printPerson(m_persons[i]);
-      if (m_row > LastRow && double(m_druck.CurrentY) > PageEnd && i + 1 < m_persons.size())
+      if (m_line > LastLine && double(m_druck.CurrentY) > PageEnd && i + 1 < m_persons.size())
         continueOnNewPage(m_persons[i + 1]);
     }
   }
 
 private:
-  const Spalte<CupRow> &column(PersonColumn which) const { return m_person[which]; }
-  double y() const { return 40 + m_row * RowHeight / Row; }
+  const Column<CupLine> &column(PersonColumn which) const { return m_person[which]; }
+  double y() const { return 40 + m_line * LineHeight / Line; }
 
   void printPerson(int person) {
     if (m_store.cup.CupKlasse[person] != m_klasse)
       startClass(m_store.cup.CupKlasse[person]);
-    printRow(person, m_places.naechster(m_store.cup.CupPunkte(person, 0)));
-    m_row += Row * m_columns.lines();
+    printLine(person, m_places.next(m_store.cup.CupPunkte(person, 0)));
+    m_line += Line * m_columns.lines();
   }
 
   void startClass(int klasse) {
     m_klasse = klasse;
-    m_places.neueKlasse();
-    if (m_liste.klassenAufGetrenntenSeiten && m_row > NearlyEmpty)
+    m_places.beginClass();
+    if (m_print.classesOnSeparatePages && m_line > NearlyEmpty)
       breakPage();
-    if (m_row > NoRoomForClass)
+    if (m_line > NoRoomForClass)
       breakPage();
     printClassName(Druckschicht::End::Line);
-    m_row += BehindHeading;
+    m_line += BehindHeading;
   }
 
   void printClassName(Druckschicht::End end) {
     m_druck.list().begin({QStringLiteral("Klasse")}, {m_store.cup.CupKlasseName.valueOrEmpty(m_klasse)});
-    m_row += Row;
+    m_line += Line;
     m_druck.CurrentX = 36;
     m_druck.CurrentY = float(y());
     m_druck.FontSize = 12;
@@ -86,33 +86,33 @@ private:
     printClassName(Druckschicht::End::Continued);
     m_druck.FontBold = false;
     m_druck.Print(QStringLiteral("  - Fortsetzung"));
-    m_row += BehindHeading;
+    m_line += BehindHeading;
   }
 
-  void printRow(int person, int place) {
-    const CupRow row{person, place, LaeuferLesen(m_store, m_store.cup.CupLaeufer[person])};
-    printCell(m_druck, column(Rang), row, y());
+  void printLine(int person, int place) {
+    const CupLine line{person, place, LaeuferLesen(m_store, m_store.cup.CupLaeufer[person])};
+    printCell(m_druck, column(Rang), line, y());
     m_druck.FontBold = false;
-    m_druck.list().add(cellTexts(m_person, row) + cellTexts(m_columns.columns(), row));
-    printNameAndClub(row);
-    printCell(m_druck, column(Jahrgang), row, y());
-    m_columns.printRounds(row, y());
+    m_druck.list().add(cellTexts(m_person, line) + cellTexts(m_columns.columns(), line));
+    printNameAndClub(line);
+    printCell(m_druck, column(Jahrgang), line, y());
+    m_columns.printRounds(line, y());
     m_druck.DrawWidth = 2;
-    m_druck.Box(23, y() + 2 - 2.4, 272, y() + 2 + 1.6 + RowHeight * (m_columns.lines() - 1), FrameColor);
+    m_druck.Box(23, y() + 2 - 2.4, 272, y() + 2 + 1.6 + LineHeight * (m_columns.lines() - 1), FrameColor);
   }
 
   // In one line both share the room.
-  void printNameAndClub(const CupRow &row) {
-    const QString name = cellText(column(Name), row), club = cellText(column(Club), row);
-    m_druck.FontSize = column(Name).groesse;
+  void printNameAndClub(const CupLine &line) {
+    const QString name = cellText(column(Name), line), club = cellText(column(Club), line);
+    m_druck.FontSize = column(Name).size;
     if (m_columns.lines() == 1)
       return printInOneLine(name, club.left(std::max(0, NameAndClub - int(name.size()))));
-    Zelle(m_druck, column(Name).zelleX, y(), name);
-    Zelle(m_druck, column(Club).zelleX, y() + CupColumns::SecondLine, club.left(NameAndClub));
+    printItemAt(m_druck, column(Name).cellX, y(), name);
+    printItemAt(m_druck, column(Club).cellX, y() + CupColumns::SecondLine, club.left(NameAndClub));
   }
 
   void printInOneLine(const QString &name, const QString &club) {
-    m_druck.CurrentX = float(column(Name).zelleX);
+    m_druck.CurrentX = float(column(Name).cellX);
     m_druck.CurrentY = float(y());
     m_druck.Print(name, Druckschicht::End::Continued);
     if (!club.isEmpty())
@@ -122,16 +122,16 @@ private:
 
   void printHead() {
     ++m_page;
-    m_row = 0;
+    m_line = 0;
     printTitle();
     m_druck.FontBold = false;
     text(260, 12, 8, QStringLiteral("Seite -") + plainText(m_page));
-    text(260, 25, 7, shortDate(m_store.umgebung.heute()));
+    text(260, 25, 7, shortDate(m_store.umgebung.today()));
     m_druck.DrawWidth = 5;
     Rahmen(m_druck, 20, 10, 275, 30);
     m_druck.DrawWidth = 1;
     m_druck.FontItalic = false;
-    LogoDrucken(m_druck, 205, 11);
+    printLogo(m_druck, 205, 11);
     m_druck.FontSize = 11;
     m_druck.list().columns = recorded(m_person + m_columns.columns());
     printHeads(m_druck, m_person, HeadY);
@@ -139,37 +139,37 @@ private:
   }
 
   void printTitle() {
-    const QString title = QStringLiteral("Ergebnisliste ") + m_liste.bezeichnung;
+    const QString title = QStringLiteral("Ergebnisliste ") + m_print.name;
     m_druck.FontName = QStringLiteral("Arial");
     m_druck.FontBold = m_druck.FontItalic = true;
-    TitelAnpassen(m_druck, title, 190);
-    Zelle(m_druck, 22, 15, title);
+    fitTitle(m_druck, title, 190);
+    printItemAt(m_druck, 22, 15, title);
   }
 
   void text(double x, double top, double size, const QString &what) {
     m_druck.FontSize = size;
-    Zelle(m_druck, x, top, what);
+    printItemAt(m_druck, x, top, what);
   }
 
   const Store &m_store;
   Druckschicht &m_druck;
-  const CupListe &m_liste;
+  const CupPrint &m_print;
   QList<int> m_persons;
-  CupSpalten m_person;
+  CupListColumns m_person;
   CupColumns m_columns;
-  CupPlatz m_places;
+  CupPlaces m_places;
   int m_klasse = -1, m_page = 0;
-  /// Tenths of a row.
-  int m_row = 0;
+  /// Tenths of a line.
+  int m_line = 0;
 };
 
 } // namespace
 
-void Cupliste(const Store &store, Druckschicht &druck, const CupListe &liste) {
+void Cupliste(const Store &store, Druckschicht &druck, const CupPrint &print) {
   druck.Orientation = Druckschicht::Landscape;
   druck.ScaleMode = Druckschicht::Scale::Millimetres;
-  druck.DocName(QStringLiteral("Cupliste"), 0, QStringLiteral("Cupliste ") + liste.bezeichnung);
-  CupPrinter(store, druck, liste).printPersons();
+  druck.DocName(QStringLiteral("Cupliste"), 0, QStringLiteral("Cupliste ") + print.name);
+  CupPrinter(store, druck, print).printPersons();
   druck.EndDoc();
   druck.Orientation = Druckschicht::Portrait; // the other lists assume it
 }

@@ -79,14 +79,14 @@ QString personLine(const CupTabellen &cup, int person, int place, const QString 
 
 } // namespace
 
-void resultateStreichen(CupTabellen &cup, int persons, int count) {
+void strikeResults(CupTabellen &cup, int persons, int count) {
   cup.CupStreich.fill(0);
   for (int person = 1; person <= persons; ++person)
     for (int stroke = 0; stroke < count; ++stroke)
       strikeOne(cup, person);
 }
 
-void punkteVergeben(CupTabellen &cup, int persons) {
+void awardPoints(CupTabellen &cup, int persons) {
   for (int person = 1; person <= persons; ++person) {
     cup.CupPunkte(person, 0) = 0;
     for (int round = 1; round <= cup.CupRunden; ++round) {
@@ -96,7 +96,7 @@ void punkteVergeben(CupTabellen &cup, int persons) {
   }
 }
 
-QStringList cupSchluessel(const CupTabellen &cup, const QStringList &names) {
+QStringList cupKeys(const CupTabellen &cup, const QStringList &names) {
   SortedLines lines;
   for (int person = 1; person <= names.size(); ++person)
     lines.add(rightAligned(plainText(cup.CupKlasse[person]), 3) +
@@ -105,7 +105,7 @@ QStringList cupSchluessel(const CupTabellen &cup, const QStringList &names) {
   return lines.take();
 }
 
-int CupPlatz::naechster(int total) {
+int CupPlaces::next(int total) {
   ++m_running;
   if (m_running == 1 || total != m_lastTotal)
     m_shown = m_running;
@@ -113,18 +113,18 @@ int CupPlatz::naechster(int total) {
   return m_shown;
 }
 
-QStringList cupZeilen(const CupTabellen &cup, const QStringList &keys, const QStringList &names) {
+QStringList cupLines(const CupTabellen &cup, const QStringList &keys, const QStringList &names) {
   QStringList lines;
-  CupPlatz places;
-  int lastKlasse = -1;
+  CupPlaces places;
+  int previousClass = -1;
   for (const QString &key : keys) {
     const int person = numberAtEnd(key);
-    if (const int klasse = cup.CupKlasse[person]; klasse != lastKlasse) {
-      lastKlasse = klasse;
-      places.neueKlasse();
+    if (const int klasse = cup.CupKlasse[person]; klasse != previousClass) {
+      previousClass = klasse;
+      places.beginClass();
       lines << headLine(cup, klasse);
     }
-    lines << personLine(cup, person, places.naechster(cup.CupPunkte(person, 0)), names[person - 1]);
+    lines << personLine(cup, person, places.next(cup.CupPunkte(person, 0)), names[person - 1]);
   }
   return lines;
 }

@@ -10,26 +10,26 @@
 /// Strikes `count` results of each person: first what was not finished or not started, the last round first, then the
 /// worst place, of equal places the slowest run. A result without a time is not struck for its place, so that a stroke
 /// may come to nothing.
-void resultateStreichen(CupTabellen &cup, int persons, int count);
+void strikeResults(CupTabellen &cup, int persons, int count);
 
 /// Points of each result that is not struck, by the table, and the total of each person.
-void punkteVergeben(CupTabellen &cup, int persons);
+void awardPoints(CupTabellen &cup, int persons);
 
 /// One sorted line for each person: class, highest total first, name; ends in the person.
-QStringList cupSchluessel(const CupTabellen &cup, const QStringList &names);
+QStringList cupKeys(const CupTabellen &cup, const QStringList &names);
 
 /// Counts the places of a list of persons that comes class by class. Equal totals share a place, and the next different
 /// total has its running place.
-class CupPlatz {
+class CupPlaces {
 public:
   /// Starts counting anew for a class.
-  void neueKlasse() { m_running = 0; }
+  void beginClass() { m_running = 0; }
   /// The place to be shown for the next person.
-  int naechster(int total);
+  int next(int total);
 
 private:
   int m_running = 0, m_shown = 0, m_lastTotal = 0;
 };
 
 /// The result: a head line for each class, then its persons with place, points of each round and total.
-QStringList cupZeilen(const CupTabellen &cup, const QStringList &keys, const QStringList &names);
+QStringList cupLines(const CupTabellen &cup, const QStringList &keys, const QStringList &names);

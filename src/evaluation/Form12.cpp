@@ -41,11 +41,11 @@ void Form12::fillCombos() {
 
 void Form12::fill() {
   ui->Label1->setText(shownText(m_store.Rennen.RennenName));
-  wertungVorbereiten(m_store);
-  ui->List1->fill(vereinsZeilen(m_store));
-  ui->List3->fill(mannschaftsZeilen(m_store));
+  prepareUnits(m_store);
+  ui->List1->fill(clubLines(m_store));
+  ui->List3->fill(teamLines(m_store));
   ui->Check2->setVisible(!ui->List3->lines().isEmpty());
-  ui->List4->fill(gruppenZeilen(m_store));
+  ui->List4->fill(groupLines(m_store));
 }
 
 void Form12::connectControls() {
@@ -59,7 +59,7 @@ void Form12::connectControls() {
   connect(ui->Command2, &QPushButton::clicked, this, &Form12::evaluate);
   connect(ui->List2, &LineList::chosen, this, &Form12::showMembers);
   connect(ui->Command3, &QPushButton::clicked, this, &Form12::print);
-  connect(ui->Command6, &QPushButton::clicked, this, &Form12::druckerGewuenscht);
+  connect(ui->Command6, &QPushButton::clicked, this, &Form12::printerRequested);
   connect(ui->Command1, &QPushButton::clicked, this, &Form12::close);
   onKey(Qt::Key_F5, [this] { press(ui->Command2); });
   onKey(QKeySequence::Print, [this] { press(ui->Command3); });
@@ -84,7 +84,7 @@ void Form12::unitTicked(int kind) {
 
 // The list is painted with the times of each unit while the evaluation runs.
 void Form12::evaluate() {
-  ui->List2->fill(teamWertung(m_store, wertung(), [this](const QStringList &times) {
+  ui->List2->fill(evaluateUnits(m_store, wertung(), [this](const QStringList &times) {
     ui->List5->fill(times);
     ui->List5->viewport()->repaint();
   }));
@@ -93,7 +93,7 @@ void Form12::evaluate() {
 
 void Form12::showMembers(int line) {
   const int unit = numberAtEnd(ui->List2->lines()[line]);
-  ui->List5->fill(mitgliederZeilen(m_store, wertung(), unit, MitgliederOrdnung(ui->Combo1->currentIndex())));
+  ui->List5->fill(memberLines(m_store, wertung(), unit, MemberOrder(ui->Combo1->currentIndex())));
 }
 
 void Form12::print() {

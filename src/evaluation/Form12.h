@@ -27,7 +27,7 @@ public:
 
 Q_SIGNALS:
   /// The choice of the printer is wanted.
-  void druckerGewuenscht();
+  void printerRequested();
 
 private:
   void fill();

@@ -13,8 +13,8 @@ Form19::Form19(Desk &desk, Store &store)
   setUp();
   // Wrapped lines ask for no height of their own in the smallest window.
   ui->Label3->setMinimumHeight(ui->Label3->heightForWidth(ui->Label3->minimumWidth()));
-  ui->List1->fill(rennenZeilen(m_store));
-  ui->Label2->setText(plainText(zeitsummeNummer(ui->List1->lines())));
+  ui->List1->fill(raceLines(m_store));
+  ui->Label2->setText(plainText(timeSumNumber(ui->List1->lines())));
   connect(ui->List1, &MarkList::markToggled, this,
           [this] { setControlEnabled(ui->Command2, ui->List1->marked().size() >= 2, ui->Command1); });
   connect(ui->Command2, &QPushButton::clicked, this, &Form19::generate);
@@ -29,11 +29,11 @@ void Form19::generate() {
   setControlEnabled(ui->Command2, false, ui->Command1);
   {
     const BusyTime busy;
-    Q_EMIT arbeitBegonnen();
-    zeitsummeErzeugen(m_store, rennenDerWertung(ui->List1->lines(), ui->List1->marked()),
-                      int(wholeNumber(ui->Label2->text())));
-    Q_EMIT arbeitBeendet();
+    Q_EMIT workBegun();
+    generateTimeSum(m_store, markedRaces(ui->List1->lines(), ui->List1->marked()),
+                    int(wholeNumber(ui->Label2->text())));
+    Q_EMIT workEnded();
   }
-  Q_EMIT erzeugt();
+  Q_EMIT raceGenerated();
   close();
 }

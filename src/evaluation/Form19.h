@@ -22,10 +22,10 @@ public:
 
 Q_SIGNALS:
   /// Form13 is to be shown as a sign of work, and taken away again.
-  void arbeitBegonnen();
-  void arbeitBeendet();
+  void workBegun();
+  void workEnded();
   /// The race is generated and is the open one; the race register is to be closed together with this screen.
-  void erzeugt();
+  void raceGenerated();
 
 private:
   void generate();

@@ -31,16 +31,16 @@ void Form20::becomeActive() {
 }
 
 void Form20::load() {
-  ui->List1->fill(rennenZeilen(m_store));
-  const CupAuswahl cup = cupLaden(m_store);
-  ui->Text4->setText(cup.bezeichnung);
+  ui->List1->fill(raceLines(m_store));
+  const CupChoice cup = loadCup(m_store);
+  ui->Text4->setText(cup.name);
   const QStringList &lines = ui->List1->lines();
   for (int line = 0; line < lines.size(); ++line)
-    if (cup.rennen.contains(rennenDesCups(lines[line])))
+    if (cup.races.contains(cupRaceOfLine(lines[line])))
       ui->List1->setMarked(line, true);
   ui->Command1->setEnabled(!ui->List1->marked().isEmpty());
-  ui->List2->fill(punkteZeilen(m_store.cup, false));
-  m_atOpening = cupBytes(m_store.cup, auswahl());
+  ui->List2->fill(pointsLines(m_store.cup, false));
+  m_atOpening = cupBytes(m_store.cup, choice());
 }
 
 void Form20::connectControls() {
@@ -49,7 +49,7 @@ void Form20::connectControls() {
   connect(ui->Text2, &QLineEdit::textChanged, this, &Form20::pointsChanged);
   onReturn(ui->Text1, [this] { ui->Text2->setFocus(Qt::TabFocusReason); });
   onReturn(ui->Text2, [this] { nextPlace(); });
-  onLeave(ui->Text2, [this] { ui->List2->fill(punkteZeilen(m_store.cup, true)); });
+  onLeave(ui->Text2, [this] { ui->List2->fill(pointsLines(m_store.cup, true)); });
   ui->Text3->installEventFilter(this);
   connect(ui->Command1, &QPushButton::clicked, this, &Form20::evaluate);
   connect(ui->Command2, &QPushButton::clicked, this, &Form20::print);
@@ -90,7 +90,7 @@ void Form20::placeChanged() {
 void Form20::pointsChanged() {
   lockPrint();
   if (!storePoints(m_store.cup, place(), ui->Text2->text()))
-    m_store.umgebung.piep();
+    m_store.umgebung.beep();
 }
 
 void Form20::nextPlace() {
@@ -100,16 +100,16 @@ void Form20::nextPlace() {
 
 void Form20::evaluate() {
   const BusyTime busy;
-  Q_EMIT arbeitBegonnen();
+  Q_EMIT workBegun();
   const qint64 wanted = wholeNumber(trimmedBlanks(ui->Text3->text()));
-  const CupErgebnis result = cupAuswerten(m_store, rennenDerWertung(ui->List1->lines(), ui->List1->marked()), wanted);
-  Q_EMIT arbeitBeendet();
-  ui->List3->fill(teilnehmerZeilen(result.namen));
-  ui->Label8->setText(plainText(int(result.namen.size())));
-  if (result.gestrichen < std::abs(wanted))
-    ui->Text3->setText(plainText(result.gestrichen));
-  ui->List4->fill(result.schluessel);
-  ui->List5->fill(result.zeilen);
+  const CupResult result = evaluateCup(m_store, markedRaces(ui->List1->lines(), ui->List1->marked()), wanted);
+  Q_EMIT workEnded();
+  ui->List3->fill(personLines(result.names));
+  ui->Label8->setText(plainText(int(result.names.size())));
+  if (result.struck < std::abs(wanted))
+    ui->Text3->setText(plainText(result.struck));
+  ui->List4->fill(result.keys);
+  ui->List5->fill(result.lines);
   ui->Command2->setEnabled(true);
 }
 
@@ -124,20 +124,20 @@ void Form20::print() {
   ui->ausgabe->tell(m_printers.outcome());
 }
 
-CupAuswahl Form20::auswahl() const {
-  CupAuswahl cup{ui->Text4->text(), {}};
+CupChoice Form20::choice() const {
+  CupChoice cup{ui->Text4->text(), {}};
   for (const int line : ui->List1->marked())
-    cup.rennen.append(rennenDesCups(ui->List1->lines()[line]));
+    cup.races.append(cupRaceOfLine(ui->List1->lines()[line]));
   return cup;
 }
 
 QList<SavedFile> Form20::unsaved() const {
-  const QByteArray now = cupBytes(m_store.cup, auswahl());
+  const QByteArray now = cupBytes(m_store.cup, choice());
   return now == m_atOpening ? QList<SavedFile>() : QList<SavedFile>{{QStringLiteral("Cup.dat"), now}};
 }
 
 void Form20::closing() {
-  cupSpeichern(m_store, auswahl());
-  rennenLaden(m_store, m_openRace);
-  rennsatzLesen(m_store);
+  saveCup(m_store, choice());
+  loadRaceTables(m_store, m_openRace);
+  readOpenRace(m_store);
 }

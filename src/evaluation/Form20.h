@@ -9,7 +9,7 @@
 namespace Ui {
 class Form20;
 }
-struct CupAuswahl;
+struct CupChoice;
 
 /// Scores a series of races as a cup.
 ///
@@ -29,8 +29,8 @@ public:
 
 Q_SIGNALS:
   /// Form13 is to be shown as a sign of work, and taken away again.
-  void arbeitBegonnen();
-  void arbeitBeendet();
+  void workBegun();
+  void workEnded();
 
 protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
@@ -38,7 +38,7 @@ protected:
 
 private:
   void load();
-  CupAuswahl auswahl() const;
+  CupChoice choice() const;
   void connectControls();
   void marksChanged();
   void placeChanged();

@@ -11,17 +11,17 @@ constexpr int NumberLength = 4; // with the leading blank; a fourth digit is cut
 
 } // namespace
 
-Kriterien kriterienMerken(const Store &store) {
+Kriterien criteriaInForce(const Store &store) {
   const auto &race = store.Rennen;
   return {race.WertKlassen, race.WertGeschlecht, race.WertGaeste, race.WertBoarder, race.WertZeit};
 }
 
-void rennenLaden(Store &store, int race) {
+void loadRaceTables(Store &store, int race) {
   store.AktRennen = race;
   RennDatenLaden(store);
 }
 
-void zweitenLaufStreichen(Store &store) {
+void dropSecondRun(Store &store) {
   for (const int row : store.Teilnehmer.rows()) {
     store.Teilnehmer[row].Zeit2 = 0;
     store.Teilnehmer[row].Status2 = Status::Ok;
@@ -29,16 +29,16 @@ void zweitenLaufStreichen(Store &store) {
   store.TabellenRennen = -1; // no longer what the files of the race keep
 }
 
-void zweitenLaufVorziehen(Store &store) {
+void promoteSecondRun(Store &store) {
   for (const int row : store.Teilnehmer.rows()) {
     auto &participant = store.Teilnehmer[row];
     participant.Zeit1 = participant.Zeit2;
     participant.Status1 = participant.Status2;
   }
-  zweitenLaufStreichen(store);
+  dropSecondRun(store);
 }
 
-void werten(Store &store, const Kriterien &kriterien) {
+void rankUnder(Store &store, const Kriterien &kriterien) {
   auto &race = store.Rennen;
   race.WertKlassen = kriterien.WertKlassen;
   race.WertGeschlecht = kriterien.WertGeschlecht;
@@ -49,12 +49,12 @@ void werten(Store &store, const Kriterien &kriterien) {
   ErgebnisRechnen(store);
 }
 
-void klassenNamenMerken(Store &store) {
+void keepClassNames(Store &store) {
   for (int klasse = 0; klasse <= 159; ++klasse)
     store.cup.CupKlasseName[klasse] = store.KlasseGenauName[klasse];
 }
 
-QHash<int, int> zeilenDerLaeufer(const Store &store) {
+QHash<int, int> rowsOfAthletes(const Store &store) {
   QHash<int, int> rows;
   for (const int row : store.Teilnehmer.rows())
     if (const int athlete = store.Teilnehmer[row].LaeuferNr; athlete != 0)
@@ -62,13 +62,13 @@ QHash<int, int> zeilenDerLaeufer(const Store &store) {
   return rows;
 }
 
-int rennenDerWertung(const QString &line) {
+int scoredRaceOfLine(const QString &line) {
   return int(wholeNumber(QStringView(line).left(NumberLength)));
 }
 
-QList<int> rennenDerWertung(const QStringList &lines, const QList<int> &marked) {
+QList<int> markedRaces(const QStringList &lines, const QList<int> &marked) {
   QList<int> races;
   for (const int line : marked)
-    races.append(rennenDerWertung(lines[line]));
+    races.append(scoredRaceOfLine(lines[line]));
   return races;
 }

@@ -11,24 +11,24 @@
 struct Kriterien {
   quint8 WertKlassen, WertGeschlecht, WertGaeste, WertBoarder, WertZeit;
 };
-Kriterien kriterienMerken(const Store &store);
+Kriterien criteriaInForce(const Store &store);
 
 /// Loads the tables of a race; the race record stays.
-void rennenLaden(Store &store, int race);
+void loadRaceTables(Store &store, int race);
 
 /// Leaves only the first run to be ranked.
-void zweitenLaufStreichen(Store &store);
+void dropSecondRun(Store &store);
 /// Puts the second run in the place of the first.
-void zweitenLaufVorziehen(Store &store);
+void promoteSecondRun(Store &store);
 /// Assigns the classes and ranks under the criteria. The surcharges are those of the current race record.
-void werten(Store &store, const Kriterien &kriterien);
+void rankUnder(Store &store, const Kriterien &kriterien);
 
 /// The exact designations of the loaded race become those of the series.
-void klassenNamenMerken(Store &store);
+void keepClassNames(Store &store);
 /// Row of each athlete; of an athlete in several rows the last.
-QHash<int, int> zeilenDerLaeufer(const Store &store);
+QHash<int, int> rowsOfAthletes(const Store &store);
 
 /// Number that the evaluations read at the head of a line of the race list; it holds three digits at most.
-int rennenDerWertung(const QString &line);
+int scoredRaceOfLine(const QString &line);
 /// The races of the marked lines.
-QList<int> rennenDerWertung(const QStringList &lines, const QList<int> &marked);
+QList<int> markedRaces(const QStringList &lines, const QList<int> &marked);

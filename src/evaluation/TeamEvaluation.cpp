@@ -173,7 +173,7 @@ void takeSumsOfBest(Store &store, const Wertung &wertung, const std::function<vo
       if (countsFor(store, wertung.einheit, row, k))
         lines.add(WertText10(store.Teilnehmer[row].WertSumme) + blanks(10) + plainText(row));
     const QStringList times = lines.take();
-    store.mannschaften.WertErgebnis[k] = sumOfBest(store, times, wertung.anzahlBeste);
+    store.mannschaften.WertErgebnis[k] = sumOfBest(store, times, wertung.bestCount);
     workList(times);
   }
 }
@@ -183,7 +183,7 @@ QStringList unitLines(const Store &store, Einheit einheit) {
   for (int k = 1; k <= Units; ++k) {
     const double value = store.mannschaften.WertErgebnis[k];
     if (value != NoTime && value != 0)
-      lines.add(WertText10(value) + QLatin1Char(' ') + einheitName(store, einheit, k).left(NameLength) + blanks(5) +
+      lines.add(WertText10(value) + QLatin1Char(' ') + unitName(store, einheit, k).left(NameLength) + blanks(5) +
                 spacedText(k));
   }
   return lines.take();
@@ -195,11 +195,11 @@ bool isMember(const Store &store, Einheit einheit, int row, int unit) {
                                     : countsFor(store, einheit, row, unit);
 }
 
-QString memberPrefix(const TeilnehmerZeile &participant, MitgliederOrdnung ordnung) {
-  switch (ordnung) {
-  case MitgliederOrdnung::NachZeit:
+QString memberPrefix(const TeilnehmerZeile &participant, MemberOrder order) {
+  switch (order) {
+  case MemberOrder::ByTime:
     return WertText8(participant.WertSumme);
-  case MitgliederOrdnung::NachKlassen:
+  case MemberOrder::ByClass:
     return rightAligned(plainText(participant.KlasseReihe), 3);
   default:
     return {};
@@ -208,7 +208,7 @@ QString memberPrefix(const TeilnehmerZeile &participant, MitgliederOrdnung ordnu
 
 } // namespace
 
-void wertungVorbereiten(Store &store) {
+void prepareUnits(Store &store) {
   store.mannschaften.WertGezaehlt.fill(0);
   findClubs(store);
   ErgebnisRechnen(store);
@@ -216,15 +216,15 @@ void wertungVorbereiten(Store &store) {
   assignUnits(store);
 }
 
-QStringList vereinsZeilen(const Store &store) {
+QStringList clubLines(const Store &store) {
   QStringList lines;
   for (int k = 1; k <= Units; ++k)
     if (store.mannschaften.WertVerein[k] != 0)
-      lines << trimmedBlanks(einheitName(store, Einheit::Verein, k));
+      lines << trimmedBlanks(unitName(store, Einheit::Verein, k));
   return lines;
 }
 
-QStringList mannschaftsZeilen(const Store &store) {
+QStringList teamLines(const Store &store) {
   QStringList lines;
   for (int k = 1; k <= Units; ++k) {
     int members = 0;
@@ -237,7 +237,7 @@ QStringList mannschaftsZeilen(const Store &store) {
   return lines;
 }
 
-QStringList gruppenZeilen(const Store &store) {
+QStringList groupLines(const Store &store) {
   QStringList lines;
   for (int k = 1; k <= Units; ++k)
     if (exists(store, Einheit::Gruppe, k))
@@ -245,8 +245,8 @@ QStringList gruppenZeilen(const Store &store) {
   return lines;
 }
 
-QStringList teamWertung(Store &store, const Wertung &wertung,
-                        const std::function<void(const QStringList &)> &arbeitsliste) {
+QStringList evaluateUnits(Store &store, const Wertung &wertung,
+                          const std::function<void(const QStringList &)> &workList) {
   ErgebnisRechnen(store);
   prepareFilter(store, wertung.filter);
   switch (wertung.art) {
@@ -257,13 +257,13 @@ QStringList teamWertung(Store &store, const Wertung &wertung,
     takeAverages(store, wertung);
     break;
   case WertungsArt::ZeitsummeDerBesten:
-    takeSumsOfBest(store, wertung, arbeitsliste);
+    takeSumsOfBest(store, wertung, workList);
     break;
   }
   return unitLines(store, wertung.einheit);
 }
 
-QString einheitName(const Store &store, Einheit einheit, int unit) {
+QString unitName(const Store &store, Einheit einheit, int unit) {
   switch (einheit) {
   case Einheit::Verein:
     return VereinLesen(store, store.mannschaften.WertVerein[unit]).VereinKurz;
@@ -276,14 +276,14 @@ QString einheitName(const Store &store, Einheit einheit, int unit) {
   }
 }
 
-QStringList mitgliederZeilen(const Store &store, const Wertung &wertung, int unit, MitgliederOrdnung ordnung) {
+QStringList memberLines(const Store &store, const Wertung &wertung, int unit, MemberOrder order) {
   SortedLines lines;
   for (const int row : countingRows(store, wertung.filter)) {
     if (!isMember(store, wertung.einheit, row, unit))
       continue;
     const auto &participant = store.Teilnehmer[row];
     const QString name = LaeuferLesen(store, participant.LaeuferNr).Name;
-    lines.add(memberPrefix(participant, ordnung) + blanks(3) + trimmedBlanks(name) + blanks(7) + spacedText(row));
+    lines.add(memberPrefix(participant, order) + blanks(3) + trimmedBlanks(name) + blanks(7) + spacedText(row));
   }
   return lines.take();
 }

@@ -12,8 +12,8 @@ namespace {
 constexpr int ValueLength = 10;
 constexpr unsigned Grey = 0xD0D0D0;
 constexpr double HeadY = 43, PageEnd = 240;
-// Rows are counted in tenths, as members stand a little below the grid of the bands.
-constexpr int Row = 10, BandStep = 20, BandGap = 3, LastEarlyRow = 100;
+// Lines are counted in tenths, as members stand a little below the grid of the bands.
+constexpr int Line = 10, BandStep = 20, BandGap = 3, LastEarlyLine = 100;
 
 struct Names {
   QString list, column, value;
@@ -35,58 +35,58 @@ Names namesOf(const Wertung &wertung) {
 
 QString kindOf(const Wertung &wertung) {
   if (wertung.art == WertungsArt::ZeitsummeDerBesten)
-    return QStringLiteral("Zeitsumme der besten") + plainText(wertung.anzahlBeste);
+    return QStringLiteral("Zeitsumme der besten") + plainText(wertung.bestCount);
   return wertung.art == WertungsArt::Bestzeit ? QStringLiteral("Bestzeit") : QStringLiteral("Durchschnitt");
 }
 
 QString nameOf(const Store &store, Einheit einheit, int unit) {
   if (einheit != Einheit::Verein)
-    return einheitName(store, einheit, unit);
+    return unitName(store, einheit, unit);
   const VereinSatz club = VereinLesen(store, store.mannschaften.WertVerein[unit]);
   return trimmedBlanks(club.VereinKurz) + QStringLiteral("     ") + trimmedBlanks(club.VereinName);
 }
 
-Spalte<ListRow> timeColumn(const char *head, double headAt, double x, double TeilnehmerZeile::*time) {
+Column<ListLine> timeColumn(const char *head, double headAt, double x, double TeilnehmerZeile::*time) {
   return {QString::fromUtf8(head),
           x,
-          Ausrichtung::Zeit,
+          Alignment::Time,
           8,
-          [time](const ListRow &row) { return ZeitText(row.participant.*time); },
+          [time](const ListLine &line) { return ZeitText(line.participant.*time); },
           headAt};
 }
 
 class TeamPrinter {
 public:
-  TeamPrinter(const Store &store, Druckschicht &druck, const TeamListe &liste)
-      : m_store(store), m_druck(druck), m_liste(liste), m_names(namesOf(liste.wertung)),
-        m_units(einheitSpalten(store, liste.wertung)), m_members(mitgliederSpalten(store)) {
+  TeamPrinter(const Store &store, Druckschicht &druck, const TeamPrint &print)
+      : m_store(store), m_druck(druck), m_print(print), m_names(namesOf(print.wertung)),
+        m_units(unitColumns(store, print.wertung)), m_members(memberColumns(store)) {
     printHead();
   }
 
-  void printUnit(const EinheitRow &unit) {
+  void printUnit(const UnitLine &unit) {
     advance(BandStep);
     m_druck.FilledBox(20, y() - 0.5, 190, y() + 4.5, Grey);
     m_druck.list().begin(headsOf(m_units), cellTexts(m_units, unit));
     printCells(m_druck, m_units, unit, y());
-    m_row += BandGap;
+    m_line += BandGap;
   }
 
   void printMember(const QString &line) {
-    advance(Row);
+    advance(Line);
     const int row = numberAtEnd(line);
     m_druck.FontBold = m_store.mannschaften.WertGezaehlt[row] == 1;
-    printListRow(m_druck, m_members, listRow(m_store, row), y());
+    printListLine(m_druck, m_members, listLine(m_store, row), y());
     m_druck.FontBold = false;
   }
 
 private:
-  double y() const { return 42 + m_row * 0.45; }
+  double y() const { return 42 + m_line * 0.45; }
 
   void advance(int step) {
-    m_row += step;
-    if (m_row <= LastEarlyRow || double(m_druck.CurrentY) <= PageEnd)
+    m_line += step;
+    if (m_line <= LastEarlyLine || double(m_druck.CurrentY) <= PageEnd)
       return;
-    m_row = Row;
+    m_line = Line;
     m_druck.NewPage();
     printHead();
   }
@@ -101,7 +101,7 @@ private:
     text(174, 22, 7, QString::fromLatin1(WebAdresse));
     m_druck.FontItalic = false;
     printColumnHeads();
-    LogoDrucken(m_druck, 120, 11);
+    printLogo(m_druck, 120, 11);
   }
 
   // Italic stays on down to the web address: that is meant.
@@ -110,13 +110,13 @@ private:
     const QString &title = race.RennenKurz.isEmpty() ? race.RennenName : race.RennenKurz;
     m_druck.FontName = QStringLiteral("Arial");
     m_druck.FontBold = m_druck.FontItalic = true;
-    TitelAnpassen(m_druck, title, 98);
-    Zelle(m_druck, 22, 12, title);
+    fitTitle(m_druck, title, 98);
+    printItemAt(m_druck, 22, 12, title);
     m_druck.FontBold = false;
     text(22, 22, 18, m_names.list);
-    text(22, 30, 12, QStringLiteral("Auswertung nach: ") + kindOf(m_liste.wertung));
+    text(22, 30, 12, QStringLiteral("Auswertung nach: ") + kindOf(m_print.wertung));
     text(175, 12, 8, QStringLiteral("Seite -") + plainText(m_page));
-    text(175, 32, 7, shortDate(m_store.umgebung.heute()));
+    text(175, 32, 7, shortDate(m_store.umgebung.today()));
   }
 
   void printColumnHeads() {
@@ -130,45 +130,45 @@ private:
 
   void text(double x, double top, double size, const QString &what) {
     m_druck.FontSize = size;
-    Zelle(m_druck, x, top, what);
+    printItemAt(m_druck, x, top, what);
   }
 
   const Store &m_store;
   Druckschicht &m_druck;
-  const TeamListe &m_liste;
+  const TeamPrint &m_print;
   Names m_names;
-  QList<Spalte<EinheitRow>> m_units;
+  QList<Column<UnitLine>> m_units;
   ListColumns m_members;
   int m_page = 0;
-  /// Tenths of a row.
-  int m_row = 0;
+  /// Tenths of a line.
+  int m_line = 0;
 };
 
 } // namespace
 
-EinheitRow einheitRow(int place, const QString &line) {
+UnitLine unitFromLine(int place, const QString &line) {
   double value = regionalNumber(QStringView(line).left(ValueLength)).value_or(0);
   while (value >= MissingMember)
     value -= MissingMember;
   return {place, numberAtEnd(line), value};
 }
 
-QList<Spalte<EinheitRow>> einheitSpalten(const Store &store, const Wertung &wertung) {
-  using Column = Spalte<EinheitRow>;
-  using enum Ausrichtung;
+QList<Column<UnitLine>> unitColumns(const Store &store, const Wertung &wertung) {
+  using UnitColumn = Column<UnitLine>;
+  using enum Alignment;
   const Names names = namesOf(wertung);
-  const auto place = [](const EinheitRow &row) { return row.place; };
-  const auto name = [&store, wertung](const EinheitRow &row) { return nameOf(store, wertung.einheit, row.einheit); };
-  const auto value = [](const EinheitRow &row) { return ZeitText(row.value); };
-  Column values = withoutHead(Column(names.value, 100, Zeit, 10, value));
-  values.davor = names.value + QLatin1Char(':');
-  return {inBold(Column(QStringLiteral("Rang"), 20, Links, 10, place)),
-          inBold(Column(names.column, 38, Links, 10, name)), inBold(values)};
+  const auto place = [](const UnitLine &line) { return line.place; };
+  const auto name = [&store, wertung](const UnitLine &line) { return nameOf(store, wertung.einheit, line.unit); };
+  const auto value = [](const UnitLine &line) { return ZeitText(line.value); };
+  UnitColumn values = withoutHead(UnitColumn(names.value, 100, Time, 10, value));
+  values.prefix = names.value + QLatin1Char(':');
+  return {inBold(UnitColumn(QStringLiteral("Rang"), 20, Left, 10, place)),
+          inBold(UnitColumn(names.column, 38, Left, 10, name)), inBold(values)};
 }
 
-ListColumns mitgliederSpalten(const Store &store) {
-  const auto name = [](const ListRow &row) { return trimmedBlanks(row.athlete.Name); };
-  ListColumns columns{{QStringLiteral("Läufer"), 60, Ausrichtung::Links, 8, name},
+ListColumns memberColumns(const Store &store) {
+  const auto name = [](const ListLine &line) { return trimmedBlanks(line.athlete.Name); };
+  ListColumns columns{{QStringLiteral("Läufer"), 60, Alignment::Left, 8, name},
                       timeColumn("Zeit", 108, 100, &TeilnehmerZeile::WertSumme)};
   if (store.Rennen.ZweiDurchgaenge != 0)
     columns << timeColumn("1.DG", 144, 138, &TeilnehmerZeile::Zeit1)
@@ -176,13 +176,13 @@ ListColumns mitgliederSpalten(const Store &store) {
   return columns;
 }
 
-void Mannschaftsliste(const Store &store, Druckschicht &druck, const TeamListe &liste,
-                      const std::function<QStringList(int line)> &mitglieder) {
-  Dokumentanfang(store, druck, QStringLiteral("Mannschaftsliste"));
-  TeamPrinter printer(store, druck, liste);
-  for (int line = 0; line < liste.einheiten.size(); ++line) {
-    printer.printUnit(einheitRow(line + 1, liste.einheiten[line]));
-    for (const QString &member : mitglieder(line))
+void Mannschaftsliste(const Store &store, Druckschicht &druck, const TeamPrint &print,
+                      const std::function<QStringList(int line)> &members) {
+  beginDocument(store, druck, QStringLiteral("Mannschaftsliste"));
+  TeamPrinter printer(store, druck, print);
+  for (int line = 0; line < print.units.size(); ++line) {
+    printer.printUnit(unitFromLine(line + 1, print.units[line]));
+    for (const QString &member : members(line))
       printer.printMember(member);
   }
   druck.EndDoc();

@@ -17,9 +17,9 @@ namespace {
 
 // The table is not emptied first: entries behind the last row keep what an earlier cup or time sum left; meant.
 void takeBaseRace(Store &store, int race) {
-  rennenLaden(store, race);
-  rennsatzLesen(store);
-  klassenNamenMerken(store);
+  loadRaceTables(store, race);
+  readOpenRace(store);
+  keepClassNames(store);
   for (const int row : store.Teilnehmer.rows()) {
     const auto &participant = store.Teilnehmer[row];
     if (participant.LaeuferNr == 0)
@@ -37,7 +37,7 @@ void addTime(Store &store, int entry, const TeilnehmerZeile &participant) {
 }
 
 void addTimes(Store &store) {
-  const QHash<int, int> rows = zeilenDerLaeufer(store);
+  const QHash<int, int> rows = rowsOfAthletes(store);
   for (int entry = 1; entry <= store.cup.CupLaeufer.last() && store.cup.CupLaeufer[entry] != 0; ++entry) {
     const auto row = rows.constFind(store.cup.CupLaeufer[entry]);
     if (row == rows.constEnd())
@@ -50,18 +50,18 @@ void addTimes(Store &store) {
 // The race record is read behind the ranking, so each round is ranked with the surcharges of the round before it, and
 // the first one with those of the base race; this is meant.
 void addRound(Store &store, int race, const Kriterien &kriterien) {
-  rennenLaden(store, race);
-  zweitenLaufStreichen(store);
-  werten(store, kriterien);
+  loadRaceTables(store, race);
+  dropSecondRun(store);
+  rankUnder(store, kriterien);
   ++store.cup.CupRunden;
   addTimes(store);
-  rennsatzLesen(store);
+  readOpenRace(store);
   store.cup.ZeitsummeRennenKurz[store.cup.CupRunden] = store.Rennen.RennenKurz;
 }
 
 // The tables hold the base race, which was loaded last.
 void putSums(Store &store) {
-  zweitenLaufStreichen(store);
+  dropSecondRun(store);
   for (const int row : store.Teilnehmer.rows()) {
     auto &participant = store.Teilnehmer[row];
     participant.Status1 = store.cup.CupStatus(row, 0);
@@ -76,28 +76,28 @@ void writeRace(Store &store, int number) {
   race.RennenName = race.RennenKurz = QStringLiteral("Kombilauf");
   race.RennenNrText = plainText(number);
   race.RennenOrt.clear();
-  race.RennenDatum = toDays(store.umgebung.heute());
+  race.RennenDatum = toDays(store.umgebung.today());
   race.Veranstalter.clear();
   race.ZuschlagGast = race.ZuschlagMann = 0;
   race.ZweiDurchgaenge = 0;
   store.RennenIdx = store.AktRennen = number;
   auto files = raceFiles(store);
   files.append({'Z', singleTimesBytes(store.cup)});
-  store.vorDemErsetzen(replacingImage(store, number, files, race));
+  store.beforeReplacing(replacingImage(store, number, files, race));
   RennenSchreiben(store);
   RennDatenSpeichern(store);
-  singleTimesSpeichern(store);
-  store.nachDemErsetzen();
+  saveSingleTimes(store);
+  store.afterReplacing();
 }
 
 } // namespace
 
-int zeitsummeNummer(const QStringList &races) {
+int timeSumNumber(const QStringList &races) {
   QSet<int> taken;
   int highest = 0;
   for (const QString &line : races) {
-    taken.insert(rennenNummer(line));
-    highest = std::max(highest, rennenDerWertung(line));
+    taken.insert(raceOfLine(line));
+    highest = std::max(highest, scoredRaceOfLine(line));
   }
   int number = highest + 1;
   while (taken.contains(number))
@@ -105,13 +105,13 @@ int zeitsummeNummer(const QStringList &races) {
   return number;
 }
 
-void zeitsummeErzeugen(Store &store, const QList<int> &races, int number) {
+void generateTimeSum(Store &store, const QList<int> &races, int number) {
   store.cup.CupZeit.fill(0);
   store.cup.CupStatus.fill(0);
   store.cup.ZeitsummeRennenKurz.fill({});
   store.cup.CupRunden = 0;
   takeBaseRace(store, races.first());
-  const Kriterien kriterien = kriterienMerken(store);
+  const Kriterien kriterien = criteriaInForce(store);
   for (qsizetype line = races.size(); line-- > 0;)
     addRound(store, races[line], kriterien);
   putSums(store);

@@ -40,7 +40,7 @@ QString inField(const QString &text, int width, const QString &what, QStringList
 class Fields {
 public:
   Fields(const QStringList &line, const Columns &columns) : m_line(line), m_columns(columns) {}
-  QString operator()(Column kind) const { return m_line.value(m_columns.kinds.indexOf(kind)); }
+  QString operator()(ColumnKind kind) const { return m_line.value(m_columns.kinds.indexOf(kind)); }
 
 private:
   const QStringList &m_line;
@@ -48,11 +48,11 @@ private:
 };
 
 QString nameOfLine(const Fields &field) {
-  if (const QString whole = field(Column::Name); !whole.isEmpty())
+  if (const QString whole = field(ColumnKind::Name); !whole.isEmpty())
     return nameFromWhole(whole);
-  if (const QString whole = field(Column::FirstFamily); !whole.isEmpty())
+  if (const QString whole = field(ColumnKind::FirstFamily); !whole.isEmpty())
     return nameFromWhole(whole, true);
-  return nameFromParts(field(Column::Family), field(Column::First));
+  return nameFromParts(field(ColumnKind::Family), field(ColumnKind::First));
 }
 
 void takeBirth(Entry &entry, const QString &text, QDate today) {
@@ -88,13 +88,13 @@ Entry entryOf(int line, const Fields &field, QDate today) {
   entry.line = line;
   const QString name = nameOfLine(field);
   entry.athlete.Name = inField(name, NameWidth, QStringLiteral("Name"), entry.remarks);
-  entry.athlete.OesvNr = inField(field(Column::OesvNr), OesvNrWidth, QStringLiteral("ÖSV-Nummer"), entry.remarks);
-  constexpr std::array kinds{Column::Club, Column::Club2, Column::Club3};
+  entry.athlete.OesvNr = inField(field(ColumnKind::OesvNr), OesvNrWidth, QStringLiteral("ÖSV-Nummer"), entry.remarks);
+  constexpr std::array kinds{ColumnKind::Club, ColumnKind::Club2, ColumnKind::Club3};
   for (size_t slot = 0; slot < kinds.size(); ++slot)
     entry.clubs[slot] = inField(field(kinds[slot]), ClubWidth, nameOf(kinds[slot]), entry.remarks);
-  takeSex(entry, field(Column::Sex));
-  takePoints(entry, field(Column::Points));
-  takeBirth(entry, field(Column::Birth), today);
+  takeSex(entry, field(ColumnKind::Sex));
+  takePoints(entry, field(ColumnKind::Points));
+  takeBirth(entry, field(ColumnKind::Birth), today);
   if (entry.athlete.Name.isEmpty())
     entry.trouble = QStringLiteral("kein Name");
   return entry;

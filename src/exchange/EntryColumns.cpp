@@ -13,7 +13,7 @@ constexpr int LinesToJudge = 50;
 struct Kind {
   const char *name, *spellings;
 };
-constexpr std::array<Kind, ColumnKinds> Kinds{{
+constexpr std::array<Kind, ColumnKindCount> Kinds{{
     {"–", ""},
     {"Name",
      "name|teilnehmer|läufer|läuferin|sportler|starter|nameundvorname|namevorname|familiennamevorname|nachnamevorname|"
@@ -44,12 +44,12 @@ QString letters(const QString &heading) {
   return text;
 }
 
-Column byHeading(const QString &heading) {
+ColumnKind byHeading(const QString &heading) {
   const QString wanted = letters(heading);
   for (size_t kind = 1; kind < Kinds.size(); ++kind)
     if (QString::fromUtf8(Kinds[kind].spellings).split(QLatin1Char('|')).contains(wanted))
-      return Column(kind);
-  return Column::None;
+      return ColumnKind(kind);
+  return ColumnKind::None;
 }
 
 /// Whether most of what stands in a column fits a form, and anything does.
@@ -62,49 +62,50 @@ bool mostly(const Table &table, qsizetype column, const QRegularExpression &form
   return fits > 0 && fits * 10 >= filled * 8;
 }
 
-Column byContent(const Table &table, qsizetype column) {
-  static const std::pair<Column, QRegularExpression> forms[] = {
-      {Column::Birth,
+ColumnKind byContent(const Table &table, qsizetype column) {
+  static const std::pair<ColumnKind, QRegularExpression> forms[] = {
+      {ColumnKind::Birth,
        QRegularExpression(QStringLiteral("\\A(\\d{1,2}\\.\\d{1,2}\\.(\\d\\d|\\d{4})|\\d{4}-\\d\\d-\\d\\d|"
                                          "(19|20)\\d\\d)\\z"))},
-      {Column::Sex, QRegularExpression(QStringLiteral("\\A([mwfhd]|männlich|weiblich|herr(en)?|damen?)\\z"),
-                                       QRegularExpression::CaseInsensitiveOption)},
-      {Column::Points, QRegularExpression(QStringLiteral("\\A\\d+[,.]\\d+\\z"))},
-      {Column::OesvNr, QRegularExpression(QStringLiteral("\\A\\d{4,9}\\z"))},
-      {Column::Name, QRegularExpression(QStringLiteral("\\A\\D*\\p{L}{2}"))}};
+      {ColumnKind::Sex, QRegularExpression(QStringLiteral("\\A([mwfhd]|männlich|weiblich|herr(en)?|damen?)\\z"),
+                                           QRegularExpression::CaseInsensitiveOption)},
+      {ColumnKind::Points, QRegularExpression(QStringLiteral("\\A\\d+[,.]\\d+\\z"))},
+      {ColumnKind::OesvNr, QRegularExpression(QStringLiteral("\\A\\d{4,9}\\z"))},
+      {ColumnKind::Name, QRegularExpression(QStringLiteral("\\A\\D*\\p{L}{2}"))}};
   for (const auto &[kind, form] : forms)
     if (mostly(table, column, form))
       return kind;
-  return Column::None;
+  return ColumnKind::None;
 }
 
 // Columns of words are one name and a club, or two names and a club.
-void shareOutNames(QList<Column> &kinds) {
-  const auto words = kinds.count(Column::Name);
-  const auto shares = words < 3 ? std::array{Column::Name, Column::Club, Column::None, Column::None}
-                                : std::array{Column::Family, Column::First, Column::Club, Column::Club2};
+void shareOutNames(QList<ColumnKind> &kinds) {
+  const auto words = kinds.count(ColumnKind::Name);
+  const auto shares = words < 3
+                          ? std::array{ColumnKind::Name, ColumnKind::Club, ColumnKind::None, ColumnKind::None}
+                          : std::array{ColumnKind::Family, ColumnKind::First, ColumnKind::Club, ColumnKind::Club2};
   size_t next = 0;
-  for (Column &kind : kinds)
-    if (kind == Column::Name)
-      kind = next < shares.size() ? shares[next++] : Column::None;
+  for (ColumnKind &kind : kinds)
+    if (kind == ColumnKind::Name)
+      kind = next < shares.size() ? shares[next++] : ColumnKind::None;
 }
 
-void keepFirstOfEach(QList<Column> &kinds) {
+void keepFirstOfEach(QList<ColumnKind> &kinds) {
   for (qsizetype i = 0; i < kinds.size(); ++i)
     if (std::find(kinds.begin(), kinds.begin() + i, kinds[i]) != kinds.begin() + i)
-      kinds[i] = Column::None;
+      kinds[i] = ColumnKind::None;
 }
 
 // "Name" beside a column of first names is the family's.
-void pairNames(QList<Column> &kinds) {
-  if (!kinds.contains(Column::First) || kinds.contains(Column::Family))
+void pairNames(QList<ColumnKind> &kinds) {
+  if (!kinds.contains(ColumnKind::First) || kinds.contains(ColumnKind::Family))
     return;
-  std::replace(kinds.begin(), kinds.end(), Column::Name, Column::Family);
+  std::replace(kinds.begin(), kinds.end(), ColumnKind::Name, ColumnKind::Family);
 }
 
 } // namespace
 
-QString nameOf(Column kind) {
+QString nameOf(ColumnKind kind) {
   return QString::fromUtf8(Kinds[size_t(kind)].name);
 }
 
@@ -112,8 +113,8 @@ Columns recognisedColumns(const Table &table) {
   Columns columns;
   for (const QString &heading : table.lines.first())
     columns.kinds << byHeading(heading);
-  const bool named = std::any_of(columns.kinds.begin(), columns.kinds.end(), [](Column kind) {
-    return kind == Column::Name || kind == Column::FirstFamily || kind == Column::Family || kind == Column::First;
+  const bool named = std::any_of(columns.kinds.begin(), columns.kinds.end(), [](ColumnKind kind) {
+    return kind == ColumnKind::Name || kind == ColumnKind::FirstFamily || kind == ColumnKind::Family || kind == ColumnKind::First;
   });
   columns.heading = named;
   if (!named) {

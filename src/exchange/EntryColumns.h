@@ -4,15 +4,15 @@
 
 /// What a column of a table of entries may be.
 /// Name is a whole one with the family's first, FirstFamily one with it last.
-enum class Column { None, Name, FirstFamily, Family, First, Birth, Sex, Club, Club2, Club3, OesvNr, Points };
-constexpr int ColumnKinds = 12;
+enum class ColumnKind { None, Name, FirstFamily, Family, First, Birth, Sex, Club, Club2, Club3, OesvNr, Points };
+constexpr int ColumnKindCount = 12;
 
 /// The German name of a kind; "–" for None.
-QString nameOf(Column kind);
+QString nameOf(ColumnKind kind);
 
 /// How a table is read: what each column is, and whether its first line is a heading.
 struct Columns {
-  QList<Column> kinds;
+  QList<ColumnKind> kinds;
   bool heading = false;
 };
 

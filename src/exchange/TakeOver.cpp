@@ -64,7 +64,7 @@ SavedFile withRecords(const RecordFile &file, const QList<std::pair<int, Satz>> 
 class NewRecords {
 public:
   NewRecords(Store &store, const EntryPlan &plan)
-      : m_store(store), m_plan(plan), m_before(zustand(store)), m_counts(m_before) {
+      : m_store(store), m_plan(plan), m_before(stateOf(store)), m_counts(m_before) {
     makeClubs();
     makeAthletes();
   }
@@ -234,14 +234,14 @@ void enterAll(Store &store, const EntryPlan &plan, const QList<int> &records) {
   }
 }
 
-// From now to `nachDemErsetzen` a death leaves what the next start can finish or take back.
+// From now to `afterReplacing` a death leaves what the next start can finish or take back.
 void writeRecords(Store &store, const NewRecords &records, const EntryProgress &progress) {
-  store.vorDemErsetzen(replacingRegisters(store, records.files()));
+  store.beforeReplacing(replacingRegisters(store, records.files()));
   Batch batch(store.umgebung);
   try {
     records.write(progress);
   } catch (const Fault &) {
-    store.nachDemErsetzen();
+    store.afterReplacing();
     throw;
   }
   batch.finish();
@@ -258,5 +258,5 @@ void takeOver(Store &store, const EntryPlan &plan, bool race, const EntryProgres
   if (race)
     enterAll(store, plan, records.ofLines());
   if (!records.isEmpty())
-    store.nachDemErsetzen();
+    store.afterReplacing();
 }

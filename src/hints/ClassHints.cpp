@@ -41,7 +41,7 @@ template <typename Fits> std::optional<std::pair<int, int>> latestRun(int younge
 }
 
 int thisYear(const Situation &now) {
-  return now.store.umgebung.heute().year();
+  return now.store.umgebung.today().year();
 }
 
 bool anyClass(const Store &store) {

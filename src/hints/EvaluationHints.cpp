@@ -26,7 +26,7 @@ struct Marked {
 QList<Marked> markedRaces(const Situation &now) {
   QList<Marked> races;
   for (const QString &line : now.text("List1").split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
-    const int number = rennenNummer(line);
+    const int number = raceOfLine(line);
     races.append({line, number, now.race(number)});
   }
   return races;
@@ -175,7 +175,7 @@ Hint Hints::racesDiffer(const Situation &now) {
 
 Hint Hints::raceNumberCut(const Situation &now) {
   for (const Marked &race : markedRaces(now))
-    if (const int read = rennenDerWertung(race.line); read != race.number)
+    if (const int read = scoredRaceOfLine(race.line); read != race.number)
       return {QStringLiteral("%1 wird als Rennen %2 gelesen: Nur drei Ziffern gelten.").arg(raceText(race)).arg(read)};
   return {};
 }

@@ -49,7 +49,7 @@ bool rowsHaveMoved(const Store &store) {
   const auto before = std::make_unique<Store>(store.umgebung);
   before->DatenOrdner = store.DatenOrdner;
   before->AktRennen = store.AktRennen;
-  singleTimesLaden(*before);
+  loadSingleTimes(*before);
   for (int row = 1; row <= Rows; ++row)
     if (const int athlete = store.Teilnehmer[row].LaeuferNr; athlete != 0 && athlete != before->cup.CupLaeufer[row])
       return true;
@@ -117,7 +117,7 @@ Hint Hints::tableNearlyFull(const Situation &now) {
 
 Hint Hints::combinedRaceMoved(const Situation &now) {
   try {
-    if (!hatSingleTimes(now.store) || now.store.TabellenRennen < 0)
+    if (!hasSingleTimes(now.store) || now.store.TabellenRennen < 0)
       return {};
     if (rowsHaveMoved(now.store))
       return {QStringLiteral(
@@ -224,7 +224,7 @@ Hint Hints::groupRunTakesClass(const Situation &now) {
 Hint Hints::classRunRepeatsNumbers(const Situation &now) {
   if (!now.isOn("Command11"))
     return {};
-  const qint64 klasse = now.number("Combo2") + 1, first = ersteNummer(now.text("Text3"));
+  const qint64 klasse = now.number("Combo2") + 1, first = firstNumber(now.text("Text3"));
   const auto &all = now.starters();
   const auto inClass = [&](const Starter &starter) { return starter.participant.KlasseNr == klasse; };
   const qint64 last = first + std::count_if(all.begin(), all.end(), inClass) - 1;
@@ -249,7 +249,7 @@ Hint Hints::numberNotStored(const Situation &now) {
   const QString kept = QStringLiteral(" Gespeichert bleibt %1.").arg(shown->participant.StartNr);
   if (!typed)
     return {QStringLiteral("Keine Nummer von −32768 bis 32767.") + kept, QStringLiteral("Text1")};
-  if (!startNrVergeben(now.store, *typed))
+  if (!isNumberTaken(now.store, *typed))
     return {};
   const QStringList owners =
       namesOf(now, [&](const Starter &starter) { return starter.participant.StartNr == *typed; });

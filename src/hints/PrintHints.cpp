@@ -31,7 +31,7 @@ bool anySecondTime(const Situation &now) {
 
 int linesRanked(const Store &store) {
   int lines = 0;
-  while (lines < store.rangliste.RangListe.last() && store.rangliste.RangListe[lines + 1] != 0)
+  while (lines < store.ranking.RangListe.last() && store.ranking.RangListe[lines + 1] != 0)
     ++lines;
   return lines;
 }
@@ -102,7 +102,7 @@ Hint Hints::certificatesOfAnotherList(const Situation &now) {
   const auto ranked = std::count_if(now.starters().begin(), now.starters().end(),
                                     [secondTimes](const Starter &starter) { return isRanked(starter, secondTimes); });
   const int lines = linesRanked(now.store);
-  if (lines > 0 && now.store.rangliste.ErgebnisZeilen.isEmpty())
+  if (lines > 0 && now.store.ranking.ErgebnisZeilen.isEmpty())
     return {QStringLiteral("Urkunden nähmen jetzt den Platz vom 1. Durchgang: zuerst „Ergebnisliste drucken“."),
             QStringLiteral("Command5")};
   if (lines >= ranked)

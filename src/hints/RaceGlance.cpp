@@ -81,7 +81,7 @@ QList<int> racesOfCup(const Store &store) {
   const auto cup = std::make_unique<Store>(store.umgebung);
   cup->DatenOrdner = store.DatenOrdner;
   try {
-    return cupLaden(*cup).rennen;
+    return loadCup(*cup).races;
   } catch (const Fault &) {
     return {};
   }

@@ -108,7 +108,7 @@ Hint Hints::twoDigitYear(const Situation &now) {
 
 Hint Hints::unlikelyYear(const Situation &now) {
   const auto date = typedDate(wholeDate(now.text("Text4")));
-  if (!date || toDays(*date) == 2 || (date->year() >= OldestYear && *date <= now.store.umgebung.heute()))
+  if (!date || toDays(*date) == 2 || (date->year() >= OldestYear && *date <= now.store.umgebung.today()))
     return {};
   return {QStringLiteral("Jahrgang %1: Stimmt das? Zwei Ziffern werden ab 10 immer zu 19…").arg(date->year()),
           QStringLiteral("Text4")};

@@ -42,7 +42,7 @@ std::optional<int> previousAthlete(const Store &store, qint64 shown) {
   LaeuferLeeren(store);
   if (shown - 1 >= 1)
     return heldAthlete(store, shown - 1);
-  store.umgebung.piep();
+  store.umgebung.beep();
   return {};
 }
 

@@ -17,7 +17,7 @@ int heldClub(const Store &store, qint64 n) {
 std::optional<int> previousClub(const Store &store, qint64 shown) {
   if (shown - 1 >= 1)
     return heldClub(store, shown - 1);
-  store.umgebung.piep();
+  store.umgebung.beep();
   return {};
 }
 

@@ -51,7 +51,7 @@ void Form3::fillClubs() {
 }
 
 void Form3::connectNavigation() {
-  connect(ui->Text1, &QLineEdit::textChanged, this, [this](const QString &text) { zeigen(wholeNumber(text)); });
+  connect(ui->Text1, &QLineEdit::textChanged, this, [this](const QString &text) { showRecord(wholeNumber(text)); });
   connect(ui->Command2, &QPushButton::clicked, this, [this] {
     if (const auto n = previousAthlete(m_store, wholeNumber(ui->Text1->text())))
       LaeuferZeigen(*n);
@@ -66,12 +66,11 @@ void Form3::connectNavigation() {
   });
   connect(ui->Command4, &QPushButton::clicked, this, [this] {
     if (!looksUndated(ui->Text4->text()))
-      zeigen(m_store.LaeuferAnzahl);
+      showRecord(m_store.LaeuferAnzahl);
   });
-  connect(ui->List1, &LineList::chosen, this, [this](int line) { zeigen(numberAtEnd(ui->List1->lines()[line])); });
+  connect(ui->List1, &LineList::chosen, this, [this](int line) { showRecord(numberAtEnd(ui->List1->lines()[line])); });
   ui->List1->saveAs([this] { return athleteTable(m_store); });
-  ui->List1->addAction(QStringLiteral("Meldungen aus Tabelle einlesen …"), this,
-                       [this] { Q_EMIT meldungenGewuenscht(); });
+  ui->List1->addAction(QStringLiteral("Meldungen aus Tabelle einlesen …"), this, [this] { Q_EMIT entriesRequested(); });
   connect(ui->Command1, &QPushButton::clicked, this, &Form3::close);
 }
 
@@ -111,7 +110,7 @@ void Form3::storePoints() {
   const LaeuferSatz athlete = change(take);
   if (points)
     return;
-  m_store.umgebung.piep();
+  m_store.umgebung.beep();
   ui->Text5->setText(plainText(athlete.LaeuferPunkte));
 }
 
@@ -131,12 +130,12 @@ bool Form3::eventFilter(QObject *watched, QEvent *event) {
   return true;
 }
 
-void Form3::zeigen(qint64 record) {
+void Form3::showRecord(qint64 record) {
   LaeuferZeigen(heldAthlete(m_store, record));
 }
 
-void Form3::neuaufnehmen(const QString &name) {
-  zeigen(firstFreeAthlete(m_store));
+void Form3::startNewEntry(const QString &name) {
+  showRecord(firstFreeAthlete(m_store));
   ui->Text2->setText(name);
   ui->Text2->setFocus();
 }
@@ -167,7 +166,7 @@ void Form3::showSex(int sex) {
   ui->Option2->setFocusPolicy(female ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
-void Form3::meldungenZeigen() {
+void Form3::showEntered() {
   fillClubs();
   fillList();
   LaeuferZeigen(m_shown);

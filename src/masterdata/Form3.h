@@ -26,16 +26,16 @@ public:
   ~Form3() override;
 
   /// Goes to a record, held to the register.
-  void zeigen(qint64 record);
+  void showRecord(qint64 record);
   /// Starts a new entry: goes to the first record without a name and puts the text into the name field, which gets the
   /// focus. Without such a record it lands on the last athlete, who is then renamed by it; it is meant.
-  void neuaufnehmen(const QString &name);
+  void startNewEntry(const QString &name);
   /// Shows what a table of entries has brought.
-  void meldungenZeigen();
+  void showEntered();
 
 Q_SIGNALS:
   /// A table of entries is to be read.
-  void meldungenGewuenscht();
+  void entriesRequested();
 
 protected:
   bool eventFilter(QObject *watched, QEvent *event) override;

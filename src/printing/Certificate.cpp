@@ -44,8 +44,8 @@ void printHeading(const Store &store, Druckschicht &druck) {
 QString timeLine(const Store &store, const Druckschicht &druck, const TeilnehmerZeile &participant, int sex) {
   QString line = QStringLiteral("Zeit: ") + ZeitDruckText(druck, participant.WertSumme);
   const double sum = participant.WertSumme;
-  if (sum != 0 && (sum == store.rangliste.BestzeitDamen || sum == store.rangliste.BestzeitHerren))
-    line += QStringLiteral("   ") + Bestzeittext(store.Rennen.BestzeitText, sex);
+  if (sum != 0 && (sum == store.ranking.BestzeitDamen || sum == store.ranking.BestzeitHerren))
+    line += QStringLiteral("   ") + bestTimeRemark(store.Rennen.BestzeitText, sex);
   return line +
          (store.Rennen.WertKlassen == 0
               ? QStringLiteral("        Gruppe: ") + store.GruppeName[participant.GruppeNr]
@@ -72,7 +72,7 @@ void printText(Druckschicht &druck, const UrkundenText &text) {
 
 void printFoot(const Store &store, Druckschicht &druck) {
   setFont(druck, 14, false);
-  printCentred(druck, 240, QStringLiteral("am: ") + shortDate(store.umgebung.heute()));
+  printCentred(druck, 240, QStringLiteral("am: ") + shortDate(store.umgebung.today()));
   druck.DrawWidth = 3;
   druck.Line(LeftEdge, 260, 75, 260);
   druck.Line(130, 260, RightEdge, 260);
@@ -87,7 +87,7 @@ void Deckkopf(const Store &store, Druckschicht &druck) {
   setFont(druck, 24, false);
   druck.CurrentX = druck.CurrentY = 20;
   druck.Print(store.OrganisationName);
-  LogoDrucken(druck, 150, 11);
+  printLogo(druck, 150, 11);
   druck.DrawWidth = 5;
   druck.Line(LeftEdge, 30, RightEdge, 30);
   setFont(druck, 30, true);
@@ -97,7 +97,7 @@ void Deckkopf(const Store &store, Druckschicht &druck) {
 void Urkunde(const Store &store, Druckschicht &druck, int row, const std::optional<UrkundenText> &text) {
   const auto &participant = store.Teilnehmer[row];
   const LaeuferSatz athlete = LaeuferLesen(store, participant.LaeuferNr);
-  Dokumentanfang(store, druck, QStringLiteral("Urkunde"), athlete.Name);
+  beginDocument(store, druck, QStringLiteral("Urkunde"), athlete.Name);
   Deckkopf(store, druck);
   printHeading(store, druck);
   setFont(druck, 30, true, true);

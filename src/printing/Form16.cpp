@@ -30,7 +30,7 @@ Form16::Form16(Desk &desk, Store &store)
   bind(ui->Text18, &RennenSatz::Sponsor5);
   bind(ui->Text19, &RennenSatz::Sponsor6);
   onLeave(ui->Text3, [this] { storeDate(); });
-  connect(ui->Command10, &QPushButton::clicked, this, &Form16::werbungGewuenscht);
+  connect(ui->Command10, &QPushButton::clicked, this, &Form16::bannersRequested);
   connect(ui->Command1, &QPushButton::clicked, this, &QWidget::close);
   ui->Command1->setFocus();
 }
@@ -52,9 +52,9 @@ void Form16::storeDate() {
   if (const auto date = typedDate(trimmedBlanks(ui->Text3->text())))
     m_store.Rennen.RennenDatum = toDays(*date);
   else
-    m_store.umgebung.piep();
+    m_store.umgebung.beep();
 }
 
 void Form16::closing() {
-  rennsatzSpeichern(m_store);
+  writeOpenRace(m_store);
 }

@@ -29,7 +29,7 @@ public:
 
 Q_SIGNALS:
   /// The banners are wanted.
-  void werbungGewuenscht();
+  void bannersRequested();
 
 protected:
   void closing() override;

@@ -33,15 +33,15 @@ Form21::Form21(Desk &desk, Store &store)
     : Screen(desk, QStringLiteral("Form21"), 21), ui(std::make_unique<Ui::Form21>()), m_store(store) {
   ui->setupUi(this);
   makePage();
-  for (int i = 0; i < int(m_rows.size()); ++i)
+  for (int i = 0; i < int(m_controls.size()); ++i)
     makeRow(i);
   setUp();
-  fill(WerbungLesen(m_store));
-  m_atOpening = werbungBytes(werbung());
-  connect(ui->Command2, &QPushButton::clicked, this, [this] { move(&Row::rechts, 2); });
-  connect(ui->Command3, &QPushButton::clicked, this, [this] { move(&Row::rechts, -2); });
-  connect(ui->Command4, &QPushButton::clicked, this, [this] { move(&Row::runter, -1); });
-  connect(ui->Command5, &QPushButton::clicked, this, [this] { move(&Row::runter, 1); });
+  fill(loadBanners(m_store));
+  m_atOpening = bannerBytes(werbung());
+  connect(ui->Command2, &QPushButton::clicked, this, [this] { move(&Controls::right, 2); });
+  connect(ui->Command3, &QPushButton::clicked, this, [this] { move(&Controls::right, -2); });
+  connect(ui->Command4, &QPushButton::clicked, this, [this] { move(&Controls::down, -1); });
+  connect(ui->Command5, &QPushButton::clicked, this, [this] { move(&Controls::down, 1); });
   connect(ui->Command1, &QPushButton::clicked, this, &QWidget::close);
   ui->Command1->setFocus();
   preview();
@@ -74,26 +74,26 @@ void Form21::makePage() {
 
 void Form21::makeRow(int i) {
   const auto named = [i](const char *name) { return QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(i); };
-  Row &row = m_rows[std::size_t(i)];
-  row.check = findChild<QCheckBox *>(named("Check1"));
-  row.datei = findChild<QLineEdit *>(named("Text1"));
-  row.rechts = findChild<QLineEdit *>(named("Text2"));
-  row.runter = findChild<QLineEdit *>(named("Text3"));
-  row.groesse = findChild<QLineEdit *>(named("Text4"));
-  row.image = new Picture(ui->Image3);
-  row.image->setObjectName(named("Image1"));
-  row.image->installEventFilter(this);
-  connect(row.check, &QCheckBox::clicked, this, [this, i] { select(i); });
-  onEnter(row.datei, [this, i] { select(i); });
-  for (auto *field : {row.datei, row.rechts, row.runter, row.groesse})
+  Controls &controls = m_controls[std::size_t(i)];
+  controls.check = findChild<QCheckBox *>(named("Check1"));
+  controls.file = findChild<QLineEdit *>(named("Text1"));
+  controls.right = findChild<QLineEdit *>(named("Text2"));
+  controls.down = findChild<QLineEdit *>(named("Text3"));
+  controls.size = findChild<QLineEdit *>(named("Text4"));
+  controls.image = new Picture(ui->Image3);
+  controls.image->setObjectName(named("Image1"));
+  controls.image->installEventFilter(this);
+  connect(controls.check, &QCheckBox::clicked, this, [this, i] { select(i); });
+  onEnter(controls.file, [this, i] { select(i); });
+  for (auto *field : {controls.file, controls.right, controls.down, controls.size})
     onReturn(field, [this] { preview(); });
-  hold(row.rechts, WerbeGrenzen::rechts);
-  hold(row.runter, WerbeGrenzen::runter);
-  hold(row.groesse, WerbeGrenzen::groesse);
+  hold(controls.right, BannerFields::right);
+  hold(controls.down, BannerFields::down);
+  hold(controls.size, BannerFields::size);
 }
 
 // The bound stands in the field at once, also while a number is being typed.
-void Form21::hold(QLineEdit *field, const WerbeGrenze &range) {
+void Form21::hold(QLineEdit *field, const BannerRange &range) {
   connect(field, &QLineEdit::textChanged, this, [field, range](const QString &text) {
     if (const QString held = range.held(text); held != text)
       field->setText(held);
@@ -101,20 +101,20 @@ void Form21::hold(QLineEdit *field, const WerbeGrenze &range) {
 }
 
 void Form21::fill(const Werbung &werbung) {
-  for (std::size_t i = 0; i < m_rows.size(); ++i) {
-    m_rows[i].check->setChecked(werbung[i].gewaehlt);
-    m_rows[i].datei->setText(werbung[i].datei);
-    m_rows[i].rechts->setText(werbung[i].rechts);
-    m_rows[i].runter->setText(werbung[i].runter);
-    m_rows[i].groesse->setText(werbung[i].groesse);
+  for (std::size_t i = 0; i < m_controls.size(); ++i) {
+    m_controls[i].check->setChecked(werbung[i].chosen);
+    m_controls[i].file->setText(werbung[i].file);
+    m_controls[i].right->setText(werbung[i].right);
+    m_controls[i].down->setText(werbung[i].down);
+    m_controls[i].size->setText(werbung[i].size);
   }
 }
 
 Werbung Form21::werbung() const {
   Werbung werbung;
-  for (std::size_t i = 0; i < m_rows.size(); ++i)
-    werbung[i] = {m_rows[i].check->isChecked(), m_rows[i].datei->text(), m_rows[i].rechts->text(),
-                  m_rows[i].runter->text(), m_rows[i].groesse->text()};
+  for (std::size_t i = 0; i < m_controls.size(); ++i)
+    werbung[i] = {m_controls[i].check->isChecked(), m_controls[i].file->text(), m_controls[i].right->text(),
+                  m_controls[i].down->text(), m_controls[i].size->text()};
   return werbung;
 }
 
@@ -123,9 +123,9 @@ void Form21::select(int i) {
   preview();
 }
 
-void Form21::move(QLineEdit *Row::*field, int step) {
+void Form21::move(QLineEdit *Controls::*field, int step) {
   if (m_selection >= 0)
-    stepNumber(m_rows[std::size_t(m_selection)].*field, step);
+    stepNumber(m_controls[std::size_t(m_selection)].*field, step);
 }
 
 void Form21::stepNumber(QLineEdit *box, int step) {
@@ -135,7 +135,8 @@ void Form21::stepNumber(QLineEdit *box, int step) {
 
 // Their bounds stand in the fields while a number is typed, so that some can only be reached step by step.
 bool Form21::stepByKey(QLineEdit *box, int key) {
-  const bool numeric = std::none_of(m_rows.begin(), m_rows.end(), [box](const Row &row) { return box == row.datei; });
+  const bool numeric = std::none_of(m_controls.begin(), m_controls.end(),
+                                    [box](const Controls &controls) { return box == controls.file; });
   if (!numeric || (key != Qt::Key_Up && key != Qt::Key_Down))
     return false;
   stepNumber(box, key == Qt::Key_Up ? 1 : -1);
@@ -143,30 +144,31 @@ bool Form21::stepByKey(QLineEdit *box, int key) {
 }
 
 void Form21::preview() {
-  for (std::size_t i = 0; i < m_rows.size(); ++i)
-    showBanner(m_rows[i], int(i) == m_selection);
+  for (std::size_t i = 0; i < m_controls.size(); ++i)
+    showBanner(m_controls[i], int(i) == m_selection);
 }
 
 // The fields have the ground of the screen, but for those of the chosen banner.
-void Form21::showBanner(const Row &row, bool chosen) {
-  for (auto *field : {row.datei, row.rechts, row.runter, row.groesse})
+void Form21::showBanner(const Controls &controls, bool chosen) {
+  for (auto *field : {controls.file, controls.right, controls.down, controls.size})
     Look::setGround(field, palette().color(chosen ? QPalette::Base : QPalette::Window));
-  const QString path = m_store.DatenOrdner + row.datei->text();
-  const bool used = row.check->isChecked() && !row.datei->text().isEmpty() && QFile::exists(path);
+  const QString path = m_store.DatenOrdner + controls.file->text();
+  const bool used = controls.check->isChecked() && !controls.file->text().isEmpty() && QFile::exists(path);
   const QSize natural = used ? pictureSize(path) : QSize();
-  row.image->setVisible(natural.isValid());
+  controls.image->setVisible(natural.isValid());
   if (!natural.isValid())
     return;
-  const double scale = leadingNumber(row.groesse->text()) / 100 * m_zoom;
-  row.image->setFile(path);
-  row.image->setGeometry(pixels(leadingNumber(row.rechts->text())), pixels(leadingNumber(row.runter->text()) - PageTop),
-                         int(std::lround(natural.width() * scale)), int(std::lround(natural.height() * scale)));
+  const double scale = leadingNumber(controls.size->text()) / 100 * m_zoom;
+  controls.image->setFile(path);
+  controls.image->setGeometry(pixels(leadingNumber(controls.right->text())),
+                              pixels(leadingNumber(controls.down->text()) - PageTop),
+                              int(std::lround(natural.width() * scale)), int(std::lround(natural.height() * scale)));
 }
 
 bool Form21::eventFilter(QObject *watched, QEvent *event) {
   if (event->type() == QEvent::MouseButtonPress && static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton)
-    for (std::size_t i = 0; i < m_rows.size(); ++i)
-      if (m_rows[i].image == watched)
+    for (std::size_t i = 0; i < m_controls.size(); ++i)
+      if (m_controls[i].image == watched)
         select(int(i));
   auto *box = qobject_cast<QLineEdit *>(watched);
   if (box && event->type() == QEvent::KeyPress && stepByKey(box, static_cast<QKeyEvent *>(event)->key()))
@@ -175,10 +177,10 @@ bool Form21::eventFilter(QObject *watched, QEvent *event) {
 }
 
 QList<SavedFile> Form21::unsaved() const {
-  const QByteArray now = werbungBytes(werbung());
+  const QByteArray now = bannerBytes(werbung());
   return now == m_atOpening ? QList<SavedFile>() : QList<SavedFile>{{QStringLiteral("werbung.dat"), now}};
 }
 
 void Form21::closing() {
-  WerbungSchreiben(m_store, werbung());
+  saveBanners(m_store, werbung());
 }

@@ -33,28 +33,28 @@ protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-  struct Row {
+  struct Controls {
     QCheckBox *check;
-    QLineEdit *datei, *rechts, *runter, *groesse;
+    QLineEdit *file, *right, *down, *size;
     Picture *image;
   };
   void makePage();
   void makeRow(int i);
   void fill(const Werbung &werbung);
   Werbung werbung() const;
-  void hold(QLineEdit *field, const WerbeGrenze &range);
+  void hold(QLineEdit *field, const BannerRange &range);
   void select(int i);
-  void move(QLineEdit *Row::*field, int step);
+  void move(QLineEdit *Controls::*field, int step);
   void stepNumber(QLineEdit *box, int step);
   bool stepByKey(QLineEdit *box, int key);
   void preview();
-  void showBanner(const Row &row, bool chosen);
+  void showBanner(const Controls &controls, bool chosen);
   /// On the screen, of a length on paper.
   int pixels(double millimetres) const;
 
   std::unique_ptr<Ui::Form21> ui;
   Store &m_store;
-  std::array<Row, 8> m_rows{};
+  std::array<Controls, 8> m_controls{};
   /// 0 to 7; −1 = none.
   int m_selection = -1;
   QByteArray m_atOpening;

@@ -35,11 +35,11 @@ void Form8::fill() {
   ui->Label1->setText(shownText(m_store.Rennen.RennenName));
   ui->Combo3->addItems(shortNamesOfClubs(m_store));
   ui->Combo3->setCurrentIndex(-1);
-  ui->Combo4->addItems(klassenNamen(m_store));
+  ui->Combo4->addItems(classNames(m_store));
   for (QWidget *later : {static_cast<QWidget *>(ui->Combo3), ui->alternativerText})
     later->hide();
   ErgebnisRechnen(m_store, clubFilter());
-  ui->List2->fill(ranglisteZeilen(m_store));
+  ui->List2->fill(rankingLines(m_store));
 }
 
 void Form8::connectDocuments() {
@@ -59,11 +59,11 @@ void Form8::connectDocuments() {
 
 void Form8::connectChoices() {
   connect(ui->Command1, &QPushButton::clicked, this, &Form8::close);
-  connect(ui->Command6, &QPushButton::clicked, this, &Form8::druckerGewuenscht);
+  connect(ui->Command6, &QPushButton::clicked, this, &Form8::printerRequested);
   onKey(QKeySequence::Print, [this] { press(ui->Command3); });
   connect(ui->Command10, &QPushButton::clicked, this, [this] {
     keepBanners();
-    Q_EMIT werbungGewuenscht();
+    Q_EMIT bannersRequested();
   });
   connect(ui->Check1, &QCheckBox::clicked, this, [this](bool on) { ui->Combo3->setVisible(on); });
   connect(ui->Check2, &QCheckBox::clicked, this, [this](bool on) { ui->alternativerText->setVisible(on); });
@@ -126,17 +126,17 @@ void Form8::printCertificates(Druckschicht &druck) {
 
 void Form8::printTitlePage(Druckschicht &druck) {
   if (!m_werbung)
-    m_werbung = WerbungLesen(m_store);
+    m_werbung = loadBanners(m_store);
   Titelblatt(m_store, druck, *m_werbung);
 }
 
 // A title page takes the banners into hand as if their screen were open; they are written back when it would close.
 void Form8::keepBanners() {
   if (const auto werbung = std::exchange(m_werbung, {}))
-    WerbungSchreiben(m_store, *werbung);
+    saveBanners(m_store, *werbung);
 }
 
 void Form8::closing() {
   keepBanners();
-  rennsatzSpeichern(m_store);
+  writeOpenRace(m_store);
 }

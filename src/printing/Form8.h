@@ -31,9 +31,9 @@ public:
 
 Q_SIGNALS:
   /// The banners are wanted.
-  void werbungGewuenscht();
+  void bannersRequested();
   /// The choice of the printer is wanted.
-  void druckerGewuenscht();
+  void printerRequested();
 
 protected:
   void closing() override;

@@ -4,7 +4,7 @@
 #include "platform/Numbers.h"
 #include "printing/Documents.h"
 #include "printing/ListColumns.h"
-#include "printing/ListRows.h"
+#include "printing/ListLines.h"
 #include "printing/PrintHelpers.h"
 #include "printing/Seitenkopf.h"
 #include "printing/SortierListe.h"
@@ -15,7 +15,7 @@ namespace {
 class ClassedList {
 public:
   ClassedList(Store &store, Druckschicht &druck)
-      : m_store(store), m_druck(druck), m_columns(teilnehmerSpalten(store)) {}
+      : m_store(store), m_druck(druck), m_columns(participantColumns(store)) {}
 
   void print(const QStringList &lines) {
     printHead();
@@ -33,11 +33,11 @@ public:
   }
 
 private:
-  void printHead() { Seitenkopf(m_store, m_druck, Listenkoepfe::teilnehmerliste(), m_columns, m_page); }
+  void printHead() { Seitenkopf(m_store, m_druck, ListHeads::participants(), m_columns, m_page); }
 
   // The number starts at 0, so a first section 000 has no band; this is meant.
   void markSection(TeilnehmerZeile &participant, const QString &line) {
-    const int section = abschnittOf(line);
+    const int section = sectionOfLine(line);
     participant.KlasseKopf = section != m_section ? 1 : 0;
     m_section = section;
   }
@@ -52,7 +52,7 @@ private:
 
   // A continued class shows no name on the new page; this is meant.
   void breakIfFull(double limit) {
-    if (!seiteVoll(m_druck, m_line, limit))
+    if (!isPageFull(m_druck, m_line, limit))
       return;
     m_line = 1;
     m_druck.NewPage();
@@ -61,8 +61,8 @@ private:
 
   void printRow(int row) {
     ++m_line;
-    breakIfFull(RowLimit);
-    printListRow(m_druck, m_columns, listRow(m_store, row), gitterY(m_line));
+    breakIfFull(LineLimit);
+    printListLine(m_druck, m_columns, listLine(m_store, row), gridY(m_line));
   }
 
   Store &m_store;
@@ -74,7 +74,7 @@ private:
 } // namespace
 
 void Teilnehmerliste(Store &store, Druckschicht &druck) {
-  Dokumentanfang(store, druck, Listenkoepfe::teilnehmerliste().name);
+  beginDocument(store, druck, ListHeads::participants().name);
   ClassedList(store, druck).print(SortierListe(store, [&store](int row, const LaeuferSatz &athlete) {
     const auto &participant = store.Teilnehmer[row];
     return Reihungsschluessel(store, participant) + masked(participant.StartNr, "0###") + athlete.Name;
@@ -82,24 +82,24 @@ void Teilnehmerliste(Store &store, Druckschicht &druck) {
 }
 
 void AlphabetischeListe(const Store &store, Druckschicht &druck) {
-  Dokumentanfang(store, druck, Listenkoepfe::alphabetischeListe().name);
-  const ListColumns columns = alphabetischeSpalten(store);
-  int page = 0, zeilenNr = 0;
-  const auto printHead = [&] { Seitenkopf(store, druck, Listenkoepfe::alphabetischeListe(), columns, page); };
+  beginDocument(store, druck, ListHeads::alphabetic().name);
+  const ListColumns columns = alphabeticColumns(store);
+  int page = 0, pageLine = 0;
+  const auto printHead = [&] { Seitenkopf(store, druck, ListHeads::alphabetic(), columns, page); };
   const QStringList lines = SortierListe(store, [](int, const LaeuferSatz &athlete) { return athlete.Name; });
   printHead();
   for (const QString &line : lines) {
     const int row = numberAtEnd(line);
     if (store.Teilnehmer[row].StartNr == 0)
       break;
-    if (seiteVoll(druck, ++zeilenNr, RowLimit)) {
-      zeilenNr = 1;
+    if (isPageFull(druck, ++pageLine, LineLimit)) {
+      pageLine = 1;
       druck.NewPage();
       printHead();
     }
-    printListRow(druck, columns, listRow(store, row), gitterY(zeilenNr));
+    printListLine(druck, columns, listLine(store, row), gridY(pageLine));
     druck.DrawWidth = 2;
-    druck.Box(20, gitterY(zeilenNr) - 0.5, 190, gitterY(zeilenNr + 1) - 0.5);
+    druck.Box(20, gridY(pageLine) - 0.5, 190, gridY(pageLine + 1) - 0.5);
   }
   druck.EndDoc();
 }

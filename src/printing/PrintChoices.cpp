@@ -6,7 +6,7 @@
 
 namespace {
 
-QString ranglisteZeile(const Store &store, int row) {
+QString rankingLine(const Store &store, int row) {
   const TeilnehmerZeile &participant = store.Teilnehmer[row];
   const QString name = LaeuferLesen(store, participant.LaeuferNr).Name;
   return rightAligned(plainText(participant.Rang), 4) + QStringLiteral(". ") + padded(name, 25) + QLatin1Char(' ') +
@@ -16,18 +16,18 @@ QString ranglisteZeile(const Store &store, int row) {
 
 } // namespace
 
-QStringList ranglisteZeilen(const Store &store) {
+QStringList rankingLines(const Store &store) {
   QStringList lines;
-  for (const int place : store.rangliste.RangListe.rows()) {
-    const int row = store.rangliste.RangListe[place];
+  for (const int place : store.ranking.RangListe.rows()) {
+    const int row = store.ranking.RangListe[place];
     const TeilnehmerZeile &participant = store.Teilnehmer[row];
     if (participant.StartNr != 0 && statusSum(participant) <= 0)
-      lines.append(ranglisteZeile(store, row));
+      lines.append(rankingLine(store, row));
   }
   return lines;
 }
 
-QStringList klassenNamen(const Store &store) {
+QStringList classNames(const Store &store) {
   QStringList names;
   for (int klasse = 1; klasse <= 20; ++klasse)
     names.append(store.KlasseName[klasse]);

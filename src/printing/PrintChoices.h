@@ -5,6 +5,6 @@
 // What the print screen offers to choose from.
 
 /// The ranked participants of the last ErgebnisRechnen: place, name, exact class; a line ends in the participant row.
-QStringList ranglisteZeilen(const Store &store);
+QStringList rankingLines(const Store &store);
 /// The names of the classes 1 to 20, blank ones included.
-QStringList klassenNamen(const Store &store);
+QStringList classNames(const Store &store);

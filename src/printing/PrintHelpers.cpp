@@ -16,7 +16,7 @@ void printCentred(Druckschicht &druck, const QString &text, double middle) {
 
 } // namespace
 
-void Dokumentanfang(const Store &store, Druckschicht &druck, const QString &name, const QString &person) {
+void beginDocument(const Store &store, Druckschicht &druck, const QString &name, const QString &person) {
   QStringList title{trimmedBlanks(shownText(store.Rennen.RennenName)), name, trimmedBlanks(shownText(person))};
   title.removeAll(QString());
   druck.ScaleMode = Druckschicht::Scale::Millimetres;
@@ -63,13 +63,13 @@ QString ZeitDruckText(const Druckschicht &druck, double seconds) {
   return inTimeColumn(druck, ZeitText(seconds));
 }
 
-void TitelAnpassen(Druckschicht &druck, const QString &title, double limit) {
+void fitTitle(Druckschicht &druck, const QString &title, double limit) {
   druck.FontSize = 24;
   while (druck.FontSize > 1 && double(druck.TextWidth(title)) > limit)
     druck.FontSize -= 1;
 }
 
-void LogoDrucken(Druckschicht &druck, double x, double y) {
+void printLogo(Druckschicht &druck, double x, double y) {
   const QString path = QStringLiteral("Logo.jpg");
   if (QFile::exists(path))
     druck.PaintPicture(druck.LoadPicture(path), x, y, 35, 18);

@@ -7,7 +7,7 @@
 // caller's.
 
 /// Begins a document of the open race; `person` is whose it is, if it is somebody's.
-void Dokumentanfang(const Store &store, Druckschicht &druck, const QString &name, const QString &person = {});
+void beginDocument(const Store &store, Druckschicht &druck, const QString &name, const QString &person = {});
 
 /// A rectangle as four black lines.
 void Rahmen(Druckschicht &druck, double x1, double y1, double x2, double y2);
@@ -27,7 +27,7 @@ QString inTimeColumn(const Druckschicht &druck, const QString &time);
 QString ZeitDruckText(const Druckschicht &druck, double seconds);
 
 /// Sets size 24, or the largest whole size below at which the title is no wider than `limit` millimetres; 1 at least.
-void TitelAnpassen(Druckschicht &druck, const QString &title, double limit);
+void fitTitle(Druckschicht &druck, const QString &title, double limit);
 
 /// The organiser's own picture "Logo.jpg" in the working folder, 35 by 18 mm, if there is one.
-void LogoDrucken(Druckschicht &druck, double x, double y);
+void printLogo(Druckschicht &druck, double x, double y);

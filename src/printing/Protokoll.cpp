@@ -3,7 +3,7 @@
 #include "exchange/TableReader.h"
 #include "platform/Files.h"
 #include "platform/Numbers.h"
-#include "printing/ListRows.h"
+#include "printing/ListLines.h"
 #include "printing/PrintHelpers.h"
 #include "printing/Seitenkopf.h"
 
@@ -15,7 +15,7 @@ namespace {
 
 /// Columns of a journal file, and how many a line has.
 enum Field { TimeOfDay, Race, StartNr, Name, What, Before, After, Fields };
-constexpr int RowsAPage = 52, DateLength = 10;
+constexpr int LinesAPage = 52, DateLength = 10;
 constexpr qsizetype LongestCell = 34;
 
 /// A line of the journal and its day.
@@ -23,16 +23,16 @@ struct Entry {
   QString day;
   QStringList fields;
 };
-using Columns = QList<Spalte<Entry>>;
+using Columns = QList<Column<Entry>>;
 
-Spalte<Entry> column(const char *head, double x, Field field) {
-  return {QString::fromUtf8(head), x, Ausrichtung::Links, 8,
+Column<Entry> column(const char *head, double x, Field field) {
+  return {QString::fromUtf8(head), x, Alignment::Left, 8,
           [field](const Entry &entry) { return entry.fields[field].left(LongestCell); }};
 }
 
 Columns columns() {
   const auto when = [](const Entry &entry) { return entry.day + QLatin1Char(' ') + entry.fields[TimeOfDay]; };
-  return {{QStringLiteral("Zeitpunkt"), 6, Ausrichtung::Links, 8, when},
+  return {{QStringLiteral("Zeitpunkt"), 6, Alignment::Left, 8, when},
           column("St.Nr.", 36, StartNr),
           column("Name", 48, Name),
           column("Was", 96, What),
@@ -75,18 +75,18 @@ QList<Entry> entriesOf(const QString &folder, int race) {
 } // namespace
 
 void Protokoll(const Store &store, Druckschicht &druck, int race) {
-  static const Listenkopf head{QStringLiteral("Protokoll")};
-  Dokumentanfang(store, druck, head.name);
+  static const ListHead head{QStringLiteral("Protokoll")};
+  beginDocument(store, druck, head.name);
   const Columns all = columns();
-  int page = 0, row = 0;
+  int page = 0, line = 0;
   Seitenkopf(store, druck, head, all, page);
   for (const Entry &entry : entriesOf(store.DatenOrdner + QStringLiteral("Protokoll"), race)) {
-    if (++row > RowsAPage) {
+    if (++line > LinesAPage) {
       druck.NewPage();
       Seitenkopf(store, druck, head, all, page);
-      row = 1;
+      line = 1;
     }
-    printListRow(druck, all, entry, gitterY(row));
+    printListLine(druck, all, entry, gridY(line));
   }
   druck.EndDoc();
 }

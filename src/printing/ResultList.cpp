@@ -17,13 +17,13 @@ class ResultList {
 public:
   ResultList(const Store &store, Druckschicht &druck, bool combined, QString club)
       : m_store(store), m_druck(druck), m_combined(combined), m_club(std::move(club)),
-        m_columns(combined ? kombinationSpalten(store) : ergebnisSpalten(store)) {}
+        m_columns(combined ? combinedColumns(store) : resultColumns(store)) {}
 
   void print() {
-    Dokumentanfang(m_store, m_druck, listHead().name);
+    beginDocument(m_store, m_druck, listHead().name);
     printHead();
-    for (const int place : m_store.rangliste.RangListe.rows()) {
-      const int row = m_store.rangliste.RangListe[place];
+    for (const int place : m_store.ranking.RangListe.rows()) {
+      const int row = m_store.ranking.RangListe[place];
       const auto &participant = m_store.Teilnehmer[row];
       if (participant.StartNr == 0)
         break;
@@ -37,19 +37,17 @@ public:
   }
 
 private:
-  const Listenkopf &listHead() const {
-    return m_combined ? Listenkoepfe::ergebnislisteKombination() : Listenkoepfe::ergebnisliste();
-  }
+  const ListHead &listHead() const { return m_combined ? ListHeads::combinedResults() : ListHeads::results(); }
 
   void printHead() { Seitenkopf(m_store, m_druck, listHead(), m_columns, m_page, m_club); }
 
-  // One empty row stands above each band but the first. On the combined list a band that broke the page is drawn a
-  // second time on the row below; this is meant.
+  // One empty line stands above each band but the first. On the combined list a band that broke the page is drawn a
+  // second time on the line below; this is meant.
   void startSection(const TeilnehmerZeile &participant) {
     if (m_bands++ == 0)
       --m_line;
     m_line += 2;
-    if (seiteVoll(m_druck, m_line, BandLimit)) {
+    if (isPageFull(m_druck, m_line, BandLimit)) {
       breakPage(participant);
       if (!m_combined)
         return;
@@ -72,9 +70,9 @@ private:
 
   void printRow(int row) {
     ++m_line;
-    if (seiteVoll(m_druck, m_line, RowLimit))
+    if (isPageFull(m_druck, m_line, LineLimit))
       breakPage(m_store.Teilnehmer[row]);
-    printListRow(m_druck, m_columns, listRow(m_store, row), gitterY(m_line));
+    printListLine(m_druck, m_columns, listLine(m_store, row), gridY(m_line));
   }
 
   const Store &m_store;
@@ -95,8 +93,8 @@ QString clubSuffix(const Store &store, std::optional<int> club) {
 
 void Ergebnisliste(Store &store, Druckschicht &druck, std::optional<int> club) {
   ErgebnisRechnen(store, club);
-  const bool combined = hatSingleTimes(store);
+  const bool combined = hasSingleTimes(store);
   if (combined)
-    singleTimesLaden(store);
+    loadSingleTimes(store);
   ResultList(store, druck, combined, clubSuffix(store, club)).print();
 }

@@ -6,18 +6,18 @@
 
 namespace {
 
-Listenkopf classList(const QString &name, bool logo, double pageSize = 8) {
+ListHead classList(const QString &name, bool logo, double pageSize = 8) {
   return {name, true, 98, true, logo, 10, 38, pageSize};
 }
 
-void printTitle(const Store &store, Druckschicht &druck, const Listenkopf &kopf) {
-  const bool kurz = kopf.kurzerTitel && !store.Rennen.RennenKurz.isEmpty();
-  const QString &title = kurz ? store.Rennen.RennenKurz : store.Rennen.RennenName;
+void printTitle(const Store &store, Druckschicht &druck, const ListHead &head) {
+  const bool isShort = head.shortTitle && !store.Rennen.RennenKurz.isEmpty();
+  const QString &title = isShort ? store.Rennen.RennenKurz : store.Rennen.RennenName;
   druck.FontName = QStringLiteral("Arial");
   druck.CurrentX = 22;
   druck.CurrentY = 12;
   druck.FontBold = druck.FontItalic = true;
-  TitelAnpassen(druck, title, kopf.titelGrenze);
+  fitTitle(druck, title, head.titleLimit);
   druck.Print(title);
 }
 
@@ -37,54 +37,54 @@ void paintPictures(Druckschicht &druck) {
 
 } // namespace
 
-const Listenkopf &Listenkoepfe::ergebnisliste() {
-  static const Listenkopf kopf = classList(QStringLiteral("Ergebnisliste"), true);
-  return kopf;
+const ListHead &ListHeads::results() {
+  static const ListHead head = classList(QStringLiteral("Ergebnisliste"), true);
+  return head;
 }
 
-const Listenkopf &Listenkoepfe::ergebnislisteKombination() {
-  static const Listenkopf kopf = classList(QStringLiteral("Ergebnisliste Kombination"), true, 9);
-  return kopf;
+const ListHead &ListHeads::combinedResults() {
+  static const ListHead head = classList(QStringLiteral("Ergebnisliste Kombination"), true, 9);
+  return head;
 }
 
-const Listenkopf &Listenkoepfe::teilnehmerliste() {
-  static const Listenkopf kopf = classList(QStringLiteral("Teilnehmerliste"), false);
-  return kopf;
+const ListHead &ListHeads::participants() {
+  static const ListHead head = classList(QStringLiteral("Teilnehmerliste"), false);
+  return head;
 }
 
-const Listenkopf &Listenkoepfe::alphabetischeListe() {
-  static const Listenkopf kopf = classList(QStringLiteral("Alphabetische Teilnehmerliste"), false);
-  return kopf;
+const ListHead &ListHeads::alphabetic() {
+  static const ListHead head = classList(QStringLiteral("Alphabetische Teilnehmerliste"), false);
+  return head;
 }
 
-const Listenkopf &Listenkoepfe::startlisteZweiterDurchgang() {
-  static const Listenkopf kopf{QStringLiteral("Startliste 2.Durchgang")};
-  return kopf;
+const ListHead &ListHeads::secondRun() {
+  static const ListHead head{QStringLiteral("Startliste 2.Durchgang")};
+  return head;
 }
 
-const Listenkopf &Listenkoepfe::nichtInDerWertung() {
-  static const Listenkopf kopf{QStringLiteral("Nicht in der Wertung")};
-  return kopf;
+const ListHead &ListHeads::unranked() {
+  static const ListHead head{QStringLiteral("Nicht in der Wertung")};
+  return head;
 }
 
 // Italic stays on down to the date: that is meant.
-void Kopfbeginn(const Store &store, Druckschicht &druck, const Listenkopf &kopf, int seite, const QString &zusatz) {
-  printTitle(store, druck, kopf);
-  printAt(druck, 22, 22, 18, kopf.name + zusatz);
-  printAt(druck, 175, 12, kopf.seiteGroesse, QStringLiteral("Seite -") + plainText(seite));
-  printAt(druck, 175, 25, 7, shortDate(store.umgebung.heute()));
+void beginHead(const Store &store, Druckschicht &druck, const ListHead &head, int page, const QString &suffix) {
+  printTitle(store, druck, head);
+  printAt(druck, 22, 22, 18, head.name + suffix);
+  printAt(druck, 175, 12, head.pageSize, QStringLiteral("Seite -") + plainText(page));
+  printAt(druck, 175, 25, 7, shortDate(store.umgebung.today()));
   druck.DrawWidth = 5;
   Rahmen(druck, 20, 10, 190, 30);
-  if (kopf.bilder)
+  if (head.pictures)
     paintPictures(druck);
   druck.DrawWidth = 1;
   druck.FontItalic = false;
-  druck.FontSize = kopf.spaltenGroesse;
+  druck.FontSize = head.columnSize;
   druck.FontBold = true;
 }
 
-void Kopfende(Druckschicht &druck, const Listenkopf &kopf) {
+void endHead(Druckschicht &druck, const ListHead &head) {
   druck.FontBold = false;
-  if (kopf.logo)
-    LogoDrucken(druck, 120, 11);
+  if (head.logo)
+    printLogo(druck, 120, 11);
 }

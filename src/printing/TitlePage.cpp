@@ -105,23 +105,23 @@ void printFoot(const Store &store, Druckschicht &druck, bool banners) {
   druck.CurrentX = 185;
   druck.CurrentY = 278;
   RechtsDrucken(druck,
-                trimmedBlanks(store.Rennen.RennenOrt) + QStringLiteral(", am ") + shortDate(store.umgebung.heute()));
+                trimmedBlanks(store.Rennen.RennenOrt) + QStringLiteral(", am ") + shortDate(store.umgebung.today()));
 }
 
-void printBanner(const Store &store, Druckschicht &druck, const Werbebanner &banner) {
-  const QString path = store.DatenOrdner + banner.datei;
-  if (!banner.gewaehlt || banner.datei.isEmpty() || !QFile::exists(path))
+void printBanner(const Store &store, Druckschicht &druck, const SponsorBanner &banner) {
+  const QString path = store.DatenOrdner + banner.file;
+  if (!banner.chosen || banner.file.isEmpty() || !QFile::exists(path))
     return;
   const PrintPicture picture = druck.LoadPicture(path);
-  const double scale = leadingNumber(banner.groesse) / 100;
-  druck.PaintPicture(picture, leadingNumber(banner.rechts), leadingNumber(banner.runter), picture.width() * scale,
+  const double scale = leadingNumber(banner.size) / 100;
+  druck.PaintPicture(picture, leadingNumber(banner.right), leadingNumber(banner.down), picture.width() * scale,
                      picture.height() * scale);
 }
 
 } // namespace
 
 void Titelblatt(const Store &store, Druckschicht &druck, const Werbung &werbung) {
-  Dokumentanfang(store, druck, QStringLiteral("Titelblatt"));
+  beginDocument(store, druck, QStringLiteral("Titelblatt"));
   Deckkopf(store, druck);
   druck.FontSize = 48;
   druck.CurrentY = 70;
@@ -131,10 +131,10 @@ void Titelblatt(const Store &store, Druckschicht &druck, const Werbung &werbung)
   druck.FontSize = 12;
   printOfficials(store.Rennen, druck);
   printCounts(store, druck);
-  const bool banners = std::any_of(werbung.begin(), werbung.end(), [](const Werbebanner &b) { return b.gewaehlt; });
+  const bool banners = std::any_of(werbung.begin(), werbung.end(), [](const SponsorBanner &b) { return b.chosen; });
   printSignatures(druck, banners);
   printFoot(store, druck, banners);
-  for (const Werbebanner &banner : werbung)
+  for (const SponsorBanner &banner : werbung)
     printBanner(store, druck, banner);
   druck.EndDoc();
 }

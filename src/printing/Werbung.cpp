@@ -12,7 +12,7 @@ QString bannerFile(const Store &store) {
 
 Werbung builtIn() {
   struct Place {
-    const char *rechts, *runter, *groesse;
+    const char *right, *down, *size;
   };
   constexpr Place places[] = {{"20", "235", "100"}, {"56", "235", "100"}, {"100", "235", "100"}, {"135", "250", "100"},
                               {"20", "258", "60"},  {"53", "260", "120"}, {"85", "255", "100"},  {"116", "267", "100"}};
@@ -20,26 +20,26 @@ Werbung builtIn() {
   int i = 0;
   for (auto &banner : werbung) {
     const Place &place = places[i++];
-    banner = {false, QStringLiteral("werbung%1.jpg").arg(i), QString::fromLatin1(place.rechts),
-              QString::fromLatin1(place.runter), QString::fromLatin1(place.groesse)};
+    banner = {false, QStringLiteral("werbung%1.jpg").arg(i), QString::fromLatin1(place.right),
+              QString::fromLatin1(place.down), QString::fromLatin1(place.size)};
   }
   return werbung;
 }
 
-void readBanner(TextReader &file, Werbebanner &banner) {
-  QString gewaehlt = banner.gewaehlt ? QStringLiteral("1") : QStringLiteral("0");
-  file.lineInto(gewaehlt);
-  banner.gewaehlt = wholeNumber(gewaehlt) != 0;
-  for (QString *text : {&banner.datei, &banner.rechts, &banner.runter, &banner.groesse})
+void readBanner(TextReader &file, SponsorBanner &banner) {
+  QString chosen = banner.chosen ? QStringLiteral("1") : QStringLiteral("0");
+  file.lineInto(chosen);
+  banner.chosen = wholeNumber(chosen) != 0;
+  for (QString *text : {&banner.file, &banner.right, &banner.down, &banner.size})
     file.lineInto(*text);
-  banner.rechts = WerbeGrenzen::rechts.held(banner.rechts);
-  banner.runter = WerbeGrenzen::runter.held(banner.runter);
-  banner.groesse = WerbeGrenzen::groesse.held(banner.groesse);
+  banner.right = BannerFields::right.held(banner.right);
+  banner.down = BannerFields::down.held(banner.down);
+  banner.size = BannerFields::size.held(banner.size);
 }
 
 } // namespace
 
-QString WerbeGrenze::held(const QString &text) const {
+QString BannerRange::held(const QString &text) const {
   const double number = leadingNumber(text);
   const bool isNumber = number != 0 || trimmedBlanks(text).startsWith(QLatin1Char('0'));
   if (!isNumber || number < lowest)
@@ -47,7 +47,7 @@ QString WerbeGrenze::held(const QString &text) const {
   return number > highest ? plainText(highest) : text;
 }
 
-Werbung WerbungLesen(const Store &store) {
+Werbung loadBanners(const Store &store) {
   Werbung werbung = builtIn();
   auto file = TextReader::ifThere(bannerFile(store));
   if (!file)
@@ -57,16 +57,16 @@ Werbung WerbungLesen(const Store &store) {
   return werbung;
 }
 
-QByteArray werbungBytes(const Werbung &werbung) {
+QByteArray bannerBytes(const Werbung &werbung) {
   TextWriter file;
   for (const auto &banner : werbung) {
-    file.number(banner.gewaehlt ? 1 : 0);
-    for (const QString &text : {banner.datei, banner.rechts, banner.runter, banner.groesse})
+    file.number(banner.chosen ? 1 : 0);
+    for (const QString &text : {banner.file, banner.right, banner.down, banner.size})
       file.text(text);
   }
   return file.bytes();
 }
 
-void WerbungSchreiben(const Store &store, const Werbung &werbung) {
-  replaceFile(bannerFile(store), werbungBytes(werbung));
+void saveBanners(const Store &store, const Werbung &werbung) {
+  replaceFile(bannerFile(store), bannerBytes(werbung));
 }

@@ -21,7 +21,7 @@ int lastNamedRow(const Store &store) {
 }
 
 void setOuterLimits(Store &store, int last) {
-  store.KlasseBis[1] = store.umgebung.heute().year();
+  store.KlasseBis[1] = store.umgebung.today().year();
   if (last > 0)
     store.KlasseVon[last] = FirstYear;
 }
@@ -80,6 +80,6 @@ int heldClassNumber(const QString &text) {
 }
 
 int heldYear(const Store &store, const QString &text) {
-  const qint64 year = std::min<qint64>(wholeNumber(text), store.umgebung.heute().year());
+  const qint64 year = std::min<qint64>(wholeNumber(text), store.umgebung.today().year());
   return int(std::max<qint64>(year, FirstYear));
 }

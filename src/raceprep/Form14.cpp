@@ -53,11 +53,11 @@ void Form14::setSurcharge(QLineEdit *text, double &field) {
     if (const auto seconds = typedNumber(text->text()))
       field = *seconds;
     else
-      m_store.umgebung.piep();
+      m_store.umgebung.beep();
     text->setText(plainText(field));
   });
 }
 
 void Form14::closing() {
-  rennsatzSpeichern(m_store);
+  writeOpenRace(m_store);
 }

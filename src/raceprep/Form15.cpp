@@ -140,7 +140,7 @@ void Form15::selectCell(int cell) {
   ui->Label5->setText(plainText(cell));
   const bool numbered = m_raster[cell] >= 1;
   if (!numberCell(m_raster, cell))
-    m_store.umgebung.piep();
+    m_store.umgebung.beep();
   else if (!numbered)
     showNumber(cell);
   showSelected();
@@ -178,7 +178,7 @@ void Form15::storeNumber() {
   if (const auto number = shortNumber(ui->Text2->text()))
     m_raster[selected()] = *number;
   else
-    m_store.umgebung.piep();
+    m_store.umgebung.beep();
 }
 
 void Form15::askToClear(bool ask) {

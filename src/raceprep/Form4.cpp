@@ -19,7 +19,7 @@ Form4::Form4(Desk &desk, Store &store, Printers &printers)
   connectRegister();
   for (const auto &function : functions())
     connectFunction(function);
-  listeFuellen();
+  refillRaces();
   ui->List1->setFocus();
 }
 
@@ -28,11 +28,11 @@ Form4::~Form4() = default;
 void Form4::connectRegister() {
   connect(ui->Text1, &QLineEdit::textChanged, this, &Form4::openRace);
   connect(ui->Command2, &QPushButton::clicked, this,
-          [this] { ui->Text1->setText(vorherigesRennen(m_store, ui->Text1->text())); });
+          [this] { ui->Text1->setText(previousRaceText(m_store, ui->Text1->text())); });
   connect(ui->Command3, &QPushButton::clicked, this, &Form4::nextRace);
   connect(ui->Command7, &QPushButton::clicked, this, &Form4::enterName);
   connect(ui->Command9, &QPushButton::clicked, this, &Form4::askDeletion);
-  connect(ui->List1, &LineList::chosen, this, [this](int line) { waehlen(rennenNummer(ui->List1->lines()[line])); });
+  connect(ui->List1, &LineList::chosen, this, [this](int line) { chooseRace(raceOfLine(ui->List1->lines()[line])); });
   connect(ui->Command1, &QPushButton::clicked, this, [this] {
     RennenSchliessen(m_store);
     close();
@@ -54,14 +54,14 @@ QList<Form4::Function> Form4::functions() const {
 void Form4::connectFunction(const Function &function) {
   connect(function.button, &QPushButton::clicked, this, [this, function] {
     if (isReady(function))
-      Q_EMIT oeffnet(function.screen);
+      Q_EMIT openRequested(function.screen);
   });
 }
 
 bool Form4::isReady(const Function &function) const {
   if (function.button == ui->Command8 && m_printers.isEmpty())
     return false;
-  return !function.needsName || !trimmedBlanks(bezeichnung()).isEmpty();
+  return !function.needsName || !trimmedBlanks(typedName()).isEmpty();
 }
 
 void Form4::becomeActive() {
@@ -75,43 +75,43 @@ QString Form4::waiting() const {
   return QStringLiteral("%1: %2 „%3“\n").arg(windowTitle(), ui->Text2->accessibleName(), typed);
 }
 
-void Form4::waehlen(int nummer) {
-  ui->Text1->setText(plainText(nummer));
+void Form4::chooseRace(int number) {
+  ui->Text1->setText(plainText(number));
 }
 
-QString Form4::bezeichnung() const {
+QString Form4::typedName() const {
   return RecordText::of(ui->Text2);
 }
 
 // The emptied list is painted before the records are read; clicks and keys wait.
-void Form4::listeFuellen() {
+void Form4::refillRaces() {
   ui->List1->fill({});
   ui->List1->viewport()->repaint();
   ui->List1->fill(RennenListeFuellen(m_store));
 }
 
-void Form4::geloeschtZeigen() {
-  listeFuellen();
+void Form4::showDeleted() {
+  refillRaces();
   ui->Text2->setText(QStringLiteral("leer"));
   m_shownName = ui->Text2->text();
 }
 
 // A number out of range stays as it was typed.
 void Form4::openRace() {
-  rennenOeffnen(m_store, ui->Text1->text());
+  openRaceNumbered(m_store, ui->Text1->text());
   RecordText::show(ui->Text2, m_store.Rennen.RennenName);
   m_shownName = ui->Text2->text();
 }
 
 void Form4::nextRace() {
-  if (const auto next = naechstesRennen(m_store, ui->Text1->text(), bezeichnung()))
+  if (const auto next = nextRaceText(m_store, ui->Text1->text(), typedName()))
     ui->Text1->setText(*next);
 }
 
 void Form4::enterName() {
-  rennenEintragen(m_store, bezeichnung());
+  enterRaceName(m_store, typedName());
   m_shownName = ui->Text2->text();
-  listeFuellen();
+  refillRaces();
   lockFunctions(false);
 }
 
@@ -119,7 +119,7 @@ void Form4::askDeletion() {
   if (m_store.RennenIdx < 1 || m_store.RennenIdx > m_store.RennenAnzahl)
     return;
   m_store.AktRennen = m_store.RennenIdx;
-  Q_EMIT oeffnet(QStringLiteral("Form9"));
+  Q_EMIT openRequested(QStringLiteral("Form9"));
 }
 
 void Form4::lockFunctions(bool locked) {

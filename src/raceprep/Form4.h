@@ -29,16 +29,16 @@ public:
   /// A name that was typed and not "eingetragen".
   QString waiting() const override;
   /// Puts a number into `Text1`, which opens that race.
-  void waehlen(int nummer);
+  void chooseRace(int number);
   /// The name as it stands in `Text2`.
-  QString bezeichnung() const;
-  void listeFuellen();
+  QString typedName() const;
+  void refillRaces();
   /// After the open race has been deleted: the list anew, and the word "leer" as its name.
-  void geloeschtZeigen();
+  void showDeleted();
 
 Q_SIGNALS:
   /// Another screen is to be opened, by its object name.
-  void oeffnet(const QString &screen);
+  void openRequested(const QString &screen);
 
 protected:
   bool eventFilter(QObject *watched, QEvent *event) override;

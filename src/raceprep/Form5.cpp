@@ -33,12 +33,11 @@ void Form5::connectAthletes() {
     ui->Text1->clear();
     fillAthletes();
   });
-  connect(ui->Command5, &QPushButton::clicked, this, [this] { Q_EMIT neuaufnahme(ui->Text1->text()); });
+  connect(ui->Command5, &QPushButton::clicked, this, [this] { Q_EMIT newEntryRequested(ui->Text1->text()); });
   connect(ui->List1, &LineList::chosen, this, [this](int line) { showAthlete(numberAtEnd(ui->List1->lines()[line])); });
   connect(ui->List1, &LineList::doubleChosen, this, [this] { openAthlete(); });
   onReturn(ui->List1, [this] { openAthlete(); });
-  ui->List1->addAction(QStringLiteral("Meldungen aus Tabelle einlesen …"), this,
-                       [this] { Q_EMIT meldungenGewuenscht(); });
+  ui->List1->addAction(QStringLiteral("Meldungen aus Tabelle einlesen …"), this, [this] { Q_EMIT entriesRequested(); });
   connect(ui->Command2, &QPushButton::clicked, this, &Form5::add);
 }
 
@@ -73,7 +72,7 @@ void Form5::becomeActive() {
   fillParticipants();
 }
 
-void Form5::meldungenZeigen() {
+void Form5::showEntered() {
   fillAthletes();
   fillParticipants();
 }
@@ -106,7 +105,7 @@ void Form5::showParticipant(const QString &line) {
 
 void Form5::openAthlete() {
   if (const int line = ui->List1->chosenLine(); line >= 0)
-    Q_EMIT athletGewaehlt(numberAtEnd(ui->List1->lines()[line]));
+    Q_EMIT athleteChosen(numberAtEnd(ui->List1->lines()[line]));
 }
 
 void Form5::openParticipant() {
@@ -114,7 +113,7 @@ void Form5::openParticipant() {
   if (line < 0)
     return;
   ui->Label7->setText(plainText(rowOfLine(ui->List2->lines()[line])));
-  Q_EMIT teilnehmerGewaehlt(rowOfLine(ui->List2->lines()[line]));
+  Q_EMIT participantChosen(rowOfLine(ui->List2->lines()[line]));
 }
 
 void Form5::add() {
@@ -132,7 +131,7 @@ void Form5::remove() {
   removeParticipant(m_store, int(wholeNumber(ui->Label7->text())));
   fillParticipants();
   ui->List2->startKeysAt(line);
-  Q_EMIT teilnehmerGeloescht();
+  Q_EMIT participantDeleted();
 }
 
 // A field of a screen on top of this one is stored before the race is.

@@ -26,19 +26,19 @@ public:
   /// Fills the participants anew, and the register if it is filtered.
   void becomeActive() override;
   /// Shows what a table of entries has brought.
-  void meldungenZeigen();
+  void showEntered();
 
 Q_SIGNALS:
   /// A double click on an athlete: the register is to open on this record.
-  void athletGewaehlt(int record);
+  void athleteChosen(int record);
   /// A double click on a participant: the start numbers are to open on this table row.
-  void teilnehmerGewaehlt(int row);
+  void participantChosen(int row);
   /// The register is to open for a new entry of this name.
-  void neuaufnahme(const QString &name);
+  void newEntryRequested(const QString &name);
   /// A table of entries is to be read.
-  void meldungenGewuenscht();
+  void entriesRequested();
   /// A participant was deleted and the rows behind him moved up.
-  void teilnehmerGeloescht();
+  void participantDeleted();
 
 protected:
   void closing() override;

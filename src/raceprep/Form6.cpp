@@ -49,7 +49,7 @@ Form6::Form6(Desk &desk, Store &store)
   showNobody();
   fillList();
   fillCombos();
-  ui->Command6->setEnabled(startNummernVorhanden(store));
+  ui->Command6->setEnabled(offersDeletion(store));
   connectParticipant();
   connectDraw();
   connectClassRun();
@@ -221,9 +221,9 @@ void Form6::storeNumber() {
     return;
   const auto number = shortNumber(ui->Text1->text());
   if (!number)
-    return m_store.umgebung.piep();
+    return m_store.umgebung.beep();
   // The own number counts as in use too, on purpose: red without harm.
-  if (startNrVergeben(m_store, *number)) {
+  if (isNumberTaken(m_store, *number)) {
     showNumberIs(InUse, QStringLiteral("schon vergeben"));
     return;
   }
@@ -238,30 +238,30 @@ void Form6::draw() {
   offerDraw(false);
   const auto reserve = shortNumber(ui->Text2->text());
   if (!reserve)
-    return m_store.umgebung.piep();
-  ui->List2->fill(nummernAuslosen(m_store, *reserve));
+    return m_store.umgebung.beep();
+  ui->List2->fill(drawNumbersForAll(m_store, *reserve));
   fillList();
 }
 
 void Form6::numberClass() {
   endClassRun();
-  ui->List2->fill(nummernFuerKlasse(m_store, ui->Combo2->currentIndex() + 1, ersteNummer(ui->Text3->text()),
-                                    wholeNumber(ui->Text2->text())));
+  ui->List2->fill(numbersForClass(m_store, ui->Combo2->currentIndex() + 1, firstNumber(ui->Text3->text()),
+                                  wholeNumber(ui->Text2->text())));
   fillList();
 }
 
 void Form6::deleteNumbers() {
   setControlEnabled(ui->Command6, false, ui->List1);
   offerDeletion(false);
-  startNummernLoeschen(m_store);
+  deleteAllNumbers(m_store);
   fillList();
 }
 
-void Form6::teilnehmerWaehlen(int row) {
+void Form6::chooseParticipant(int row) {
   for (QLabel *label : std::initializer_list<QLabel *>{ui->Label5, ui->Label16, ui->Label14, ui->Label13})
     label->hide();
   if (ui->List1->lineOfNumber(row) < 0) // it may have been filled before he was added
-    zeilenVerschoben();
+    rowsMoved();
   const int line = ui->List1->lineOfNumber(row);
   if (line < 0)
     return;
@@ -269,7 +269,7 @@ void Form6::teilnehmerWaehlen(int row) {
   showLine(line);
 }
 
-void Form6::zeilenVerschoben() {
+void Form6::rowsMoved() {
   ui->List1->setFocus();
   showNobody();
   fillList();

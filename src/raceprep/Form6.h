@@ -33,11 +33,11 @@ public:
   /// For the participant list: hides the class, which may not be current then, and shows the participant of a table row
   /// as a click would. Where the list does not know the row it is filled anew; nobody is selected if that does not
   /// help.
-  void teilnehmerWaehlen(int row);
+  void chooseParticipant(int row);
   QString subject() const override;
   /// For the participant list after it deleted a row, since all rows behind it have moved up: back to nobody selected,
   /// and `List1` anew.
-  void zeilenVerschoben();
+  void rowsMoved();
 
 protected:
   void closing() override;

@@ -9,8 +9,8 @@ Form9::Form9(Desk &desk, Store &store) : Screen(desk, QStringLiteral("Form9"), 9
   setUp();
   ui->Label1->setText(shownText(store.Rennen.RennenName));
   connect(ui->Command1, &QPushButton::clicked, this, [this, &store] {
-    rennenLoeschen(store);
-    Q_EMIT geloescht();
+    eraseRace(store);
+    Q_EMIT raceDeleted();
     close();
   });
   connect(ui->Command2, &QPushButton::clicked, this, &Form9::close);

@@ -20,7 +20,7 @@ public:
 
 Q_SIGNALS:
   /// The open race has been deleted: the list of races must be filled anew.
-  void geloescht();
+  void raceDeleted();
 
 private:
   std::unique_ptr<Ui::Form9> ui;

@@ -107,7 +107,7 @@ void addParticipant(Store &store, int athlete, int clubCount, int lastSlot) {
   while (row <= LastRow && store.Teilnehmer[row].LaeuferNr != 0)
     ++row;
   if (row > LastRow)
-    return store.umgebung.piep();
+    return store.umgebung.beep();
   store.Teilnehmer[row].LaeuferNr = athlete;
   if (clubCount == 1)
     store.Teilnehmer[row].VereinNr = lastSlot;

@@ -82,8 +82,8 @@ void copyRace(Store &store, int number, const QString &name, bool withResults) {
   files.first().bytes = copiedParticipants(store, withResults);
   RennenSatz record = store.Rennen;
   record.RennenName = QStringLiteral("Kopie v. ") + name;
-  store.vorDemErsetzen(replacingImage(store, number, files, record));
+  store.beforeReplacing(replacingImage(store, number, files, record));
   writeRaceFiles(store, number, files);
   writeRecord(store, number, record);
-  store.nachDemErsetzen();
+  store.afterReplacing();
 }

@@ -17,28 +17,28 @@ void makeRace(Store &store) {
 
 } // namespace
 
-int rennenZuBeginn(const Store &store) {
+int raceToOpenFirst(const Store &store) {
   if (store.AktRennen != 0)
     return store.AktRennen;
   return std::max(store.RennenAnzahl, 1);
 }
 
-void rennenOeffnen(Store &store, const QString &nummer) {
-  const qint64 wanted = std::max<qint64>(wholeNumber(nummer), 1);
+void openRaceNumbered(Store &store, const QString &number) {
+  const qint64 wanted = std::max<qint64>(wholeNumber(number), 1);
   store.RennenIdx = store.AktRennen = int(std::min<qint64>(wanted, store.RennenAnzahl));
   RennenLesen(store);
   RennDatenLaden(store);
 }
 
-QString vorherigesRennen(Store &store, const QString &nummer) {
-  const qint64 before = wholeNumber(nummer) - 1;
+QString previousRaceText(Store &store, const QString &number) {
+  const qint64 before = wholeNumber(number) - 1;
   if (before < 1)
-    store.umgebung.piep();
+    store.umgebung.beep();
   return QString::number(std::max<qint64>(before, 1));
 }
 
-std::optional<QString> naechstesRennen(Store &store, const QString &nummer, const QString &name) {
-  const qint64 next = wholeNumber(nummer) + 1;
+std::optional<QString> nextRaceText(Store &store, const QString &number, const QString &name) {
+  const qint64 next = wholeNumber(number) + 1;
   if (next > store.RennenAnzahl) {
     if (trimmedBlanks(name).isEmpty())
       return {};
@@ -48,7 +48,7 @@ std::optional<QString> naechstesRennen(Store &store, const QString &nummer, cons
 }
 
 // The first name goes into record 1, but the open race stays number 0 until another one is opened; this is meant.
-void rennenEintragen(Store &store, const QString &name) {
+void enterRaceName(Store &store, const QString &name) {
   RennenLesen(store);
   store.Rennen.RennenName = trimmedBlanks(name);
   if (store.RennenIdx == 0)
@@ -56,7 +56,7 @@ void rennenEintragen(Store &store, const QString &name) {
   RennenSchreiben(store);
 }
 
-void rennenLoeschen(Store &store) {
+void eraseRace(Store &store) {
   RennenLeeren(store);
   RennenSchreiben(store);
   QStringList paths;

@@ -42,7 +42,7 @@ void handOut(Store &store, const QStringList &lines, qint64 number, qint64 reser
       number += reserve;
     key = line.left(KeyWidth);
     if (!fitsColumn(number))
-      return store.umgebung.piep();
+      return store.umgebung.beep();
     store.Teilnehmer[numberAtEnd(line)].StartNr = int(number);
   }
 }
@@ -59,16 +59,16 @@ QStringList NummernlisteFuellen(const Store &store) {
 }
 
 // Equal draws of two digits are common and then go by name, which is meant.
-QStringList nummernAuslosen(Store &store, int reserve) {
+QStringList drawNumbersForAll(Store &store, int reserve) {
   const auto everybody = [](const TeilnehmerZeile &) { return true; };
-  const auto draw = [&store] { return masked(int(store.umgebung.zufallszahl() * 100), "0#"); };
+  const auto draw = [&store] { return masked(int(store.umgebung.randomNumber() * 100), "0#"); };
   const QStringList lines = numberingLines(store, everybody, draw);
   handOut(store, lines, 1, reserve);
   return lines;
 }
 
 // Also where the race goes by groups and the operator picks one, the class number is compared; this is meant.
-QStringList nummernFuerKlasse(Store &store, int klasse, qint64 first, qint64 reserve) {
+QStringList numbersForClass(Store &store, int klasse, qint64 first, qint64 reserve) {
   const auto ofClass = [klasse](const TeilnehmerZeile &participant) { return participant.KlasseNr == klasse; };
   const auto noDraw = [] { return QString(); };
   const QStringList lines = numberingLines(store, ofClass, noDraw);
@@ -76,25 +76,25 @@ QStringList nummernFuerKlasse(Store &store, int klasse, qint64 first, qint64 res
   return lines;
 }
 
-qint64 ersteNummer(const QString &text) {
+qint64 firstNumber(const QString &text) {
   return text.isEmpty() ? 1 : wholeNumber(text);
 }
 
-bool startNrVergeben(const Store &store, int startNr) {
+bool isNumberTaken(const Store &store, int startNr) {
   for (const int row : store.Teilnehmer.rows())
     if (store.Teilnehmer[row].StartNr == startNr)
       return true;
   return false;
 }
 
-bool startNummernVorhanden(const Store &store) {
+bool offersDeletion(const Store &store) {
   qint64 sum = 0;
   for (int row = 1; row <= RowsOfDeletion; ++row)
     sum += store.Teilnehmer[row].StartNr;
   return sum > 0;
 }
 
-void startNummernLoeschen(Store &store) {
+void deleteAllNumbers(Store &store) {
   for (const int row : store.Teilnehmer.rows())
     store.Teilnehmer[row].StartNr = 0;
 }

@@ -12,20 +12,20 @@ QStringList NummernlisteFuellen(const Store &store);
 /// at random. `reserve` numbers are left free between two of them; below 0 it counts down.
 /// Leaves `TnIdx` one behind the last line numbered. Gives the lines of the draw in
 /// their order, `Form6.List2`.
-QStringList nummernAuslosen(Store &store, int reserve);
+QStringList drawNumbersForAll(Store &store, int reserve);
 
 /// Numbers the participants of a class from `first` on, by order number and name, without drawing. Numbers that others
 /// have are given again. Ends with a beep at the first number beyond 32 bits. The rest as for the draw.
-QStringList nummernFuerKlasse(Store &store, int klasse, qint64 first, qint64 reserve);
+QStringList numbersForClass(Store &store, int klasse, qint64 first, qint64 reserve);
 
 /// The first number of such a run from the text typed; an empty text gives 1.
-qint64 ersteNummer(const QString &text);
+qint64 firstNumber(const QString &text);
 
 /// Whether any row of the table has the number; free rows count, so 0 is in use unless the table is full.
-bool startNrVergeben(const Store &store, int startNr);
+bool isNumberTaken(const Store &store, int startNr);
 
 /// Whether "alle Startnummern löschen" is offered: whether the sum of the numbers in rows 1 to 50 is above 0. That
 /// numbers further down do not count is meant.
-bool startNummernVorhanden(const Store &store);
+bool offersDeletion(const Store &store);
 
-void startNummernLoeschen(Store &store);
+void deleteAllNumbers(Store &store);

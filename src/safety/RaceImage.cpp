@@ -95,7 +95,7 @@ bool isNews(const RaceImage &image, const SavedFile &file, const Store &store) {
   if (file.name == noteName())
     return false;
   if (file.name == stateName())
-    return raisedCounts(store, zustandAus(file.bytes, file.name)) != countsOnDisk(store);
+    return raisedCounts(store, stateFrom(file.bytes, file.name)) != countsOnDisk(store);
   return isRecord(image, file) ? recordIsNews(image, file, store) : onDisk(image, file, store) != file.bytes;
 }
 
@@ -103,7 +103,7 @@ bool isNews(const RaceImage &image, const SavedFile &file, const Store &store) {
 bool tablesDiffer(int race, const QString &folder, const Store &store) {
   Store scratch(store.umgebung);
   scratch.DatenOrdner = store.DatenOrdner;
-  storeStarten(scratch);
+  startStore(scratch);
   scratch.AktRennen = race;
   scratch.DatenOrdner = folder + QLatin1Char('/');
   RennDatenLaden(scratch);
@@ -129,7 +129,7 @@ bool isCutOff(const RaceImage &image, const SavedFile &file, const Store &store)
 void putBack(const RaceImage &image, const SavedFile &file, const Store &store) {
   const QString path = store.DatenOrdner + file.name;
   if (file.name == stateName())
-    return replaceFile(path, toBytes(raisedCounts(store, zustandAus(file.bytes, file.name))));
+    return replaceFile(path, toBytes(raisedCounts(store, stateFrom(file.bytes, file.name))));
   if (isRecord(image, file)) {
     writeRecord(store, image.race, file.bytes);
     return syncFile(recordFile(store, "Rennen.rec"));
@@ -199,7 +199,7 @@ RaceImage workImage(const Store &store, const QList<SavedFile> &screens) {
     if (image.race >= 1 && store.RennenIdx == image.race)
       image.files.append({recordCopyName(image.race), toBytes(store.Rennen)});
   }
-  image.files.append({stateName(), toBytes(zustand(store))});
+  image.files.append({stateName(), toBytes(stateOf(store))});
   for (const auto &file : screens)
     put(image.files, file);
   return image;

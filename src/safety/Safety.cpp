@@ -165,13 +165,13 @@ QList<RunningCopy::Found> Safety::leftBehind() {
 }
 
 std::optional<Safety::Offer> Safety::lostCounts() {
-  const auto state = readIfThere(zustandDatei(m_store));
+  const auto state = readIfThere(stateFilePath(m_store));
   if (!m_alone || !state || !isCutOff(*state))
     return {};
   try {
     const auto copy = m_copies.newest(QStringLiteral("Vext.dat"));
     const Zustand now = countsOnDisk(m_store);
-    const Zustand counts = copy ? raisedCounts(m_store, zustandAus(*copy, zustandDatei(m_store))) : now;
+    const Zustand counts = copy ? raisedCounts(m_store, stateFrom(*copy, stateFilePath(m_store))) : now;
     if (counts == now)
       return {};
     return Offer{
@@ -179,7 +179,7 @@ std::optional<Safety::Offer> Safety::lostCounts() {
                        "Sicherungskopie zählt: %2. So viele stehen auch in den Dateien.\n\n„Übernehmen“ stellt "
                        "diese Zahlen wieder her.")
             .arg(countsText(now), countsText(counts)),
-        TakeOver, LeaveAll, [this, counts] { replaceFile(zustandDatei(m_store), toBytes(counts)); }, [] {}};
+        TakeOver, LeaveAll, [this, counts] { replaceFile(stateFilePath(m_store), toBytes(counts)); }, [] {}};
   } catch (const Fault &) {
     return {};
   }
@@ -187,10 +187,10 @@ std::optional<Safety::Offer> Safety::lostCounts() {
 
 void Safety::start() {
   if (m_alone) {
-    m_store.vorDemSpeichern = [this] { copyBeforeSave(); };
-    m_store.nachDemSpeichern = [this] { m_copySoon.start(0ms); };
-    m_store.vorDemErsetzen = [this](const RaceImage &image) { beginReplacing(image); };
-    m_store.nachDemErsetzen = [this] { endReplacing(); };
+    m_store.beforeSaving = [this] { copyBeforeSave(); };
+    m_store.afterSaving = [this] { m_copySoon.start(0ms); };
+    m_store.beforeReplacing = [this](const RaceImage &image) { beginReplacing(image); };
+    m_store.afterReplacing = [this] { endReplacing(); };
     listenToWrites();
     addToJournal();
     m_ticks.start();

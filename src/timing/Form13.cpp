@@ -9,11 +9,11 @@ Form13::Form13(Desk &desk, Store &store)
   connect(ui->Command1, &QPushButton::clicked, this, &Form13::close);
   onKey(Qt::Key_Escape, [this] { close(); });
   ui->List2->setFocus();
-  zeigen();
+  showListing();
 }
 
 Form13::~Form13() = default;
 
-void Form13::zeigen() {
-  ui->List2->fill(m_store.rangliste.ErgebnisZeilen);
+void Form13::showListing() {
+  ui->List2->fill(m_store.ranking.ErgebnisZeilen);
 }

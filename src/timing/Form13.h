@@ -19,7 +19,7 @@ public:
   ~Form13() override;
 
   /// Shows the listing as the ranking left it now.
-  void zeigen();
+  void showListing();
 
 private:
   std::unique_ptr<Ui::Form13> ui;

@@ -44,6 +44,6 @@ void Form18::carryOver() {
   const QString difference = ui->Text2->text();
   if (!isTimeToTake(difference))
     return;
-  Q_EMIT uebernommen(difference);
+  Q_EMIT differenceTaken(difference);
   close();
 }

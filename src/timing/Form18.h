@@ -24,7 +24,7 @@ public:
 
 Q_SIGNALS:
   /// The difference in seconds, as plain text.
-  void uebernommen(const QString &zeit);
+  void differenceTaken(const QString &time);
 
 private:
   void subtract();

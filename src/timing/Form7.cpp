@@ -44,8 +44,8 @@ void showPair(QLabel *caption, QLabel *value, bool visible, const QString &text)
 Form7::Form7(Desk &desk, Store &store)
     : Screen(desk, QStringLiteral("Form7"), 7), ui(std::make_unique<Ui::Form7>()), m_store(store) {
   ui->setupUi(this);
-  m_lauf1 = {ui->Text1, {ui->Text2, ui->Text3, ui->Text4}, &TeilnehmerZeile::Zeit1, QStringList(3)};
-  m_lauf2 = {ui->Text6, {ui->Text7, ui->Text8, ui->Text9}, &TeilnehmerZeile::Zeit2, QStringList(3)};
+  m_run1 = {ui->Text1, {ui->Text2, ui->Text3, ui->Text4}, &TeilnehmerZeile::Zeit1, QStringList(3)};
+  m_run2 = {ui->Text6, {ui->Text7, ui->Text8, ui->Text9}, &TeilnehmerZeile::Zeit2, QStringList(3)};
   setUp();
   hideUnused();
   Look::setGround(ui->Label11, QColor(FarbTabelle::Hellgrau));
@@ -94,23 +94,23 @@ void Form7::connectControls() {
   new LineSeek(*ui->List2, [this](const QString &typed) {
     return lineSought(m_store, ui->List2->lines(), typed, ui->List2->chosenLine());
   });
-  connectLauf(m_lauf1, ui->Command4, ui->Command2);
-  connectLauf(m_lauf2, ui->Command1, ui->Command6);
+  connectRun(m_run1, ui->Command4, ui->Command2);
+  connectRun(m_run2, ui->Command1, ui->Command6);
   connectStatus(ui->Combo2, &TeilnehmerZeile::Status1);
   connectStatus(ui->Combo1, &TeilnehmerZeile::Status2);
-  onLeave(ui->Text5, [this] { takePunkte(); });
-  connect(ui->Command5, &QPushButton::clicked, this, &Form7::takePunkte);
+  onLeave(ui->Text5, [this] { takePoints(); });
+  connect(ui->Command5, &QPushButton::clicked, this, &Form7::takePoints);
   connect(ui->Check1, &QCheckBox::clicked, this, &Form7::showResult);
-  connect(ui->Command7, &QPushButton::clicked, this, &Form7::hilfszeitVerlangt);
+  connect(ui->Command7, &QPushButton::clicked, this, &Form7::auxiliaryTimingRequested);
   connect(ui->Command3, &QPushButton::clicked, this, &Form7::close);
 }
 
-void Form7::connectLauf(Lauf &lauf, QPushButton *split, QPushButton *join) {
-  onReturn(lauf.sekunden, [this] { ui->List2->setFocus(); });
-  onLeave(lauf.sekunden, [this, &lauf] { takeTime(lauf); });
-  onLeave(lauf.teile[2], [&lauf] { tidySeconds(lauf.teile[2]); });
-  connect(split, &QPushButton::clicked, this, [this, &lauf] { showParts(lauf, selected().*lauf.zeit); });
-  connect(join, &QPushButton::clicked, this, [this, &lauf] { joinTime(lauf); });
+void Form7::connectRun(RunFields &run, QPushButton *split, QPushButton *join) {
+  onReturn(run.seconds, [this] { ui->List2->setFocus(); });
+  onLeave(run.seconds, [this, &run] { takeTime(run); });
+  onLeave(run.parts[2], [&run] { tidySeconds(run.parts[2]); });
+  connect(split, &QPushButton::clicked, this, [this, &run] { showParts(run, selected().*run.time); });
+  connect(join, &QPushButton::clicked, this, [this, &run] { joinTime(run); });
 }
 
 void Form7::connectStatus(QComboBox *combo, int TeilnehmerZeile::*status) {
@@ -140,8 +140,8 @@ QString Form7::subject() const {
 
 QString Form7::waiting() const {
   QString note;
-  for (const Lauf *lauf : {&m_lauf1, &m_lauf2})
-    if (const QStringList typed = textsOf(lauf->teile); typed != lauf->gezeigt)
+  for (const RunFields *run : {&m_run1, &m_run2})
+    if (const QStringList typed = textsOf(run->parts); typed != run->shown)
       note += QStringLiteral("%1: Std:Min:Sek „%2“ bei %3\n").arg(windowTitle(), typed.join(u':'), subject());
   return note;
 }
@@ -159,7 +159,7 @@ void Form7::refill() {
   list->fill(ZeitlisteFuellen(m_store, mode()));
   list->doItemsLayout();
   list->verticalScrollBar()->setValue(scrolled);
-  Q_EMIT ergebnisGerechnet();
+  Q_EMIT resultComputed();
 }
 
 ListMode Form7::mode() const {
@@ -216,22 +216,22 @@ void Form7::showPerson(const TeilnehmerZeile &participant) {
 }
 
 void Form7::showInputs(const TeilnehmerZeile &participant) {
-  for (Lauf *lauf : {&m_lauf1, &m_lauf2}) {
-    const double time = participant.*lauf->zeit;
-    lauf->sekunden->setText(plainText(time));
-    showParts(*lauf, time);
+  for (RunFields *run : {&m_run1, &m_run2}) {
+    const double time = participant.*run->time;
+    run->seconds->setText(plainText(time));
+    showParts(*run, time);
   }
   ui->Text5->setText(plainText(participant.Punkte));
   chooseStatus(ui->Combo2, participant.Status1);
   chooseStatus(ui->Combo1, participant.Status2);
 }
 
-void Form7::showParts(Lauf &lauf, double time) {
+void Form7::showParts(RunFields &run, double time) {
   const ZeitTeile parts = ZeitZerlegen(time);
-  lauf.teile[0]->setText(plainText(parts.ZeitStd));
-  lauf.teile[1]->setText(plainText(parts.ZeitMin));
-  lauf.teile[2]->setText(plainText(parts.ZeitSek));
-  lauf.gezeigt = textsOf(lauf.teile);
+  run.parts[0]->setText(plainText(parts.ZeitStd));
+  run.parts[1]->setText(plainText(parts.ZeitMin));
+  run.parts[2]->setText(plainText(parts.ZeitSek));
+  run.shown = textsOf(run.parts);
 }
 
 QLineEdit *Form7::timeBox() const {
@@ -248,56 +248,56 @@ TeilnehmerZeile &Form7::selected() {
   return m_store.Teilnehmer[m_store.TnIdx];
 }
 
-void Form7::takeTime(const Lauf &lauf) {
-  const QString typed = KommaEingabe(lauf.sekunden->text());
-  lauf.sekunden->setText(typed);
+void Form7::takeTime(const RunFields &run) {
+  const QString typed = KommaEingabe(run.seconds->text());
+  run.seconds->setText(typed);
   if (const auto time = regionalNumber(typed))
-    store(lauf, *time);
+    store(run, *time);
 }
 
-void Form7::joinTime(Lauf &lauf) {
-  const auto time = joinedTime(lauf.teile[0]->text(), lauf.teile[1]->text(), lauf.teile[2]->text());
-  if (!time || !store(lauf, *time))
+void Form7::joinTime(RunFields &run) {
+  const auto time = joinedTime(run.parts[0]->text(), run.parts[1]->text(), run.parts[2]->text());
+  if (!time || !store(run, *time))
     return;
-  lauf.sekunden->setText(plainText(*time));
-  lauf.gezeigt = textsOf(lauf.teile);
+  run.seconds->setText(plainText(*time));
+  run.shown = textsOf(run.parts);
 }
 
 // With a time that its file could not give back the race would never open again.
-bool Form7::store(const Lauf &lauf, double time) {
+bool Form7::store(const RunFields &run, double time) {
   const bool kept = readsBack(time);
   if (kept)
-    selected().*lauf.zeit = time;
+    selected().*run.time = time;
   else
-    refuse(lauf.sekunden, plainText(selected().*lauf.zeit));
+    refuse(run.seconds, plainText(selected().*run.time));
   return kept;
 }
 
 void Form7::refuse(QLineEdit *field, const QString &before) {
-  m_store.umgebung.piep();
+  m_store.umgebung.beep();
   field->setText(before);
 }
 
 // Reading stops at the decimal comma that the box itself shows, so passing through it cuts the fraction; this is meant.
-void Form7::takePunkte() {
+void Form7::takePoints() {
   if (const auto points = typedSingle(ui->Text5->text()))
     selected().Punkte = *points;
   else
     refuse(ui->Text5, plainText(selected().Punkte));
 }
 
-void Form7::zeitUebernehmen(const QString &zeit) {
-  if (const auto time = regionalNumber(zeit)) {
+void Form7::takeDifference(const QString &difference) {
+  if (const auto time = regionalNumber(difference)) {
     selected().Zeit1 = *time;
-    ui->Text1->setText(zeit);
+    ui->Text1->setText(difference);
     ui->List2->setFocus();
   }
 }
 
 void Form7::showResult(bool open) {
-  Q_EMIT ergebnisVerlangt(open);
+  Q_EMIT resultRequested(open);
   if (!open)
     return;
   ErgebnisRechnen(m_store);
-  Q_EMIT ergebnisGerechnet();
+  Q_EMIT resultComputed();
 }

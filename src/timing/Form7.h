@@ -37,34 +37,34 @@ public:
   /// Hours, minutes and seconds that were typed and not yet made into a time.
   QString waiting() const override;
   /// Takes a time, as plain text, as the first run of the selected participant, also while the second run is worked on.
-  void zeitUebernehmen(const QString &zeit);
+  void takeDifference(const QString &difference);
 
 Q_SIGNALS:
   /// The provisional result is to be opened beside this screen, or closed.
-  void ergebnisVerlangt(bool offen);
+  void resultRequested(bool open);
   /// The ranking ran, so the lines of the provisional result are new.
-  void ergebnisGerechnet();
+  void resultComputed();
   /// The auxiliary timing is to be opened beside this screen.
-  void hilfszeitVerlangt();
+  void auxiliaryTimingRequested();
 
 protected:
   void closing() override;
 
 private:
   /// The controls and columns of one run.
-  struct Lauf {
-    QLineEdit *sekunden;
-    std::array<QLineEdit *, 3> teile;
-    double TeilnehmerZeile::*zeit;
+  struct RunFields {
+    QLineEdit *seconds;
+    std::array<QLineEdit *, 3> parts;
+    double TeilnehmerZeile::*time;
     /// What the three boxes showed before somebody typed into them.
-    QStringList gezeigt;
+    QStringList shown;
   };
 
   void hideUnused();
   QList<QWidget *> secondRunControls() const;
   void connectControls();
   void refillByKey();
-  void connectLauf(Lauf &lauf, QPushButton *split, QPushButton *join);
+  void connectRun(RunFields &run, QPushButton *split, QPushButton *join);
   void connectStatus(QComboBox *combo, int TeilnehmerZeile::*status);
 
   void refill();
@@ -74,21 +74,21 @@ private:
   void setInputsEnabled(bool enabled);
   void showPerson(const TeilnehmerZeile &participant);
   void showInputs(const TeilnehmerZeile &participant);
-  static void showParts(Lauf &lauf, double time);
+  static void showParts(RunFields &run, double time);
   QLineEdit *timeBox() const;
   void focusTime();
 
   /// The row in `Label11`, which becomes `TnIdx`.
   TeilnehmerZeile &selected();
-  void takeTime(const Lauf &lauf);
-  void joinTime(Lauf &lauf);
+  void takeTime(const RunFields &run);
+  void joinTime(RunFields &run);
   /// Whether the time was taken. If not: a beep, and the box shows the stored one.
-  bool store(const Lauf &lauf, double time);
+  bool store(const RunFields &run, double time);
   void refuse(QLineEdit *field, const QString &before);
-  void takePunkte();
+  void takePoints();
   void showResult(bool open);
 
   std::unique_ptr<Ui::Form7> ui;
   Store &m_store;
-  Lauf m_lauf1, m_lauf2;
+  RunFields m_run1, m_run2;
 };

@@ -83,15 +83,15 @@ public:
   void take(const QString &key) {
     const int row = numberAtEnd(key);
     auto &participant = m_store.Teilnehmer[row];
-    m_store.rangliste.RangListe[++m_line] = row;
+    m_store.ranking.RangListe[++m_line] = row;
     const LaeuferSatz athlete = LaeuferLesen(m_store, participant.LaeuferNr);
     if (const int group = groupOf(key); group != m_group)
       startGroup(group, participant);
     takeBestTime(athlete.Geschlecht, participant);
     setPlace(participant);
     if (participant.KlasseKopf == 1)
-      m_store.rangliste.ErgebnisZeilen << QString() << headLine();
-    m_store.rangliste.ErgebnisZeilen << resultLine(athlete.Name, participant);
+      m_store.ranking.ErgebnisZeilen << QString() << headLine();
+    m_store.ranking.ErgebnisZeilen << resultLine(athlete.Name, participant);
   }
 
 private:
@@ -107,9 +107,9 @@ private:
     if (participant.KlasseNr - 1 < m_store.Rennen.BestzeitAbKlasse)
       return;
     if (sex == Sex::Female)
-      m_store.rangliste.BestzeitDamen = std::min(m_store.rangliste.BestzeitDamen, participant.WertSumme);
+      m_store.ranking.BestzeitDamen = std::min(m_store.ranking.BestzeitDamen, participant.WertSumme);
     if (sex == Sex::Male)
-      m_store.rangliste.BestzeitHerren = std::min(m_store.rangliste.BestzeitHerren, participant.WertSumme);
+      m_store.ranking.BestzeitHerren = std::min(m_store.ranking.BestzeitHerren, participant.WertSumme);
   }
 
   // A shared place is decided by the first run alone, also with two runs and with points; this is meant.
@@ -154,10 +154,10 @@ private:
 };
 
 void resetPlaces(Store &store) {
-  store.rangliste.RangListe.fill(0);
+  store.ranking.RangListe.fill(0);
   for (const int row : store.Teilnehmer.rows())
     store.Teilnehmer[row].Rang = 0;
-  store.rangliste.BestzeitDamen = store.rangliste.BestzeitHerren = NoBestTime;
+  store.ranking.BestzeitDamen = store.ranking.BestzeitHerren = NoBestTime;
 }
 
 // The last time is not reset at a new group, and a group that begins with it begins with place 1 all the same; meant.
@@ -167,7 +167,7 @@ void walkFirstRun(Store &store, const QStringList &keys) {
   for (const QString &key : keys) {
     const int row = numberAtEnd(key);
     auto &participant = store.Teilnehmer[row];
-    store.rangliste.RangListe[++line] = row;
+    store.ranking.RangListe[++line] = row;
     if (const int group = groupOf(key); group != lastGroup) {
       lastGroup = group;
       place = 0;
@@ -183,7 +183,7 @@ void walkFirstRun(Store &store, const QStringList &keys) {
 } // namespace
 
 void ErgebnisRechnen(Store &store, std::optional<int> clubFilter) {
-  store.rangliste.ErgebnisZeilen.clear();
+  store.ranking.ErgebnisZeilen.clear();
   SortedLines keys;
   const bool secondTimesExist = anySecondTime(store);
   for (const int row : store.Teilnehmer.rows()) {
@@ -215,9 +215,9 @@ void Rangfolge1(Store &store) {
       keys.add(rankKey(store, row, athlete->Name, participant.WertZeit1));
     }
   }
-  store.rangliste.ErgebnisZeilen.clear();
-  store.rangliste.BestzeitDamen = NoBestTime;
-  store.rangliste.BestzeitHerren = NoBestTimeFirstRun;
+  store.ranking.ErgebnisZeilen.clear();
+  store.ranking.BestzeitDamen = NoBestTime;
+  store.ranking.BestzeitHerren = NoBestTimeFirstRun;
   walkFirstRun(store, keys.take());
 }
 

@@ -15,7 +15,7 @@ TEST_F(Form17Test, ComesForwardWithoutLeavingTheFieldOfAnotherScreenAndThePressL
   ASSERT_TRUE(QTest::qWaitForWindowActive(&work));
   field.setFocus();
   form = std::make_unique<Form17>(desk);
-  form->erinnern({"7   BERGER Eva m/w ?"});
+  form->remind({"7   BERGER Eva m/w ?"});
   EXPECT_TRUE(form->isVisible() && form->testAttribute(Qt::WA_ShowWithoutActivating));
   form->hide();
   auto *timer = form->findChild<QTimer *>("Timer1");

@@ -69,7 +69,7 @@ TEST_F(RaceFilesTest, ASaveIsAnnouncedBeforeItsFirstFileAndAfterItsLast) {
     for (const char *name : {"R 1.dat", "K 1.lst"})
       seen << (test.hasFile(name) ? "da" : "fehlt");
   };
-  store.vorDemSpeichern = store.nachDemSpeichern = look;
+  store.beforeSaving = store.afterSaving = look;
   RennDatenSpeichern(store);
   EXPECT_EQ(seen.join(u' '), "fehlt fehlt da da");
 }
@@ -116,7 +116,7 @@ TEST_F(RaceFilesTest, APastedLineBreakMovesNoLine) {
 
 TEST_F(RaceFilesTest, RemindsOfAthletesWithoutSexOrBirthDate) {
   QStringList reminder;
-  test.umgebung.erinnern = [&](const QStringList &lines) { reminder = lines; };
+  test.umgebung.remind = [&](const QStringList &lines) { reminder = lines; };
   LaeuferSatz max;
   max.Name = "HUBER Max";
   LaeuferSchreiben(store, 2, max);

@@ -28,13 +28,13 @@ TEST_F(RecordFilesTest, EveryByteSurvivesReadingAndWriting) {
     test.writeFile(name, bytes);
   store.VereinAnzahl = store.LaeuferAnzahl = store.RennenAnzahl = 1;
   store.RennenIdx = 1;
-  alleDateienOeffnen(store);
+  openRecordFiles(store);
   const VereinSatz club = VereinLesen(store, 1);
   const LaeuferSatz athlete = LaeuferLesen(store, 1);
   RennenLesen(store);
   for (const auto &[name, bytes] : files)
     test.writeFile(name, {});
-  alleDateienOeffnen(store);
+  openRecordFiles(store);
   VereinSchreiben(store, 1, club);
   LaeuferSchreiben(store, 1, athlete);
   RennenSchreiben(store);

@@ -7,8 +7,8 @@ using StartTest = StoreTest;
 
 TEST_F(StartTest, SeasonTurnsAtTheBeginningOfJuly) {
   for (const auto &[day, offset] : {std::pair{3, 11.F}, {5, 12.F}}) {
-    test.umgebung.heute = [day = day] { return QDate(2026, 7, day); };
-    storeStarten(store);
+    test.umgebung.today = [day = day] { return QDate(2026, 7, day); };
+    startStore(store);
     EXPECT_EQ(store.JahrOffset, offset);
   }
   EXPECT_EQ(store.StdKlasse[20].Von, 1912);
@@ -17,7 +17,7 @@ TEST_F(StartTest, SeasonTurnsAtTheBeginningOfJuly) {
 TEST_F(StartTest, PlacesAreMirroredBackAndCountsReadAsFarAsTheyGo) {
   test.writeFile("TopLeft.dat", " 150 \r\n-300 \r\n 7 \r\n 8 \r\n 3000000000 \r\n 5 \r\n");
   test.writeFile("Vext.dat", " 12 \r\n 3 \r\n");
-  storeStarten(store);
+  startStore(store);
   EXPECT_EQ(store.Fenster.FensterLeft[1], 300);
   EXPECT_EQ(store.Fenster.FensterTop[2], 7);
   EXPECT_EQ(store.LaeuferAnzahl, 12);
@@ -32,6 +32,6 @@ TEST_F(StartTest, PlacesAreMirroredBackAndCountsReadAsFarAsTheyGo) {
 TEST_F(StartTest, CountsOfMoreRecordsThanAFileMayHoldAreRefused) {
   for (const char *bytes : {" 2147483647 \r\n", " 0 \r\n 900000 \r\n", " 0 \r\n 0 \r\n 900000 \r\n"}) {
     test.writeFile("Vext.dat", bytes);
-    EXPECT_THROW(storeStarten(store), ConversionFault) << bytes;
+    EXPECT_THROW(startStore(store), ConversionFault) << bytes;
   }
 }

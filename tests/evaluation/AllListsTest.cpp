@@ -18,18 +18,18 @@ TEST_F(StoreTest, AllListsAreWrittenWithAPageThatLeadsToThemAndNothingElseChange
   const auto ranking = [this] {
     QList<int> all;
     for (int k = 1; k <= 1000; ++k)
-      all << store.rangliste.RangListe[k] << store.Teilnehmer[k].Rang << store.Teilnehmer[k].KlasseKopf;
+      all << store.ranking.RangListe[k] << store.Teilnehmer[k].Rang << store.Teilnehmer[k].KlasseKopf;
     return all;
   };
   const auto before = ranking();
-  const auto lists = alleListen(store);
+  const auto lists = allLists(store);
   EXPECT_EQ(ranking(), before);
   ASSERT_GE(lists.size(), 4);
   for (const Recording &list : lists)
     EXPECT_EQ(OtherMedia(list).differences(), QStringList()) << list.title.toStdString();
   Printers printers([] { return SystemPrinters(); }, {});
   const QString folder = test.folder.filePath("Ausdrucke");
-  alleListenDrucken(store, printers, folder, [] { return QDateTime(QDate(2026, 1, 15), QTime(12, 0)); });
+  printAllLists(store, printers, folder, [] { return QDateTime(QDate(2026, 1, 15), QTime(12, 0)); });
   EXPECT_EQ(printers.outcome().files.size(), lists.size() + 1);
   const QString index = readFile(printers.outcome().files.last());
   static const QRegularExpression link("href=\"([^\"]+)\"");

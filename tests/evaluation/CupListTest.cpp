@@ -11,7 +11,7 @@
 namespace {
 
 struct CupListTest : testing::Test {
-  CupListTest() { cupLaden(store); }
+  CupListTest() { loadCup(store); }
 
   /// The document as text; texts printed behind others have no position.
   QStringList print(const QStringList &keys, bool separate = false) {
@@ -31,7 +31,7 @@ struct CupListTest : testing::Test {
       store.cup.CupKlasse[person] = person <= first ? 0 : 8;
       names << QString("Name %1").arg(person, 3);
     }
-    return cupSchluessel(store.cup, names);
+    return cupKeys(store.cup, names);
   }
 
   TestStore test;
@@ -44,7 +44,7 @@ struct CupListTest : testing::Test {
 } // namespace
 
 TEST_F(CupListTest, ThreeRacesWorkedOutByHand) {
-  EXPECT_EQ(print(cupAuswerten(store, cup.all, 1).schluessel), expectedPrint("Cupliste.txt"));
+  EXPECT_EQ(print(evaluateCup(store, cup.all, 1).keys), expectedPrint("Cupliste.txt"));
   EXPECT_EQ(druck.Orientation, Druckschicht::Portrait);
 }
 

@@ -40,7 +40,7 @@ TEST_F(CupScoringTest, Strikes) {
                {"nothing without a time", {{0, 0}, {0, 0}}, 1, ".."}};
   for (const auto &[what, runs, count, expected] : cases) {
     setRuns(store, 1, runs); // what the case before struck is taken back
-    resultateStreichen(store.cup, 1, count);
+    strikeResults(store.cup, 1, count);
     std::string struck;
     for (int round = 1; round <= store.cup.CupRunden; ++round)
       struck += store.cup.CupStreich(1, round) == 1 ? 'X' : '.';
@@ -54,7 +54,7 @@ TEST_F(CupScoringTest, PointsComeFromTheTableAndNotForStruckOrMissedResults) {
   store.cup.CupPunkteTabelle[99] = store.cup.CupPunkteTabelle[100] = 7;
   setRuns(store, 1, {{1, 50}, {1, 50}, {3, 50}, {100, 50}, {101, 50}, {0, 0}, {99, 0, 1}});
   store.cup.CupStreich(1, 2) = 1;
-  punkteVergeben(store.cup, 1);
+  awardPoints(store.cup, 1);
   QList<int> points;
   for (int round = 0; round <= store.cup.CupRunden; ++round)
     points << store.cup.CupPunkte(1, round);

@@ -8,10 +8,10 @@ namespace {
 struct TeamListTest : testing::Test {
   /// Prints what the evaluation gives, as the screen does.
   QStringList print(const Wertung &wertung) {
-    wertungVorbereiten(store);
-    const TeamListe liste{wertung, teamWertung(store, wertung)};
-    Mannschaftsliste(store, druck, liste, [&](int line) {
-      return mitgliederZeilen(store, wertung, numberAtEnd(liste.einheiten[line]), MitgliederOrdnung::NachZeit);
+    prepareUnits(store);
+    const TeamPrint print{wertung, evaluateUnits(store, wertung)};
+    Mannschaftsliste(store, druck, print, [&](int line) {
+      return memberLines(store, wertung, numberAtEnd(print.units[line]), MemberOrder::ByTime);
     });
     EXPECT_EQ(OtherMedia(printed).differences(), QStringList());
     return asText(printed);

@@ -35,7 +35,7 @@ TEST_F(TimeSumTest, WhoIsMissingOrHasNoResultInARaceFallsOut) {
   store.MannschaftName[1] = "Team";
   store.Teilnehmer[1].Zeit2 = 9;
   RennDatenSpeichern(store);
-  zeitsummeErzeugen(store, {2, 1}, 3);
+  generateTimeSum(store, {2, 1}, 3);
 
   EXPECT_EQ(generated(), (QList<std::pair<double, int>>{{70.25, 0}, {31, 3}, {32, 3}, {33, 3}}));
   EXPECT_EQ(store.Teilnehmer[1].Zeit2, 0);
@@ -50,7 +50,7 @@ TEST_F(TimeSumTest, WhoIsMissingOrHasNoResultInARaceFallsOut) {
   EXPECT_EQ(file.count('\n'), 12010);
   EXPECT_TRUE(
       file.startsWith("Ers\r\nZwe\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n 1 \r\n 70,25 \r\n 40 \r\n 30,25 \r\n 0 \r\n"));
-  singleTimesLaden(store);
+  loadSingleTimes(store);
   EXPECT_EQ(blockOf(2), (QList<double>{31, 0, 31, 0}));
 }
 
@@ -58,9 +58,9 @@ TEST_F(TimeSumTest, ASumThatNoFileGivesBackIsNoTime) {
   for (const char *name : {"A", "B"})
     addResults(test, name, {{a, 1e308}, {b, 1}});
   store.cup.CupStatus(2, 0) = 3; // of an earlier sum
-  zeitsummeErzeugen(store, {2, 1}, 3);
+  generateTimeSum(store, {2, 1}, 3);
   EXPECT_EQ(generated(), (QList<std::pair<double, int>>{{0, 0}, {2, 0}}));
-  singleTimesLaden(store);
+  loadSingleTimes(store);
   EXPECT_EQ(blockOf(1), (QList<double>{0, 1e308, 1e308, 0}));
 }
 
@@ -71,20 +71,20 @@ TEST_F(TimeSumTest, SurchargesComeFromTheRaceBefore) {
   race("A", 5);
   race("B", 0);
   race("C", 7);
-  zeitsummeErzeugen(store, {2, 1}, 4); // round 1 is A, with those of the base race B
+  generateTimeSum(store, {2, 1}, 4); // round 1 is A, with those of the base race B
   EXPECT_EQ(blockOf(1), (QList<double>{65, 30, 35, 0}));
   EXPECT_EQ(store.Rennen.ZuschlagMann, 0);
-  zeitsummeErzeugen(store, {3, 2, 1}, 5);
+  generateTimeSum(store, {3, 2, 1}, 5);
   EXPECT_EQ(blockOf(1), (QList<double>{102, 37, 35, 30}));
-  zeitsummeErzeugen(store, {2, 1}, 6); // nothing of the larger one is left
+  generateTimeSum(store, {2, 1}, 6); // nothing of the larger one is left
   EXPECT_EQ(store.cup.ZeitsummeRennenKurz[2] + store.cup.ZeitsummeRennenKurz[3], "B");
 }
 
 TEST_F(TimeSumTest, NumberOfTheNewRace) {
   const auto line = [](int number) { return QString(" %1    Lauf").arg(number); };
-  EXPECT_EQ(zeitsummeNummer({}), 1);
-  EXPECT_EQ(zeitsummeNummer({line(9), line(12), line(3)}), 13);
-  EXPECT_EQ(zeitsummeNummer({line(1234), line(124), line(7)}), 125) << "only three digits are read";
-  EXPECT_EQ(zeitsummeNummer({line(1234), line(123)}), 124);
-  EXPECT_EQ(zeitsummeNummer({line(1000), line(101)}), 102) << "no race is overwritten";
+  EXPECT_EQ(timeSumNumber({}), 1);
+  EXPECT_EQ(timeSumNumber({line(9), line(12), line(3)}), 13);
+  EXPECT_EQ(timeSumNumber({line(1234), line(124), line(7)}), 125) << "only three digits are read";
+  EXPECT_EQ(timeSumNumber({line(1234), line(123)}), 124);
+  EXPECT_EQ(timeSumNumber({line(1000), line(101)}), 102) << "no race is overwritten";
 }

@@ -13,7 +13,7 @@ const QDate Today(2026, 1, 15);
 QString kindsOf(const char *lines) {
   const Columns columns = recognisedColumns(tableFrom(lines, "M.csv"));
   QStringList names;
-  for (const Column kind : columns.kinds)
+  for (const ColumnKind kind : columns.kinds)
     names << nameOf(kind);
   return (columns.heading ? QString() : "ohne: ") + names.join(u' ');
 }

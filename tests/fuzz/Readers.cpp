@@ -88,24 +88,24 @@ void updateClasses(Store &store) {
 }
 
 void rank(Store &store) {
-  alleDateienOeffnen(store);
-  storeStarten(store);
+  openRecordFiles(store);
+  startStore(store);
   openRace(store);
   RennenLesen(store);
   KlassenZuordnen(store);
   TeilnehmerlisteFuellen(store, {}, ByEntry);
-  startNummernVorhanden(store);
-  nummernAuslosen(store, 5);
+  offersDeletion(store);
+  drawNumbersForAll(store, 5);
   Rangfolge1(store);
-  wertungVorbereiten(store);
+  prepareUnits(store);
   for (const auto einheit : {Einheit::Verein, Einheit::Mannschaft, Einheit::Gruppe})
-    teamWertung(store, {einheit, WertungsArt::ZeitsummeDerBesten});
+    evaluateUnits(store, {einheit, WertungsArt::ZeitsummeDerBesten});
   participantFile(store);
 }
 
 void readSingleTimes(Store &store) {
   store.AktRennen = 1;
-  singleTimesLaden(store);
+  loadSingleTimes(store);
 }
 
 // With a hash of its own at its end, or hardly any manifest would be looked into. One put aside stays where it is.
@@ -157,10 +157,10 @@ const Reader Readers[] = {
     {"M 9.lst", loadNames},
     {"G 9.lst", loadNames},
     {"Z 1.dat", readSingleTimes},
-    {"Vext.dat", storeStarten},
-    {"TopLeft.dat", storeStarten},
-    {"Cup.dat", [](Store &store) { cupSpeichern(store, cupLaden(store)); }},
-    {"werbung.dat", [](Store &store) { WerbungSchreiben(store, WerbungLesen(store)); }},
+    {"Vext.dat", startStore},
+    {"TopLeft.dat", startStore},
+    {"Cup.dat", [](Store &store) { saveCup(store, loadCup(store)); }},
+    {"werbung.dat", [](Store &store) { saveBanners(store, loadBanners(store)); }},
     {"Beschaedigt/00000001/Inhalt.txt", readRunningCopy},
     {"Zahlen", nullptr},
 };

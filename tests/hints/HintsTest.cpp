@@ -157,7 +157,7 @@ const std::vector<Case> OfRaces{
     {"Löschen nimmt Zeiten", [](Trap &t, bool on) { on ? RennDatenSpeichern(t.store) : void(); }},
     {"Löschen eines Cuprennens",
      [](Trap &t, bool on) {
-       cupSpeichern(t.store, {"Cup", {on ? 1 : 2}});
+       saveCup(t.store, {"Cup", {on ? 1 : 2}});
      }},
     {"Kopie überschreibt", [](Trap &t, bool on) { t.races(2), t.show("Text2", on ? "1" : "3"); }},
     {"Kopie auf sich selbst", [](Trap &t, bool on) { t.show("Text2", "1", "Check1", on ? "0" : "1"); }},
@@ -171,7 +171,7 @@ const std::vector<Case> OfRaces{
      }},
     {"Neuaufnahme", [](Trap &t, bool on) { t.show("Command5", "1", "Text1", on ? "MAI" : "BER"); }},
     {"Filter", [](Trap &t, bool on) { t.show("Text2", on ? "ber" : " "); }},
-    {"Kombilauf", [](Trap &t, bool on) { on ? singleTimesSpeichern(t.store) : void(); }},
+    {"Kombilauf", [](Trap &t, bool on) { on ? saveSingleTimes(t.store) : void(); }},
     {"Zweimal im Feld", [](Trap &t, bool on) { t.test.enter(on ? 2 : t.test.addAthlete("D", 1990, 0)); }},
     {"Liste voll",
      [](Trap &t, bool on) {

@@ -45,7 +45,7 @@ struct PreparationJourneyTest : RoofTest {
     programm.reset();
     store = std::make_unique<Store>(test.umgebung);
     store->DatenOrdner = folder.path() + u'/';
-    storeStarten(*store);
+    startStore(*store);
     start(*store);
   }
   /// Without the mouse, as all that is done here.

@@ -56,7 +56,7 @@ struct RandomOperatorTest : RoofTest {
     own->takeOver(VEXT_BEISPIEL);
     for (const char *name : {"Notizen.txt", "R 77.dat alt", "K 1.lst~"})
       own->writeFile(name, "bleibt");
-    own->store.nachDemSpeichern = [this] { readAgain(); };
+    own->store.afterSaving = [this] { readAgain(); };
     RoofTest::start(own->store);
     if (!withHints)
       programm->hints().rules = nullptr;

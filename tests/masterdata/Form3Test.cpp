@@ -77,7 +77,7 @@ TEST_F(Form3Test, FieldsStayTogetherAndAClubIsToldWhole) {
 
 TEST_F(Form3Test, WritesOnlyIntoTheAthleteShown) {
   openWith({"A", "B", "C"});
-  form->zeigen(2);
+  form->showRecord(2);
   record(3);
   type("Text2", "ZZ");
   record(1);
@@ -89,7 +89,7 @@ TEST_F(Form3Test, WritesOnlyIntoTheAthleteShown) {
 TEST_F(Form3Test, NewEntryTakesAFreeRecordOrRenamesTheLast) {
   openWith({"A", " ", "C"});
   for (const auto &[name, record] : {std::pair("B", "2"), {"D", "3"}}) {
-    form->neuaufnehmen(name);
+    form->startNewEntry(name);
     EXPECT_EQ(text("Text1"), record);
     EXPECT_TRUE(find("Text2")->hasFocus());
     key(Qt::Key_Tab);

@@ -121,7 +121,7 @@ TEST_F(DocumentsTest, TwoRunsByClasses) {
   store.cup.ZeitsummeRennenKurz[2] = "Super-G";
   store.cup.CupZeit(5, 1) = 15;
   store.cup.CupZeit(5, 2) = 25;
-  singleTimesSpeichern(store);
+  saveSingleTimes(store);
   Ergebnisliste(store, druck, 1);
   EXPECT_EQ(documents, 8);
 }
@@ -143,8 +143,8 @@ TEST_F(DocumentsTest, OneRunByGroups) {
   QImage(100, 50, QImage::Format_RGB32).save(store.DatenOrdner + QString("b.jpg"));
   Werbung werbung;
   werbung.fill({true, "b.jpg", "20,5", "240", "200"});
-  werbung[0].datei = "fehlt.jpg";
-  werbung[1].gewaehlt = false;
+  werbung[0].file = "fehlt.jpg";
+  werbung[1].chosen = false;
   Titelblatt(store, druck, werbung);
   EXPECT_EQ(documents, 7);
 }
@@ -159,7 +159,7 @@ TEST_F(DocumentsTest, PagesBreakByRowAndByClass) {
     persons << Person{nr, "Name " + QByteArray::number(nr + 100), nr <= 43 ? 1980 : 1990, 1, 0, 0, 0, 30.0 + nr};
   enter(persons);
   printLists();
-  singleTimesSpeichern(store);
+  saveSingleTimes(store);
   Ergebnisliste(store, druck, {});
   for (int row = 1; row <= 93; ++row)
     store.Teilnehmer[row].Status1 = 3;

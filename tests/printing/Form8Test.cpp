@@ -108,9 +108,9 @@ TEST_F(Form8Test, CertificatesOfTheMarkedLinesEachADocumentUntilThePrinterRefuse
 
 TEST_F(Form8Test, TellsWhereTheFileIsAndWhichPictureIsMissing) {
   test.writeFile("werbung1.jpg", "no picture");
-  Werbung werbung = WerbungLesen(store);
-  werbung[0].gewaehlt = true;
-  WerbungSchreiben(store, werbung);
+  Werbung werbung = loadBanners(store);
+  werbung[0].chosen = true;
+  saveBanners(store, werbung);
   open();
   EXPECT_FALSE(shown("ausgabe"));
   press("Command8");

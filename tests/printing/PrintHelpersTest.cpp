@@ -4,6 +4,6 @@
 
 TEST(PrintHelpersTest, ATitleOfAnyLengthStopsAtOnePoint) {
   Druckschicht druck([](const Recording &) {});
-  TitelAnpassen(druck, QString(2000, u'M'), 98);
+  fitTitle(druck, QString(2000, u'M'), 98);
   EXPECT_EQ(druck.FontSize, 1);
 }

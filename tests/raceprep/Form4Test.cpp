@@ -19,11 +19,11 @@ struct Form4Test : ScreenTest<Form4> {
   }
   void openRegister(FakePrinters &with) {
     open(*with.printers);
-    form->waehlen(2);
+    form->chooseRace(2);
   }
   /// How many of all buttons open a screen.
   int opening() {
-    const QSignalSpy opened(form.get(), &Form4::oeffnet);
+    const QSignalSpy opened(form.get(), &Form4::openRequested);
     for (const char *button : Buttons)
       press(button);
     return int(opened.count());

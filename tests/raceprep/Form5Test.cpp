@@ -29,7 +29,7 @@ TEST_F(Form5Test, AddsNobodyTwiceAndDeletes) {
   EXPECT_FALSE(enabled("Command2"));
   clickLine("List2", 0);
   EXPECT_EQ(label("Label5") + label("Label7"), "Berger Max1");
-  const QSignalSpy deleted(form.get(), &Form5::teilnehmerGeloescht);
+  const QSignalSpy deleted(form.get(), &Form5::participantDeleted);
   press("Command3");
   EXPECT_EQ(deleted.count(), 1);
   EXPECT_TRUE(!enabled("Command3") && find("List2")->hasFocus());
@@ -66,8 +66,8 @@ TEST_F(Form5Test, AfterADeletionTheKeysStartFromTheLineThatWasThere) {
 
 TEST_F(Form5Test, KeysDoubleClicksAndNewEntryAskForTheOtherScreens) {
   openWith({3, 2});
-  const QSignalSpy athlete(form.get(), &Form5::athletGewaehlt), row(form.get(), &Form5::teilnehmerGewaehlt),
-      fresh(form.get(), &Form5::neuaufnahme);
+  const QSignalSpy athlete(form.get(), &Form5::athleteChosen), row(form.get(), &Form5::participantChosen),
+      fresh(form.get(), &Form5::newEntryRequested);
   keys({Qt::Key_A, Qt::Key_Tab, Qt::Key_Return}); // added, and the focus is back in the list
   EXPECT_EQ(store.Teilnehmer[3].LaeuferNr, 1);
   key(Qt::Key_Return);
@@ -87,7 +87,7 @@ TEST_F(Form5Test, RegisterOnTopIsStoredOnReturnAndOnClosing) {
   const auto takeNew = [&](const char *name) {
     desk.show(athletes);
     ASSERT_TRUE(QTest::qWaitForWindowActive(&athletes));
-    athletes.neuaufnehmen(name);
+    athletes.startNewEntry(name);
   };
   takeNew("Dorn");
   desk.show(*form);

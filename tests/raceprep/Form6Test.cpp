@@ -103,18 +103,18 @@ TEST_F(Form6Test, ClassRunByKeysAndDeletion) {
 TEST_F(Form6Test, OnTopOfTheParticipantList) {
   enter(3);
   open();
-  form->teilnehmerWaehlen(2);
+  form->chooseParticipant(2);
   EXPECT_EQ(label("Label6"), "2");
   type("Text1", "5");
   key(Qt::Key_Return);
   EXPECT_TRUE(focused("List1") && store.Teilnehmer[2].StartNr == 5);
   const int added = test.enter(store.Teilnehmer[3].LaeuferNr);
-  form->teilnehmerWaehlen(added);
+  form->chooseParticipant(added);
   EXPECT_EQ(label("Label6").toInt(), added);
-  form->teilnehmerWaehlen(999); // in no list
+  form->chooseParticipant(999); // in no list
   EXPECT_EQ(label("Label6"), QString());
   store.Teilnehmer[3] = {};
-  form->zeilenVerschoben();
+  form->rowsMoved();
   EXPECT_EQ(label("Label2") + label("Label6"), "bitte Teilnehmer anklicken !");
   EXPECT_FALSE(enabled("Text1") || shown("Check1") || shown("Combo1"));
 }

@@ -18,30 +18,30 @@ struct RaceRegisterTest : StoreTest {
 // Typed, opened, number before, number behind: the steps count from what was typed.
 TEST_F(RaceRegisterTest, NumbersAreHeldToTheRacesThereAre) {
   addRaces();
-  EXPECT_EQ(naechstesRennen(store, "2", "Slalom"), "3");
+  EXPECT_EQ(nextRaceText(store, "2", "Slalom"), "3");
   EXPECT_EQ(store.RennenAnzahl, 3);
   const std::tuple<const char *, int, const char *, const char *> cases[] = {
       {"3m", 3, "2", "4"}, {"1", 1, "1", "2"}, {"1.5", 2, "1", "3"}, {"99", 4, "98", "100"}, {"", 1, "1", "1"}};
   for (const auto &[typed, opened, before, behind] : cases) {
     const auto number = QLatin1String(typed);
-    rennenOeffnen(store, number);
+    openRaceNumbered(store, number);
     EXPECT_EQ(store.AktRennen, opened) << typed;
-    EXPECT_EQ(vorherigesRennen(store, number), before) << typed;
-    EXPECT_EQ(naechstesRennen(store, number, "Abfahrt"), QString(behind)) << typed;
+    EXPECT_EQ(previousRaceText(store, number), before) << typed;
+    EXPECT_EQ(nextRaceText(store, number, "Abfahrt"), QString(behind)) << typed;
   }
   EXPECT_EQ(test.beeps, 2); // for "1" and for nothing
-  EXPECT_EQ(naechstesRennen(store, "5", "  "), std::nullopt);
+  EXPECT_EQ(nextRaceText(store, "5", "  "), std::nullopt);
   EXPECT_EQ(store.RennenAnzahl, 5);
 }
 
 TEST_F(RaceRegisterTest, DeletionTakesTheRacesFilesAndKeepsItsNumber) {
   addRaces();
-  rennenOeffnen(store, "2");
+  openRaceNumbered(store, "2");
   store.Teilnehmer[1].LaeuferNr = 1;
   store.KlasseName[1] = "Eigene";
   for (const char *file : {"R 2.dat", "K 2.lst", "G 2.lst", "M 2.lst", "Z 2.dat", "R 1.dat", "K 22.lst"})
     test.writeFile(file, {});
-  rennenLoeschen(store);
+  eraseRace(store);
   EXPECT_EQ(QDir(store.DatenOrdner).entryList({"? *"}).join(u','), "K 22.lst,R 1.dat");
   EXPECT_EQ(RennenListeFuellen(store).join(u','), " 3    Abfahrt, 1    Riesentorlauf");
   EXPECT_EQ(store.RennenAnzahl, 3);
@@ -53,10 +53,10 @@ TEST_F(RaceRegisterTest, DeletionTakesTheRacesFilesAndKeepsItsNumber) {
 
 TEST_F(RaceRegisterTest, RaceZeroTakesTheCriteriaOfTheRaceReadLast) {
   addRaces();
-  rennenOeffnen(store, "1");
+  openRaceNumbered(store, "1");
   store.Rennen.WertZeit = 7;
   RennenSchreiben(store);
-  rennenOeffnen(store, "3");
+  openRaceNumbered(store, "3");
   store.AktRennen = 0;
   RennenListeFuellen(store);
   EXPECT_EQ(store.RennenIdx, 0);

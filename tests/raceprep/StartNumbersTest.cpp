@@ -30,7 +30,7 @@ TEST_F(StartNumbersTest, ReserveLiesBetweenKeysAndNotBeforeTheFirst) {
   const std::tuple<int, QList<int>> cases[] = {
       {0, {1, 2, 3, 4, 5, 6, 7}}, {5, {1, 2, 8, 9, 10, 16, 17}}, {-3, {0, 0, 1, 1, 1, 2, 2}}};
   for (const auto &[reserve, expected] : cases) {
-    nummernAuslosen(store, reserve);
+    drawNumbersForAll(store, reserve);
     EXPECT_EQ(store.Teilnehmer[3].StartNr + store.Teilnehmer[6].StartNr, 3) << "order 0 starts first";
     QList<int> sorted = numbers(7);
     std::sort(sorted.begin(), sorted.end());
@@ -42,17 +42,17 @@ TEST_F(StartNumbersTest, DrawOfTwoDigitsThenTheName) {
   for (int i = 0; i < 150; ++i)
     enter(("P" + std::to_string(900 - i)).c_str(), 7);
   Umgebung same;
-  same.zufall.seed(42);
-  test.umgebung.zufall.seed(42);
+  same.generator.seed(42);
+  test.umgebung.generator.seed(42);
   QList<std::pair<int, int>> order; // draw, row; a later row has the smaller name
   for (int row = 1; row <= 150; ++row)
-    order.append({int(same.zufallszahl() * 100), -row});
+    order.append({int(same.randomNumber() * 100), -row});
   std::sort(order.begin(), order.end());
-  const QStringList lines = nummernAuslosen(store, 0);
+  const QStringList lines = drawNumbersForAll(store, 0);
   EXPECT_EQ(lines[0].left(8), QString("007%1   ").arg(order[0].first, 2, 10, QChar(u'0')));
   for (int i = 0; i < 150; ++i)
     ASSERT_EQ(store.Teilnehmer[-order[i].second].StartNr, i + 1);
-  EXPECT_NE(nummernAuslosen(store, 0), lines);
+  EXPECT_NE(drawNumbersForAll(store, 0), lines);
 }
 
 TEST_F(StartNumbersTest, NobodyIsLeftOutOfTheDraw) {
@@ -66,7 +66,7 @@ TEST_F(StartNumbersTest, NobodyIsLeftOutOfTheDraw) {
       store.Teilnehmer[row].KlasseReihe = int(random() % 4);
       store.Teilnehmer[row].StartNr = -7;
     }
-    nummernAuslosen(store, 0);
+    drawNumbersForAll(store, 0);
     QList<int> given;
     for (int row = 1; row <= 1000; ++row) {
       if (store.Teilnehmer[row].LaeuferNr % 8 == 0) // nobody, or without a name: keeps the number
@@ -88,15 +88,15 @@ TEST_F(StartNumbersTest, RunByClassTakesTheNumbersOfOthers) {
   enter("B", 1, 4);
   enter("A", 2, 4);
   enter("D", 1, 5, 101);
-  nummernFuerKlasse(store, 4, 100, 0);
+  numbersForClass(store, 4, 100, 0);
   EXPECT_EQ(numbers(4), (QList<int>{101, 100, 102, 101}));
   store.Rennen.WertKlassen = 0; // by groups: order and reserve go by the group, who is taken by the class
   store.Teilnehmer[2].GruppeNr = 4;
   store.Teilnehmer[4].GruppeNr = 4;
-  nummernFuerKlasse(store, 4, 10, 40000);
+  numbersForClass(store, 4, 10, 40000);
   EXPECT_EQ(numbers(4), (QList<int>{11, 40012, 10, 101}));
   EXPECT_EQ(store.TnIdx, 3);
-  nummernFuerKlasse(store, 4, 2147483647, 0);
+  numbersForClass(store, 4, 2147483647, 0);
   EXPECT_EQ(numbers(4), (QList<int>{11, 40012, 2147483647, 101}));
   EXPECT_EQ(test.beeps, 1);
 }
@@ -105,9 +105,9 @@ TEST_F(StartNumbersTest, DeletionIsOfferedForTheFirstFiftyRowsAndTakesAll) {
   for (const auto &[row, number, offered] :
        {std::tuple(50, 1, true), {51, 1, false}, {1, -1, false}, {1000, 1, false}}) {
     store.Teilnehmer[row].StartNr = number;
-    EXPECT_EQ(startNrVergeben(store, number), true) << row;
-    EXPECT_EQ(startNummernVorhanden(store), offered) << row;
-    startNummernLoeschen(store);
+    EXPECT_EQ(isNumberTaken(store, number), true) << row;
+    EXPECT_EQ(offersDeletion(store), offered) << row;
+    deleteAllNumbers(store);
     EXPECT_EQ(store.Teilnehmer[row].StartNr, 0);
   }
 }

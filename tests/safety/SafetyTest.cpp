@@ -280,7 +280,7 @@ TEST_F(SafetyOfARace, AHalfCopyOverARaceIsFinishedOrTakenBack) {
       before << test.file(name);
     store.Teilnehmer[1].Zeit1 += 1;
     store.KlasseName[3] += "neu";
-    store.nachDemErsetzen = [] {};
+    store.afterReplacing = [] {};
     copyRace(store, 2, "neu", true);
     for (const auto &name : names)
       after << test.file(name);
@@ -292,7 +292,7 @@ TEST_F(SafetyOfARace, AHalfCopyOverARaceIsFinishedOrTakenBack) {
       EXPECT_EQ(test.file(names[i]), (finish ? after : before)[i]) << names[i].toStdString();
     EXPECT_FALSE(startAgain());
     again.reset();
-    alleDateienOeffnen(store);
+    openRecordFiles(store);
     run();
   }
 }
@@ -312,7 +312,7 @@ TEST_F(SafetyOfARace, HalfTakenEntriesAreFinishedOrTakenBack) {
     const Table table = tableFrom("Name;Jg;Verein\nNeu Udo;2012;SC X\nAlt Ida;2011;SC X\n", QStringLiteral("M.csv"));
     EntryPlan plan = planFor(store, entriesOf(table, recognisedColumns(table), QDate(2026, 1, 15)));
     plan.unknownClubs.first().club = ClubAnswer::MakeNew;
-    store.nachDemErsetzen = [] {};
+    store.afterReplacing = [] {};
     takeOver(store, plan, false);
   };
   take();
@@ -330,7 +330,7 @@ TEST_F(SafetyOfARace, HalfTakenEntriesAreFinishedOrTakenBack) {
       SCOPED_TRACE(testing::Message() << deaths.indexOf(death) << finish);
       put(before);
       ZustandLesen(store);
-      alleDateienOeffnen(store);
+      openRecordFiles(store);
       run();
       type(++time);
       take();

@@ -134,9 +134,9 @@ void makeEvent(const QString &folder) {
       store.Teilnehmer[1].Zeit1 = 71.5;
     RennDatenSpeichern(store);
   }
-  auto cup = cupLaden(store);
-  cup.bezeichnung = "Talcup";
-  cupSpeichern(store, cup);
+  auto cup = loadCup(store);
+  cup.name = "Talcup";
+  saveCup(store, cup);
   FensterSpeichern(store);
   test.writeFile(QStringLiteral("Meldungen.csv"), "Name;Jg;Verein\nNeu Udo;2012;SC Neu\nAlt Ida;2011;SC Neu\n");
   QDir().mkpath(folder);
@@ -148,14 +148,14 @@ QStringList factsOf(const QString &folder) {
   Umgebung umgebung;
   Store store(umgebung);
   store.DatenOrdner = folder + u'/';
-  storeStarten(store);
-  alleDateienOeffnen(store);
+  startStore(store);
+  openRecordFiles(store);
   Facts facts;
   addRegisters(facts, store);
   for (int race = 1; race <= store.RennenAnzahl; ++race)
     addRace(facts, store, race);
-  const auto cup = cupLaden(store);
-  facts.add("Cup", cup.bezeichnung);
+  const auto cup = loadCup(store);
+  facts.add("Cup", cup.name);
   for (int place = 1; place <= 9; ++place)
     facts.add(QString("Cup %1").arg(place), store.cup.CupPunkteTabelle[place]);
   return facts.lines;

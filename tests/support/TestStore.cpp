@@ -11,8 +11,8 @@ void TestStore::takeOver(const QString &from) {
   const QDir source(from);
   for (const QString &name : source.entryList(QDir::Files))
     writeFile(name, readFile(source.filePath(name)));
-  storeStarten(store);
-  alleDateienOeffnen(store);
+  startStore(store);
+  openRecordFiles(store);
 }
 
 int TestStore::addClub(const QString &name) {

@@ -10,12 +10,12 @@
 class TestStore {
 public:
   TestStore() {
-    umgebung.heute = [] { return QDate(2026, 1, 15); };
-    umgebung.piep = [this] { ++beeps; };
-    umgebung.zufall.seed(1);
+    umgebung.today = [] { return QDate(2026, 1, 15); };
+    umgebung.beep = [this] { ++beeps; };
+    umgebung.generator.seed(1);
     store.DatenOrdner = folder.path() + u'/';
-    storeStarten(store);
-    alleDateienOeffnen(store);
+    startStore(store);
+    openRecordFiles(store);
   }
 
   /// Copies the files of a folder into the own one and starts anew with them.

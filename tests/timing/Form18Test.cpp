@@ -10,7 +10,7 @@ struct Form18Test : ScreenTest<Form18> {
   /// Opens the screen, types both readings, each with Enter, and presses Enter once more; gives the difference.
   QString calculate(const char *start, const char *finish) {
     show(std::make_unique<Form18>(desk));
-    QObject::connect(form.get(), &Form18::uebernommen, [this](const QString &time) { taken << time; });
+    QObject::connect(form.get(), &Form18::differenceTaken, [this](const QString &time) { taken << time; });
     keys(start);
     key(Qt::Key_Return);
     keys(finish);

@@ -85,7 +85,7 @@ TEST_F(Form7Test, TakesOnlyWhatItsFileGivesBack) {
   type("Text5", "999999999999999999999999999999999999999");
   press("Command2");
   EXPECT_EQ(test.beeps, 4);
-  form->zeitUebernehmen("1,79769313486232E+308");
+  form->takeDifference("1,79769313486232E+308");
   EXPECT_EQ(text("Text1") + u'/' + text("Text5"), "70/12");
   form->close();
   RennDatenLaden(store);
@@ -138,7 +138,7 @@ TEST_F(Form7Test, SecondRun) {
   keys("61,25");
   key(Qt::Key_Enter);
   EXPECT_EQ(store.Teilnehmer[1].Zeit2, 61.25);
-  form->zeitUebernehmen("63,45");
+  form->takeDifference("63,45");
   EXPECT_EQ(store.Teilnehmer[1].Zeit1, 63.45);
   EXPECT_EQ(text("Text1"), "63,45");
 }

@@ -28,8 +28,8 @@ struct RankingTest : RaceTest {
 
   Rows order() const {
     Rows result;
-    for (int line = 1; store.rangliste.RangListe[line] != 0; ++line)
-      result << store.rangliste.RangListe[line];
+    for (int line = 1; store.ranking.RangListe[line] != 0; ++line)
+      result << store.ranking.RangListe[line];
     return result;
   }
 };
@@ -40,11 +40,11 @@ TEST_F(RankingTest, ListsOneRunWithTiesAndDifferences) {
   enter("MOSER Ida", {.Zeit1 = 90.004});
   enter("AUER Li", {.Zeit1 = 90.001});
   enter("ERSTER Max", {.Zeit1 = 3661, .KlasseGenau = 1, .KlasseReihe = 2});
-  store.rangliste.RangListe[6] = 77;
+  store.ranking.RangListe[6] = 77;
   ErgebnisRechnen(store);
   EXPECT_EQ(order(), (Rows{2, 1, 4, 3, 5}));
   EXPECT_EQ(places(), (Rows{1, 1, 4, 3, 1}));
-  EXPECT_EQ(store.rangliste.ErgebnisZeilen.join(u'\n').toStdString(), R"(
+  EXPECT_EQ(store.ranking.ErgebnisZeilen.join(u'\n').toStdString(), R"(
 Rang--Name------------------Startnr.-Klasse-----------Zeit----Diff.
    1. ADAM Rosa-Maria Theresia   100 Klasse 0        83,50     0,00
    2. ZAHN Eva                   100 Klasse 0        83,50     0,00
@@ -62,7 +62,7 @@ TEST_F(RankingTest, TwoRunsTieByTheFirstRunOfNeighbours) {
   enter("C", {.Zeit1 = 51, .Zeit2 = 50});
   ErgebnisRechnen(store);
   EXPECT_EQ(places(), (Rows{1, 1, 3}));
-  EXPECT_EQ(store.rangliste.ErgebnisZeilen.last(),
+  EXPECT_EQ(store.ranking.ErgebnisZeilen.last(),
             "   3. C                          100 Klasse 0        51,00    50,00   101,00     1,00");
 }
 
@@ -93,7 +93,7 @@ TEST_F(RankingTest, SurchargesAndBestTimes) {
   enter("D", {.KlasseNr = 2, .Zeit1 = 41}, 2);
   ErgebnisRechnen(store);
   EXPECT_EQ(std::pair(guest.WertZeit1, guest.WertZeit2), std::pair(1., 0.));
-  EXPECT_EQ(std::pair(store.rangliste.BestzeitDamen, store.rangliste.BestzeitHerren), std::pair(45., 1.));
+  EXPECT_EQ(std::pair(store.ranking.BestzeitDamen, store.ranking.BestzeitHerren), std::pair(45., 1.));
 }
 
 TEST_F(RankingTest, PointsRankLowestFirstInGroups) {
@@ -103,7 +103,7 @@ TEST_F(RankingTest, PointsRankLowestFirstInGroups) {
   enter("A", {.GruppeNr = 7, .Punkte = 0, .Zeit1 = 50});
   ErgebnisRechnen(store);
   EXPECT_EQ(order(), (Rows{2, 1}));
-  EXPECT_EQ(store.rangliste.ErgebnisZeilen.last(), "   2. A                          100 Gruppe der B 00002,50");
+  EXPECT_EQ(store.ranking.ErgebnisZeilen.last(), "   2. A                          100 Gruppe der B 00002,50");
 }
 
 TEST_F(RankingTest, FirstRunIsDenseAndCarriesTheLastTimeOn) {
@@ -114,11 +114,11 @@ TEST_F(RankingTest, FirstRunIsDenseAndCarriesTheLastTimeOn) {
   enter("E", {.Zeit1 = 55, .Status1 = 1, .Rang = 12});
   enter("F", {.Zeit1 = 60, .KlasseReihe = 2});
   enter("G", {.Zeit1 = 61, .KlasseReihe = 2});
-  store.rangliste.RangListe[7] = 77;
+  store.ranking.RangListe[7] = 77;
   Rangfolge1(store);
   EXPECT_EQ(order(), (Rows{1, 2, 3, 4, 6, 7, 77}));
   EXPECT_EQ(places(), (Rows{1, 2, 2, 3, 12, 1, 2}));
-  EXPECT_EQ(store.rangliste.BestzeitHerren, 999999);
+  EXPECT_EQ(store.ranking.BestzeitHerren, 999999);
 }
 
 } // namespace

@@ -97,8 +97,8 @@ QWidget *EntryScreen::makeColumns() {
     auto *kind = new QComboBox;
     kind->setObjectName(QStringLiteral("spalte%1").arg(i + 1));
     kind->setAccessibleName(QStringLiteral("Spalte %1 enthält").arg(i + 1));
-    for (int k = 0; k < ColumnKinds; ++k)
-      kind->addItem(nameOf(Column(k)));
+    for (int k = 0; k < ColumnKindCount; ++k)
+      kind->addItem(nameOf(ColumnKind(k)));
     kind->setCurrentIndex(int(m_columns.kinds[i]));
     connect(kind, &QComboBox::activated, this, &EntryScreen::recognise);
     grid->addWidget(new QLabel(sampleOf(m_table, i)), 0, i + 1);
@@ -169,7 +169,7 @@ void EntryScreen::recognise() {
         other && kind != other && kind->currentIndex() == other->currentIndex())
       kind->setCurrentIndex(0);
   for (qsizetype i = 0; i < m_kinds.size(); ++i)
-    m_columns.kinds[i] = Column(m_kinds[i]->currentIndex());
+    m_columns.kinds[i] = ColumnKind(m_kinds[i]->currentIndex());
   m_columns.heading = m_heading->isChecked();
   m_model.setPlan(makePlan());
   fillClubs();
@@ -195,7 +195,7 @@ EntryProgress EntryScreen::progressFromNow() {
 
 EntryPlan EntryScreen::makePlan() {
   const BusyPointer busy;
-  EntryPlan plan = planFor(m_store, entriesOf(m_table, m_columns, m_store.umgebung.heute()), progressFromNow());
+  EntryPlan plan = planFor(m_store, entriesOf(m_table, m_columns, m_store.umgebung.today()), progressFromNow());
   m_progress->hide();
   return plan;
 }

@@ -49,8 +49,8 @@ TEST_F(EntryScreenTest, DoubtfulLinesAndUnknownClubsWaitForAnAnswer) {
 TEST_F(EntryScreenTest, ColumnsAreCorrectedAndEscLeavesAllAsItWas) {
   read("a;b;c\nNeu;Udo;2012\n");
   EXPECT_FALSE(find<QComboBox>("spalte1")->currentText() == "Vorname");
-  choose("spalte2", int(Column::Family));
-  choose("spalte1", int(Column::First));
+  choose("spalte2", int(ColumnKind::Family));
+  choose("spalte1", int(ColumnKind::First));
   press("ueberschrift");
   EXPECT_EQ(find<QTableView>("vorschau")->model()->index(0, 2).data().toString(), "UDO Neu");
   key(Qt::Key_Escape);

@@ -5,7 +5,7 @@
 #include <QStringList>
 
 /// What the ranking of the open race leaves behind, beside the values in the rows; see timing/Ranking.h. Never stored.
-struct Rangliste {
+struct RangTabellen {
   /// Entry k is the participant row on line k of the ranking.
   Tabelle<int, 1, 1000> RangListe{"RangListe"};
   /// Seconds; 99999 or more if nobody qualifies.
