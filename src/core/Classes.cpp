@@ -51,21 +51,21 @@ void requireSwitch(const Person &person, const Split &split) {
 }
 
 void assign(Store &store, const Person &person, int klasse) {
-  auto &line = store.Teilnehmer[person.row];
+  auto &participant = store.Teilnehmer[person.row];
   const Split a{store.Rennen.WertGeschlecht, person.athlete.Geschlecht, "m/w",
                 "das Geschlecht fehlt. Bitte im Menü unter „Läufer“ eintragen und die Veranstaltung wieder öffnen."};
-  const Split b{store.Rennen.WertGaeste, line.Gast, "Gäste",
+  const Split b{store.Rennen.WertGaeste, participant.Gast, "Gäste",
                 "„Gast“ ist weder 0 noch 1. Bitte in der Teilnehmerliste doppelt anklicken und neu setzen."};
-  const Split f{store.Rennen.WertBoarder, line.Boarder, "Boarder",
+  const Split f{store.Rennen.WertBoarder, participant.Boarder, "Boarder",
                 "„Boarder“ ist weder 0 noch 1. Bitte in der Teilnehmerliste doppelt anklicken und neu setzen."};
-  line.KlasseNr = klasse;
+  participant.KlasseNr = klasse;
   ++store.KlasseAnzahl[klasse];
-  if (statusSum(line) == 0)
+  if (statusSum(participant) == 0)
     ++store.KlasseAnzahlOk[klasse];
   for (const Split &split : {a, b, f})
     requireSwitch(person, split);
-  line.KlasseReihe = store.KlasseReihenfolge(klasse, a.result(), b.result(), f.result());
-  line.KlasseGenau = qint16(exactClass(klasse, a.result(), b.result(), f.result()));
+  participant.KlasseReihe = store.KlasseReihenfolge(klasse, a.result(), b.result(), f.result());
+  participant.KlasseGenau = qint16(exactClass(klasse, a.result(), b.result(), f.result()));
 }
 
 } // namespace
@@ -80,14 +80,14 @@ void KlassenZuordnen(Store &store) {
       continue;
     const Person person{LaeuferLesen(store, record), record, row};
     const int year = yearOf(person.athlete.Geburtsdatum);
-    for (int k = 1; k <= 20; ++k)
+    for (const int k : ClassRows)
       if (!store.KlasseName[k].isEmpty() && store.KlasseVon[k] <= year && store.KlasseBis[k] >= year)
         assign(store, person, k);
   }
 }
 
 void takeStandardClasses(Store &store) {
-  for (int k = 1; k <= 20; ++k) {
+  for (const int k : ClassRows) {
     store.KlasseName[k] = store.StdKlasse[k].StdKlasseName;
     store.KlasseVon[k] = store.StdKlasse[k].Von;
     store.KlasseBis[k] = store.StdKlasse[k].Bis;

@@ -10,6 +10,9 @@ void KlassenZuordnen(Store &store);
 /// The three characters of a sort line that keep a class or group together.
 QString Reihungsschluessel(const Store &store, const TeilnehmerZeile &participant);
 
+/// The classes that the class table holds, and the rows of `KlasseGenauName`.
+inline constexpr Numbered ClassRows{1, 20}, ExactClasses{0, 159};
+
 /// Row of `KlasseGenauName` for a class (1 to 20) and its switches, each 0 or 1.
 constexpr int exactClass(int klasse, int a, int b, int f) {
   return (klasse - 1) * 8 + a + 2 * b + 4 * f;

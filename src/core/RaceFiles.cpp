@@ -19,17 +19,17 @@ using Names = Tabelle<QString, 0, 100>;
 void clearParticipants(Store &store) {
   for (const int row : store.Teilnehmer.rows()) {
     const TeilnehmerZeile before = store.Teilnehmer[row];
-    auto &line = store.Teilnehmer[row];
-    line = TeilnehmerZeile();
-    line.KlasseGenau = before.KlasseGenau;
-    line.WertZeit1 = before.WertZeit1;
-    line.WertZeit2 = before.WertZeit2;
-    line.WertSumme = before.WertSumme;
-    line.Rang = before.Rang;
-    line.KlasseKopf = before.KlasseKopf;
+    auto &participant = store.Teilnehmer[row];
+    participant = TeilnehmerZeile();
+    participant.KlasseGenau = before.KlasseGenau;
+    participant.WertZeit1 = before.WertZeit1;
+    participant.WertZeit2 = before.WertZeit2;
+    participant.WertSumme = before.WertSumme;
+    participant.Rang = before.Rang;
+    participant.KlasseKopf = before.KlasseKopf;
   }
-  for (int row = 0; row <= 159; ++row)
-    store.KlasseGenauName[row].clear();
+  for (const int exact : ExactClasses)
+    store.KlasseGenauName[exact].clear();
 }
 
 void readColumn(TextReader &file, int &column) {
@@ -68,14 +68,14 @@ void readNames(const QString &path, Names &names) {
 }
 
 void readClasses(Store &store, TextReader &file) {
-  for (int k = 1; k <= 20; ++k) {
+  for (const int k : ClassRows) {
     file.lineInto(store.KlasseName[k]);
     file.numberInto(store.KlasseVon[k]);
     file.numberInto(store.KlasseBis[k]);
     forEachExactClass([&](int a, int b, int f) { file.numberInto(store.KlasseReihenfolge(k, a, b, f)); });
   }
-  for (int row = 0; row <= 159; ++row)
-    file.lineInto(store.KlasseGenauName[row]);
+  for (const int exact : ExactClasses)
+    file.lineInto(store.KlasseGenauName[exact]);
 }
 
 void loadClasses(Store &store) {
@@ -124,6 +124,7 @@ QByteArray nameFile(const Names &names) {
   return file.bytes();
 }
 
+// Quirk: names behind the second alone. They are not written.
 bool isWorthWriting(const Names &names) {
   return !names[1].isEmpty() || !names[2].isEmpty();
 }
@@ -192,13 +193,13 @@ QByteArray participantFile(const Store &store) {
 
 QByteArray classFile(const Store &store, const KlassenReihenfolge &reihenfolge) {
   TextWriter file;
-  for (int k = 1; k <= 20; ++k) {
+  for (const int k : ClassRows) {
     file.text(store.KlasseName[k]);
     file.number(store.KlasseVon[k]);
     file.number(store.KlasseBis[k]);
     forEachExactClass([&](int a, int b, int f) { file.number(reihenfolge(k, a, b, f)); });
   }
-  for (int row = 0; row <= 159; ++row)
-    file.text(store.KlasseGenauName[row]);
+  for (const int exact : ExactClasses)
+    file.text(store.KlasseGenauName[exact]);
   return file.bytes();
 }

@@ -4,8 +4,8 @@
 
 // The four text files of a race: R (participants), K (classes), M (teams), G (groups).
 
-/// "R 7.dat" and its sisters, with the data folder in front; `letter` is R, K, M, G or Z. The blank in the name is
-/// meant.
+/// "R 7.dat" and its sisters, with the data folder in front; `letter` is R, K, M, G or Z.
+/// Quirk: blank in a file name. Folders of earlier years have it.
 QString raceFileName(const Store &store, char letter, int race);
 
 /// Fills all tables from the files of `AktRennen`; a missing file is no error. Without a K file the built-in classes

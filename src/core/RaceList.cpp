@@ -18,7 +18,7 @@ QStringList raceLines(const Store &store) {
   return lines;
 }
 
-// Race 0 has no record, so that it takes over the criteria of race 1, the last that was listed; this is meant.
+// Quirk: criteria of race 0. It has no record and takes over those of race 1, the last that was listed.
 QStringList RennenListeFuellen(Store &store) {
   if (store.RennenAnzahl >= 1) {
     store.RennenIdx = 1;

@@ -42,8 +42,8 @@ void writeOpenRace(Store &store);
 VereinSatz VereinLeeren(const Store &store);
 /// An athlete of whom nothing is known.
 LaeuferSatz LaeuferLeeren(const Store &store);
-/// Leaves the eight criteria and choices (`WertKlassen` … `BestzeitText`) alone, so that a new race inherits those of
-/// the race before it.
+/// Quirk: criteria are inherited. The eight criteria and choices (`WertKlassen` … `BestzeitText`) stay, so a new race
+/// has those of the race before it.
 void RennenLeeren(Store &store);
 
 /// Lines of `Form2.List1`: all clubs with a name, sorted; ends in the record number.

@@ -9,7 +9,9 @@ struct Season {
   int von, bis;
 };
 
-// Birth years of the season 2015. The gap before "Allg. Kl." and the overlap of "AK 1" and "AK 2" belong to the table.
+// Birth years of the season 2015.
+// Quirk: gap and overlap of the built-in classes. Those before "Allg. Kl." and of "AK 1" and "AK 2" belong to the
+// table.
 constexpr Season SeasonClasses[] = {
     {"Bambini 1", 2009, 2015},   {"Bambini 2", 2008, 2008},   {"Kinder U8", 2007, 2007},   {"Kinder U9", 2006, 2006},
     {"Kinder U10", 2005, 2005},  {"Kinder U11", 2004, 2004},  {"Kinder U12", 2003, 2003},  {"Schüler U13", 2002, 2002},

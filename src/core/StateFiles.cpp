@@ -63,7 +63,7 @@ void ZustandLesen(Store &store) {
   store.VextReserve = read.VextReserve;
 }
 
-void ZustandSchreiben(Store &store) {
+void ZustandSchreiben(const Store &store) {
   store.umgebung.replaceSoon(stateFilePath(store), toBytes(stateOf(store)));
 }
 
@@ -71,6 +71,6 @@ void FensterLesen(Store &store) {
   store.Fenster.load(windowFile(store));
 }
 
-void FensterSpeichern(Store &store) {
+void FensterSpeichern(const Store &store) {
   store.umgebung.replaceSoon(windowFile(store), store.Fenster.bytes());
 }

@@ -26,9 +26,9 @@ Zustand countsOnDisk(const Store &store);
 /// These with the higher counts of `wanted`, but only as far as the record files go; a count never falls.
 Zustand raisedCounts(const Store &store, const Zustand &wanted);
 /// Replaces Vext.dat.
-void ZustandSchreiben(Store &store);
+void ZustandSchreiben(const Store &store);
 
 /// Takes the positions of TopLeft.dat; does nothing without the file.
 void FensterLesen(Store &store);
 /// Replaces TopLeft.dat.
-void FensterSpeichern(Store &store);
+void FensterSpeichern(const Store &store);

@@ -32,6 +32,7 @@ std::optional<double> joinedTime(const QString &hours, const QString &minutes, c
   return h && m && s ? std::optional(3600 * *h + 60 * *m + *s) : std::nullopt;
 }
 
+// Quirk: seconds without carry. 59,996 are shown as 60,00.
 QString ZeitText(double seconds) {
   const ZeitTeile parts = ZeitZerlegen(seconds);
   QString text = spacedText(parts.ZeitStd) + QLatin1Char(':') + masked(parts.ZeitMin, "0#") + QLatin1Char(':') +

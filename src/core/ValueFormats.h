@@ -13,7 +13,8 @@ struct ZeitTeile {
 ZeitTeile ZeitZerlegen(double seconds);
 /// Seconds out of hours, minutes and seconds as typed; nothing if one of them is no number.
 std::optional<double> joinedTime(const QString &hours, const QString &minutes, const QString &seconds);
-/// A time as printed, not yet right-aligned: 1:02:05,50, 3,40, ,40 (no digit before the comma, on purpose).
+/// A time as printed, not yet right-aligned: 1:02:05,50, 3,40, ,40.
+/// Quirk: time below a second. No digit stands before the comma.
 QString ZeitText(double seconds);
 /// Text typed as a time: trimmed, empty becomes "0", the first point becomes a comma.
 QString KommaEingabe(const QString &text);

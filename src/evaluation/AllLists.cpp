@@ -27,7 +27,7 @@ public:
 
 private:
   Store &m_store;
-  Tabelle<TeilnehmerZeile, 0, 1000> m_rows;
+  decltype(Store::Teilnehmer) m_rows;
   RangTabellen m_ranking;
   MannschaftsTabellen m_teams;
   CupTabellen m_cup;

@@ -52,7 +52,7 @@ private:
   QStringList m_names;
 };
 
-// The class is the one stored with the race; that of an untouched copy of a race may be wrong. Meant.
+// Quirk: class as stored. The classes are not assigned anew here; an untouched copy of a race holds other numbers.
 QStringList gatherPersons(Store &store, const QList<int> &races) {
   Persons persons(store);
   for (const int race : races) {

@@ -19,8 +19,8 @@ struct CupResult {
 /// all. Fills the cup tables; the tables of the race are left with the last one ranked. More than ten rounds are a
 /// RangeFault.
 ///
-/// A person is a name: of two athletes with the same name only the first one found gets results. A person without a
-/// name does not take part.
+/// Quirk: a person is a name. Of two athletes with the same name only the first one found gets results; a person
+/// without a name does not take part.
 CupResult evaluateCup(Store &store, const QList<int> &races, qint64 strikes);
 
 /// The names in the order of a list of persons.

@@ -20,7 +20,7 @@ using CupListColumn = Column<CupLine>;
 using enum Alignment;
 
 QString clubText(const Store &store, const LaeuferSatz &athlete) {
-  // The second club is passed over, and the club of the race plays no part; this is meant.
+  // Quirk: second club passed over. The club of the race plays no part either.
   for (const int club : {int(athlete.Verein1), int(athlete.Verein3)})
     if (club != 0 && club <= store.VereinAnzahl)
       return trimmedBlanks(VereinLesen(store, club).VereinKurz);

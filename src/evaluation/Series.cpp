@@ -50,7 +50,7 @@ void rankUnder(Store &store, const Kriterien &kriterien) {
 }
 
 void keepClassNames(Store &store) {
-  for (int klasse = 0; klasse <= 159; ++klasse)
+  for (const int klasse : ExactClasses)
     store.cup.CupKlasseName[klasse] = store.KlasseGenauName[klasse];
 }
 

@@ -28,7 +28,8 @@ void keepClassNames(Store &store);
 /// Row of each athlete; of an athlete in several rows the last.
 QHash<int, int> rowsOfAthletes(const Store &store);
 
-/// Number that the evaluations read at the head of a line of the race list; it holds three digits at most.
+/// Number that the evaluations read at the head of a line of the race list.
+/// Quirk: race numbers above 999. Three digits are read at most.
 int scoredRaceOfLine(const QString &line);
 /// The races of the marked lines.
 QList<int> markedRaces(const QStringList &lines, const QList<int> &marked);

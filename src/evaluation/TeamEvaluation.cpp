@@ -19,7 +19,7 @@ QString blanks(int count) {
   return QString(count, QLatin1Char(' '));
 }
 
-// A row without a club of its own keeps what it had: that is meant.
+// Quirk: club from before. A row without a club of its own keeps the one found in an earlier evaluation.
 void findClubs(Store &store) {
   for (const int row : store.Teilnehmer.rows()) {
     const auto &participant = store.Teilnehmer[row];
@@ -99,7 +99,7 @@ int unitOfRow(const Store &store, Einheit einheit, int row) {
   }
 }
 
-// With nothing chosen every row counts for every unit: that is meant.
+// Quirk: no kind of unit chosen. Then every row counts for every unit.
 bool countsFor(const Store &store, Einheit einheit, int row, int unit) {
   return einheit == Einheit::Keine || unitOfRow(store, einheit, row) == unit;
 }
@@ -117,7 +117,7 @@ bool exists(const Store &store, Einheit einheit, int unit) {
   }
 }
 
-// Only with a filter are the marks of an earlier sum taken away: that is meant.
+// Quirk: bold from an earlier sum. Only a filter takes the marks of an earlier sum away.
 void prepareFilter(Store &store, WertungsFilter filter) {
   if (filter == WertungsFilter::Gemischt)
     return;

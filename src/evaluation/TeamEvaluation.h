@@ -28,8 +28,8 @@ struct Wertung {
 };
 
 /// Takes away the marks of an earlier sum, finds the club of each row, ranks the race and numbers the clubs that take
-/// part. Rows without a club of their own keep the one that stood there before, and such a club is numbered too. The
-/// hundredth number is given anew to each further club.
+/// part. Rows without a club of their own keep the one that stood there before, and such a club is numbered too.
+/// Quirk: hundredth club. Its number is given anew to each further club.
 void prepareUnits(Store &store);
 
 /// Short names of the numbered clubs.

@@ -104,7 +104,7 @@ private:
     printLogo(m_druck, 120, 11);
   }
 
-  // Italic stays on down to the web address: that is meant.
+  // Quirk: italic head of the unit list. It stays on down to the web address.
   void printTitle() {
     const auto &race = m_store.Rennen;
     const QString &title = race.RennenKurz.isEmpty() ? race.RennenName : race.RennenKurz;

@@ -15,7 +15,8 @@
 
 namespace {
 
-// The table is not emptied first: entries behind the last row keep what an earlier cup or time sum left; meant.
+// Quirk: persons left over. The table is not emptied first: entries behind the last row keep what an earlier cup or
+// time sum left.
 void takeBaseRace(Store &store, int race) {
   loadRaceTables(store, race);
   readOpenRace(store);
@@ -47,8 +48,8 @@ void addTimes(Store &store) {
   }
 }
 
-// The race record is read behind the ranking, so each round is ranked with the surcharges of the round before it, and
-// the first one with those of the base race; this is meant.
+// Quirk: surcharges one round late. The race record is read behind the ranking, so each round is ranked with those of
+// the round before it, and the first one with those of the base race.
 void addRound(Store &store, int race, const Kriterien &kriterien) {
   loadRaceTables(store, race);
   dropSecondRun(store);

@@ -25,7 +25,7 @@ struct Entry {
   QString trouble;
 };
 
-/// The lines of a table as its columns are meant.
+/// The lines of a table, read by the kinds of its columns.
 QList<Entry> entriesOf(const Table &table, const Columns &columns, QDate today);
 
 /// "FAMILIENNAME Vorname" of a whole name: words in capitals, or what stands before a comma, are the family's, else the

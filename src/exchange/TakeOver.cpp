@@ -15,8 +15,6 @@
 
 namespace {
 
-constexpr int LastRow = 1000;
-
 /// While it lives, what follows the writing of a record is kept back: state files and syncs come once, at the end.
 class Batch {
 public:
@@ -190,7 +188,7 @@ private:
 
 int freeRows(const Store &store) {
   int free = 0;
-  for (int row = 1; row <= LastRow; ++row)
+  for (const int row : store.Teilnehmer.rows())
     free += store.Teilnehmer[row].LaeuferNr == 0;
   return free;
 }

@@ -114,7 +114,7 @@ Hint Hints::teamsIncomplete(const Situation &now) {
 
 Hint Hints::clubsLeftOver(const Situation &now) {
   int rows = 0;
-  for (int row = 1; row <= now.store.Teilnehmer.last(); ++row)
+  for (const int row : now.store.Teilnehmer.rows())
     rows += keepsClub(now.store, row);
   if (rows == 0)
     return {};
@@ -133,7 +133,7 @@ Hint Hints::nothingToRank(const Situation &now) {
 
 Hint Hints::tooManyClubs(const Situation &now) {
   QSet<int> clubs;
-  for (int row = 1; row <= now.store.Teilnehmer.last(); ++row)
+  for (const int row : now.store.Teilnehmer.rows())
     clubs << now.store.mannschaften.VereinRecNr[row];
   clubs.remove(0);
   if (clubs.size() <= MostUnits)

@@ -16,11 +16,11 @@
 
 namespace {
 
-constexpr int Rows = 1000, RowsNearlyAll = 990;
+constexpr int Rows = decltype(Store::Teilnehmer)::last(), RowsNearlyAll = Rows - 10;
 
 int usedRows(const Store &store) {
   int used = 0;
-  for (int row = 1; row <= Rows; ++row)
+  for (const int row : store.Teilnehmer.rows())
     used += store.Teilnehmer[row].LaeuferNr != 0;
   return used;
 }
@@ -50,7 +50,7 @@ bool rowsHaveMoved(const Store &store) {
   before->DatenOrdner = store.DatenOrdner;
   before->AktRennen = store.AktRennen;
   loadSingleTimes(*before);
-  for (int row = 1; row <= Rows; ++row)
+  for (const int row : store.Teilnehmer.rows())
     if (const int athlete = store.Teilnehmer[row].LaeuferNr; athlete != 0 && athlete != before->cup.CupLaeufer[row])
       return true;
   return false;
@@ -157,7 +157,7 @@ Hint Hints::participantsWithoutName(const Situation &now) {
 Hint Hints::participantsWithoutSex(const Situation &now) {
   if (now.store.Rennen.WertGeschlecht == 0)
     return {};
-  return {aboutStarters(namesOf(now, [](const Starter &starter) { return starter.athlete.Geschlecht == 2; }),
+  return {aboutStarters(namesOf(now, [](const Starter &starter) { return starter.athlete.Geschlecht == Sex::NotSet; }),
                         "Teilnehmer hat", "Teilnehmer haben",
                         "%1 kein Geschlecht: bei „Läufer“ eintragen, sonst endet beim Bilden der Klassen das Programm "
                         "(%2).")};

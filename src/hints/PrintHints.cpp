@@ -131,7 +131,7 @@ Hint Hints::titleTooLong(const Situation &now) {
 Hint Hints::printedWithoutSex(const Situation &now) {
   if (now.store.Rennen.WertGeschlecht != 0)
     return {};
-  return {aboutStarters(namesOf(now, [](const Starter &starter) { return starter.athlete.Geschlecht == 2; }),
+  return {aboutStarters(namesOf(now, [](const Starter &starter) { return starter.athlete.Geschlecht == Sex::NotSet; }),
                         "Teilnehmer hat", "Teilnehmer haben", "%1 kein Geschlecht, auf Listen steht „w“ (%2).")};
 }
 

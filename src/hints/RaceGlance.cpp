@@ -1,5 +1,6 @@
 #include "hints/RaceGlance.h"
 
+#include "core/Classes.h"
 #include "core/RaceFiles.h"
 #include "core/RecordFiles.h"
 #include "evaluation/Cup.h"
@@ -20,7 +21,7 @@ QList<QDateTime> stampsOf(const Store &store, int number) {
 }
 
 void takeParticipants(const Store &race, RaceGlance &glance) {
-  for (int row = 1; row <= race.Teilnehmer.last(); ++row) {
+  for (const int row : race.Teilnehmer.rows()) {
     const TeilnehmerZeile &participant = race.Teilnehmer[row];
     if (participant.LaeuferNr == 0)
       continue;
@@ -33,7 +34,7 @@ void takeParticipants(const Store &race, RaceGlance &glance) {
 
 QString classesOf(const Store &race) {
   QString classes;
-  for (int k = 1; k <= 20; ++k)
+  for (const int k : ClassRows)
     classes += QStringLiteral("%1 %2 %3\n").arg(race.KlasseName[k]).arg(race.KlasseVon[k]).arg(race.KlasseBis[k]);
   return classes;
 }

@@ -124,7 +124,7 @@ Hint Hints::invalidDate(const Situation &now) {
 
 Hint Hints::athleteWithoutSex(const Situation &now) {
   const LaeuferSatz stored = storedAthlete(now);
-  if (stored.Name.isEmpty() || stored.Geschlecht != 2)
+  if (stored.Name.isEmpty() || stored.Geschlecht != Sex::NotSet)
     return {};
   return {QStringLiteral("Das Geschlecht fehlt%1: In einem Rennen nach m/w endet damit das Programm.").arg(raceOf(now)),
           QStringLiteral("Option1")};

@@ -12,7 +12,7 @@ QList<Starter> startersOf(const Store &store) {
   QList<Starter> starters;
   if (store.TabellenRennen < 0)
     return starters;
-  for (int row = 1; row <= store.Teilnehmer.last(); ++row) {
+  for (const int row : store.Teilnehmer.rows()) {
     const TeilnehmerZeile &participant = store.Teilnehmer[row];
     if (participant.LaeuferNr == 0)
       continue;

@@ -15,12 +15,14 @@ int heldAthlete(const Store &store, qint64 n);
 std::optional<int> previousAthlete(const Store &store, qint64 shown);
 /// The athlete behind, at the end a new one if the last has a name and a birth date; nothing if there is none.
 std::optional<int> nextAthlete(Store &store, qint64 shown, const QString &name, const QString &birthDate);
-/// Whether the text is exactly "1.1.1900". A comparison of texts on purpose: "01.01.1900" is something else.
+/// Whether the text is exactly "1.1.1900".
+/// Quirk: undated by its text. "01.01.1900" is something else.
 bool looksUndated(const QString &birthDate);
 /// Reads athlete n anew, changes him and writes him; gives him as he is now.
 LaeuferSatz changeAthlete(Store &store, int n, const std::function<void(LaeuferSatz &)> &change);
-/// Stores a typed birth date and gives the text that its field shows then. Two characters are a year, 00 to 09 of 20xx
-/// and all others of 19xx, however young the athlete may be. What is no date gives the empty text and stores nothing.
+/// Stores a typed birth date and gives the text that its field shows then. What is no date gives the empty text and
+/// stores nothing.
+/// Quirk: year of two digits. 00 to 09 are of 20xx and all others of 19xx, however young the athlete may be.
 QString storeBirthDate(Store &store, int n, const QString &typed);
 /// All athletes with a name, a line of heads first: name, birth date, sex, clubs, federation number, points.
 QList<QStringList> athleteTable(const Store &store);

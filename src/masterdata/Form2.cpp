@@ -25,7 +25,7 @@ void Form2::connectFields() {
               {ui->Text5, &VereinSatz::VereinOesvNr, ui->Text5},
               {ui->Text6, &VereinSatz::Ansprechpartner, ui->Text6},
               {ui->Text7, &VereinSatz::Adresse, ui->Text7},
-              // The telephone takes the text of the contact person; it is meant.
+              // Quirk: telephone takes the contact person.
               {ui->Text8, &VereinSatz::Telefon, ui->Text6},
               {ui->Text9, &VereinSatz::Handy, ui->Text9},
               {ui->Text10, &VereinSatz::Homepage, ui->Text10},

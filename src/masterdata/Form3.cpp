@@ -102,8 +102,8 @@ LaeuferSatz Form3::change(const std::function<void(LaeuferSatz &)> &change) {
   return changeAthlete(m_store, m_shown, change);
 }
 
-// They are shown with a comma and read only up to it; it is meant. A number that the box could not give back is not
-// taken.
+// Quirk: athlete points lose their fraction. They are shown with a comma and read only up to it. A number that the box
+// could not give back is not taken.
 void Form3::storePoints() {
   const auto points = typedSingle(ui->Text5->text());
   const auto take = [points](LaeuferSatz &athlete) { athlete.LaeuferPunkte = points.value_or(athlete.LaeuferPunkte); };

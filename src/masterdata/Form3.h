@@ -28,7 +28,8 @@ public:
   /// Goes to a record, held to the register.
   void showRecord(qint64 record);
   /// Starts a new entry: goes to the first record without a name and puts the text into the name field, which gets the
-  /// focus. Without such a record it lands on the last athlete, who is then renamed by it; it is meant.
+  /// focus.
+  /// Quirk: new entry renames the last athlete. It lands on him if no record is without a name.
   void startNewEntry(const QString &name);
   /// Shows what a table of entries has brought.
   void showEntered();

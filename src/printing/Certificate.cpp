@@ -40,7 +40,8 @@ void printHeading(const Store &store, Druckschicht &druck) {
                      place.height);
 }
 
-// The sum alone decides, not the sex: a man with the best sum of the women gets the remark too; this is meant.
+// Quirk: best time on certificates. The sum alone decides, not the sex: a man with the best sum of the women gets the
+// remark too.
 QString timeLine(const Store &store, const Druckschicht &druck, const TeilnehmerZeile &participant, int sex) {
   QString line = QStringLiteral("Zeit: ") + ZeitDruckText(druck, participant.WertSumme);
   const double sum = participant.WertSumme;
@@ -82,6 +83,7 @@ void printFoot(const Store &store, Druckschicht &druck) {
 
 } // namespace
 
+// Quirk: title of a certificate. However long it is, its size stays.
 void Deckkopf(const Store &store, Druckschicht &druck) {
   druck.FontName = QStringLiteral("Times");
   setFont(druck, 24, false);

@@ -61,7 +61,7 @@ void StartlisteZweiterDurchgang(Store &store, Druckschicht &druck) {
   int lastSection = 0;
   for (const QString &line : lines) {
     const int row = numberAtEnd(line);
-    if (store.Teilnehmer[row].StartNr == 0)
+    if (store.Teilnehmer[row].StartNr == 0) // Quirk: number 0 ends the list.
       break;
     if (const int section = sectionOfLine(line); section != lastSection) {
       lastSection = section;
@@ -84,7 +84,7 @@ void NichtInDerWertung(const Store &store, Druckschicht &druck) {
     CountedPages pages(store, druck, head, unrankedColumns(store));
     for (const QString &line : lines) {
       const int row = numberAtEnd(line);
-      if (store.Teilnehmer[row].StartNr == 0)
+      if (store.Teilnehmer[row].StartNr == 0) // Quirk: number 0 ends the list.
         break;
       pages.printRow(row);
     }

@@ -20,7 +20,8 @@ void NichtInDerWertung(const Store &store, Druckschicht &druck);
 
 /// The three lines that replace place and time.
 using UrkundenText = std::array<QString, 3>;
-/// The certificate of one participant row, from what the last ranking left.
+/// The certificate of one participant row.
+/// Quirk: certificates rank nothing. Place and time are what the last ranking left, be it of the first run or one club.
 void Urkunde(const Store &store, Druckschicht &druck, int row, const std::optional<UrkundenText> &text);
 
 /// What certificate and title page begin with: organisation, logo, line and the name of the race.

@@ -87,7 +87,7 @@ void Form8::showPrinter() {
   ui->ausgabe->tell(m_printers.outcome());
 }
 
-// With nothing chosen in the list of clubs nobody passes: that is meant.
+// Quirk: club filter without a club. Nobody passes.
 std::optional<int> Form8::clubFilter() const {
   if (!ui->Check1->isChecked())
     return {};

@@ -62,8 +62,7 @@ bool hasBestTime(const RangTabellen &ranking, const ListLine &line) {
          (sex != Sex::Male || line.participant.WertSumme == ranking.BestzeitHerren);
 }
 
-// The time alone decides; a person without sex gets the remark too, and where no text fits the last one again. This is
-// meant.
+// Quirk: remark by the time alone. A person without sex gets it too, and where no text fits the last one again.
 ListColumn remarkColumn(const Store &store) {
   const int choice = store.Rennen.BestzeitText;
   const auto remark = [&store, choice, last = QString()](const ListLine &line) mutable {
@@ -81,7 +80,7 @@ ListColumn classColumn(const Store &store, double x) {
           [&store](const ListLine &line) { return classOrGroup(store, line.participant); }};
 }
 
-// The plain class stands here, not the exact one of the other lists; this is meant.
+// Quirk: plain class of the unranked. The other lists show the exact one.
 ListColumn plainClassColumn(const Store &store, double x) {
   return {classHead(store), x, Left, 9, [&store](const ListLine &line) {
             return store.Rennen.WertKlassen == 0 ? store.GruppeName[line.participant.GruppeNr]
@@ -121,7 +120,7 @@ ListColumns resultColumns(const Store &store) {
   return columns << remarkColumn(store);
 }
 
-// Only two races are shown, however many the sum holds.
+// Quirk: combined list shows two races. The sum may hold more.
 ListColumns combinedColumns(const Store &store) {
   return {placeColumn(),
           nameColumn(20, 10, 26),

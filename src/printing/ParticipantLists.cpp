@@ -23,6 +23,7 @@ public:
       const int row = numberAtEnd(line);
       auto &participant = m_store.Teilnehmer[row];
       markSection(participant, line);
+      // Quirk: number 0 ends the list. Whoever stands behind it is left out.
       if (participant.StartNr == 0)
         break;
       if (participant.KlasseKopf != 0)
@@ -35,7 +36,7 @@ public:
 private:
   void printHead() { Seitenkopf(m_store, m_druck, ListHeads::participants(), m_columns, m_page); }
 
-  // The number starts at 0, so a first section 000 has no band; this is meant.
+  // Quirk: no band for section 000. The number starts at 0.
   void markSection(TeilnehmerZeile &participant, const QString &line) {
     const int section = sectionOfLine(line);
     participant.KlasseKopf = section != m_section ? 1 : 0;
@@ -50,7 +51,7 @@ private:
     Klassenbalken(m_store, m_druck, participant, m_line, 20, 170, 79);
   }
 
-  // A continued class shows no name on the new page; this is meant.
+  // Quirk: continued class without a name. The new page begins with its lines.
   void breakIfFull(double limit) {
     if (!isPageFull(m_druck, m_line, limit))
       return;
@@ -90,7 +91,7 @@ void AlphabetischeListe(const Store &store, Druckschicht &druck) {
   printHead();
   for (const QString &line : lines) {
     const int row = numberAtEnd(line);
-    if (store.Teilnehmer[row].StartNr == 0)
+    if (store.Teilnehmer[row].StartNr == 0) // Quirk: number 0 ends the list.
       break;
     if (isPageFull(druck, ++pageLine, LineLimit)) {
       pageLine = 1;

@@ -1,5 +1,6 @@
 #include "printing/PrintChoices.h"
 
+#include "core/Classes.h"
 #include "core/Participants.h"
 #include "core/RecordFiles.h"
 #include "platform/Numbers.h"
@@ -29,7 +30,7 @@ QStringList rankingLines(const Store &store) {
 
 QStringList classNames(const Store &store) {
   QStringList names;
-  for (int klasse = 1; klasse <= 20; ++klasse)
+  for (const int klasse : ClassRows)
     names.append(store.KlasseName[klasse]);
   return names;
 }

@@ -25,7 +25,7 @@ public:
     for (const int place : m_store.ranking.RangListe.rows()) {
       const int row = m_store.ranking.RangListe[place];
       const auto &participant = m_store.Teilnehmer[row];
-      if (participant.StartNr == 0)
+      if (participant.StartNr == 0) // Quirk: number 0 ends the list.
         break;
       if (statusSum(participant) > 0)
         continue;
@@ -41,8 +41,8 @@ private:
 
   void printHead() { Seitenkopf(m_store, m_druck, listHead(), m_columns, m_page, m_club); }
 
-  // One empty line stands above each band but the first. On the combined list a band that broke the page is drawn a
-  // second time on the line below; this is meant.
+  // One empty line stands above each band but the first.
+  // Quirk: band drawn twice. On the combined list a band that broke the page is drawn a second time on the line below.
   void startSection(const TeilnehmerZeile &participant) {
     if (m_bands++ == 0)
       --m_line;
@@ -59,7 +59,7 @@ private:
     Klassenbalken(m_store, m_druck, participant, m_line, 4, 200, textX);
   }
 
-  // The band on top of a new page stands at the place of the plain list on both lists; this is meant.
+  // Quirk: band on top of a page. It stands at the place of the plain list on both lists.
   void breakPage(const TeilnehmerZeile &participant) {
     m_line = 1;
     m_druck.NewPage();

@@ -67,7 +67,7 @@ const ListHead &ListHeads::unranked() {
   return head;
 }
 
-// Italic stays on down to the date: that is meant.
+// Quirk: italic head of a list. It stays on down to the date.
 void beginHead(const Store &store, Druckschicht &druck, const ListHead &head, int page, const QString &suffix) {
   printTitle(store, druck, head);
   printAt(druck, 22, 22, 18, head.name + suffix);

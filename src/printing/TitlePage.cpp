@@ -14,7 +14,7 @@ struct Counts {
   int imZiel() const { return amStart - disqualifiziert - nichtImZiel; }
 };
 
-// Nobody is moved from one count to another: a row with two different statuses counts in both; this is meant.
+// Quirk: two statuses count twice. Nobody is moved from one count to another.
 Counts countField(const Store &store) {
   Counts counts;
   for (const int row : store.Teilnehmer.rows()) {

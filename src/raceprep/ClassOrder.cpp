@@ -32,7 +32,7 @@ int highestNumber(const KlasseNummerRaster &raster) {
 
 QList<GridCell> gridCells(const Store &store) {
   QList<GridCell> cells;
-  for (int k = 1; k <= 20; ++k)
+  for (const int k : ClassRows)
     if (!store.KlasseName[k].isEmpty())
       forEachExactClass([&](int a, int b, int f) { cells.append({k, a, b, f}); });
   return cells;

@@ -4,7 +4,8 @@
 
 // The grid in which the exact classes of a race get their order numbers. Its cells run on over the classes in use,
 // eight for each; a cell is the exact class of the same number only as long as no empty row lies inside the class
-// table. Behind such a row the exact names land eight entries too early; this is meant.
+// table.
+// Quirk: exact names behind an empty class. They land eight entries too early.
 
 /// The working copy of the order numbers, one for each cell; carried into `KlasseReihenfolge` by storeGrid alone.
 using KlasseNummerRaster = Tabelle<qint16, 0, 159>;

@@ -10,14 +10,14 @@ namespace {
 
 constexpr int FirstYear = 1900;
 constexpr int LowestYear = std::numeric_limits<int>::min(); // a file may hold any
-constexpr int LastRow = 20;
+constexpr int LastClass = 20;
 constexpr int NameWidth = 20;
 
 int lastNamedRow(const Store &store) {
-  int row = LastRow;
-  while (row > 0 && store.KlasseName[row].isEmpty())
-    --row;
-  return row;
+  int klasse = LastClass;
+  while (klasse > 0 && store.KlasseName[klasse].isEmpty())
+    --klasse;
+  return klasse;
 }
 
 void setOuterLimits(Store &store, int last) {
@@ -27,32 +27,33 @@ void setOuterLimits(Store &store, int last) {
 }
 
 void clearBehind(Store &store, int last) {
-  for (int row = last + 1; row <= LastRow; ++row) {
-    store.KlasseName[row].clear();
-    store.KlasseVon[row] = store.KlasseBis[row] = 0;
+  for (int klasse = last + 1; klasse <= LastClass; ++klasse) {
+    store.KlasseName[klasse].clear();
+    store.KlasseVon[klasse] = store.KlasseBis[klasse] = 0;
   }
 }
 
-// The first limits of all rows come before the second ones of any: a typed last year lives only if it lies below the
-// first, and a class added behind the last one takes two runs to get its years. Both are meant.
+// Quirk: years in one pass. The first limits of all rows come before the second ones of any: a typed last year lives
+// only if it lies below the first, and a class added behind the last one takes two runs to get its years.
 void closeRanks(Store &store, int last) {
-  for (int row = 1; row <= last; ++row)
-    store.KlasseVon[row] = std::min(store.KlasseVon[row], store.KlasseBis[row]);
-  for (int row = 1; row < last; ++row)
-    store.KlasseBis[row + 1] = std::max(store.KlasseVon[row], LowestYear + 1) - 1;
+  for (int klasse = 1; klasse <= last; ++klasse)
+    store.KlasseVon[klasse] = std::min(store.KlasseVon[klasse], store.KlasseBis[klasse]);
+  for (int klasse = 1; klasse < last; ++klasse)
+    store.KlasseBis[klasse + 1] = std::max(store.KlasseVon[klasse], LowestYear + 1) - 1;
 }
 
-QString classLine(const Store &store, int row) {
+QString classLine(const Store &store, int klasse) {
   return QStringLiteral("%1 %2  %3 - %4  (%5/%6)")
-      .arg(rightAligned(plainText(row), 2), padded(store.KlasseName[row], NameWidth), plainText(store.KlasseVon[row]),
-           plainText(store.KlasseBis[row]), plainText(store.KlasseAnzahlOk[row]), plainText(store.KlasseAnzahl[row]));
+      .arg(rightAligned(plainText(klasse), 2), padded(store.KlasseName[klasse], NameWidth),
+           plainText(store.KlasseVon[klasse]), plainText(store.KlasseBis[klasse]),
+           plainText(store.KlasseAnzahlOk[klasse]), plainText(store.KlasseAnzahl[klasse]));
 }
 
 QStringList classLines(const Store &store) {
   QStringList lines;
-  for (int row = 1; row <= LastRow; ++row)
-    if (!store.KlasseName[row].isEmpty())
-      lines << classLine(store, row);
+  for (int klasse = 1; klasse <= LastClass; ++klasse)
+    if (!store.KlasseName[klasse].isEmpty())
+      lines << classLine(store, klasse);
   return lines;
 }
 
@@ -67,8 +68,8 @@ QStringList KlassenAktualisieren(Store &store) {
   return classLines(store);
 }
 
-void deleteClass(Store &store, int row) {
-  for (int i = row; i <= LastRow; ++i) {
+void deleteClass(Store &store, int klasse) {
+  for (int i = klasse; i <= LastClass; ++i) {
     store.KlasseName[i] = store.KlasseName[i + 1];
     store.KlasseVon[i] = store.KlasseVon[i + 1];
     store.KlasseBis[i] = store.KlasseBis[i + 1];

@@ -50,12 +50,12 @@ void Form10::refresh() {
   ui->List1->fill(KlassenAktualisieren(m_store));
 }
 
-int Form10::row() const {
+int Form10::shownClass() const {
   return int(wholeNumber(ui->Text5->text()));
 }
 
-// The line's position is taken for the row also where an empty row lies inside the table; this is meant. The change
-// rules stay silent: they would hold 17 to 20 to 16 and rename that class.
+// Quirk: line taken for the class number. An empty row inside the table shifts it. The change rules stay silent: they
+// would hold 17 to 20 to 16 and rename that class.
 void Form10::chooseLine(int line) {
   const QSignalBlocker number(ui->Text5), name(ui->Text6);
   ui->Text5->setText(plainText(line + 1));
@@ -71,22 +71,22 @@ void Form10::numberChanged() {
 }
 
 void Form10::nameChanged() {
-  if (row() >= 1 && row() <= LastEditableClass)
-    m_store.KlasseName[row()] = trimmedBlanks(ui->Text6->text());
+  if (shownClass() >= 1 && shownClass() <= LastEditableClass)
+    m_store.KlasseName[shownClass()] = trimmedBlanks(ui->Text6->text());
 }
 
 void Form10::storeYear(bool first) {
   QLineEdit *field = first ? ui->Text1 : ui->Text2;
   const int year = heldYear(m_store, field->text());
   field->setText(plainText(year));
-  (first ? m_store.KlasseVon : m_store.KlasseBis)[row()] = year;
+  (first ? m_store.KlasseVon : m_store.KlasseBis)[shownClass()] = year;
   refresh();
 }
 
-void Form10::showClass(int row) {
-  ui->Text6->setText(m_store.KlasseName[row]);
-  ui->Text1->setText(plainText(m_store.KlasseVon[row]));
-  ui->Text2->setText(plainText(m_store.KlasseBis[row]));
+void Form10::showClass(int klasse) {
+  ui->Text6->setText(m_store.KlasseName[klasse]);
+  ui->Text1->setText(plainText(m_store.KlasseVon[klasse]));
+  ui->Text2->setText(plainText(m_store.KlasseBis[klasse]));
 }
 
 void Form10::enableFields(bool enabled) {

@@ -35,12 +35,12 @@ private:
   void numberChanged();
   void nameChanged();
   void storeYear(bool first);
-  void showClass(int row);
+  void showClass(int klasse);
   void enableFields(bool enabled);
   void deleteChosen();
   void askForStandard(bool ask);
   void loadStandard();
-  int row() const;
+  int shownClass() const;
 
   Store &m_store;
   std::unique_ptr<Ui::Form10> ui;

@@ -45,8 +45,8 @@ void Form14::setPair(QCheckBox *one, QCheckBox *zero, quint8 &field) {
   });
 }
 
-// Read with a point and shown with a comma: leaving 1,5 once more makes it 1. This is meant. What the box could not
-// give back is not taken.
+// Quirk: surcharge loses its fraction. Read with a point and shown with a comma: leaving 1,5 once more makes it 1. What
+// the box could not give back is not taken.
 void Form14::setSurcharge(QLineEdit *text, double &field) {
   text->setText(plainText(field));
   onLeave(text, [this, text, &field] {

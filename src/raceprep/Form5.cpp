@@ -66,7 +66,7 @@ void Form5::connectKeys() {
 }
 
 void Form5::becomeActive() {
-  // A register that is not filtered is not filled anew: a new athlete appears with "alle zeigen" only; it is meant.
+  // Quirk: unfiltered register not renewed. A new athlete appears with "alle zeigen" only.
   if (!athleteSearch(ui->Text1->text()).isEmpty())
     fillAthletes();
   fillParticipants();

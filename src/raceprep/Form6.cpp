@@ -93,7 +93,7 @@ void Form6::storeCombo(QComboBox *combo, const std::function<void(TeilnehmerZeil
   });
 }
 
-// The flags go to the row in work, not to the row shown: after a numbering run that is another one, which is meant.
+// Quirk: flag after the draw. It goes to the row in work, not to the row shown: after a numbering run that is another.
 void Form6::storeCheck(QCheckBox *check, const std::function<void(TeilnehmerZeile &, bool)> &store) {
   onLeave(check, [this, check, store] { store(m_store.Teilnehmer[m_store.TnIdx], check->isChecked()); });
 }
@@ -222,7 +222,7 @@ void Form6::storeNumber() {
   const auto number = shortNumber(ui->Text1->text());
   if (!number)
     return m_store.umgebung.beep();
-  // The own number counts as in use too, on purpose: red without harm.
+  // Quirk: own number is red. It counts as in use too; red without harm.
   if (isNumberTaken(m_store, *number)) {
     showNumberIs(InUse, QStringLiteral("schon vergeben"));
     return;

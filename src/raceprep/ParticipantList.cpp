@@ -27,9 +27,9 @@ QString sortPrefix(int row, int order) {
 }
 
 QString participantLine(const Store &store, int row, const LaeuferSatz &athlete, int order) {
-  const auto &line = store.Teilnehmer[row];
-  return sortPrefix(row, order) + athlete.Name + QStringLiteral("   ") + clubText(store, athlete, line) +
-         QString(50, QLatin1Char(' ')) + masked(row, "0###") + masked(line.LaeuferNr, "0#####");
+  const auto &participant = store.Teilnehmer[row];
+  return sortPrefix(row, order) + athlete.Name + QStringLiteral("   ") + clubText(store, athlete, participant) +
+         QString(50, QLatin1Char(' ')) + masked(row, "0###") + masked(participant.LaeuferNr, "0#####");
 }
 
 // The columns that belong to the participant and move with him.
@@ -87,7 +87,7 @@ AthleteClubs clubsOfAthlete(const Store &store, const LaeuferSatz &athlete) {
     const int club = slots[std::size_t(slot - 1)];
     if (!isClub(store, club))
       continue;
-    // The dash stands before a lone club of a later slot too; it is meant.
+    // Quirk: dash before a lone club. It stands before the only one too if that is in a later slot.
     clubs.text += (slot > 1 ? QStringLiteral(" - ") : QString()) + shortNameOfClub(store, club);
     clubs.lastSlot = slot;
     ++clubs.count;

@@ -17,8 +17,8 @@ QStringList athleteLines(const Store &store, const QString &beginning);
 /// The orders of `Form5.Combo1`, by position.
 enum ListOrder { ByName = 0, ByEntry = 1, LatestFirst = 2 };
 /// Lines of `Form5.List2`: the participants whose name in upper case begins with `beginning` as it stands, sorted; ends
-/// in four digits of the table row and six of the record number. The orders by entry sort unpadded digits as text on
-/// purpose: 1, 10, 100, 2.
+/// in four digits of the table row and six of the record number.
+/// Quirk: order by entry. It sorts unpadded digits as text: 1, 10, 100, 2.
 QStringList TeilnehmerlisteFuellen(const Store &store, const QString &beginning, int order);
 /// The table row in a line of `Form5.List2`; the record number is the number at its end.
 int rowOfLine(QStringView line);
@@ -36,6 +36,7 @@ bool isParticipant(const Store &store, int athlete);
 /// Takes an athlete into the first free row; with exactly one club he starts for that one, in slot `lastSlot`. Nothing
 /// but a beep if all 1000 rows are in use.
 void addParticipant(Store &store, int athlete, int clubCount, int lastSlot);
-/// All rows behind `row` move up by one, times included. `ZeitReserve`, `KlasseGenau` and what the ranking left stay
-/// with their rows, and row 1000 is not cleared; both on purpose.
+/// All rows behind `row` move up by one, times included.
+/// Quirk: rows move up in part. `ZeitReserve`, `KlasseGenau` and what the ranking left stay with their rows, and row
+/// 1000 is not cleared.
 void removeParticipant(Store &store, int row);

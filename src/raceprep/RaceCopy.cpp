@@ -14,8 +14,8 @@ namespace {
 constexpr int HighestNumber = 30000;
 
 /// Writes the columns of a row as copies have them: without results these and start number and fee are 0, as a number
-/// line each; with them some have no blanks around. The last column is the order number and not the exact class as in
-/// every other R file. This is meant.
+/// line each; with them some have no blanks around.
+/// Quirk: last column of a copy. It is the order number and not the exact class as in every other R file.
 class ColumnCopy {
 public:
   ColumnCopy(TextWriter &file, const TeilnehmerZeile &row, bool withResults)

@@ -30,7 +30,7 @@ void openRaceNumbered(Store &store, const QString &number) {
   RennDatenLaden(store);
 }
 
-QString previousRaceText(Store &store, const QString &number) {
+QString previousRaceText(const Store &store, const QString &number) {
   const qint64 before = wholeNumber(number) - 1;
   if (before < 1)
     store.umgebung.beep();
@@ -47,7 +47,8 @@ std::optional<QString> nextRaceText(Store &store, const QString &number, const Q
   return QString::number(next);
 }
 
-// The first name goes into record 1, but the open race stays number 0 until another one is opened; this is meant.
+// Quirk: first race is race 0. The first name goes into record 1, but the open race stays number 0 until another one
+// is opened.
 void enterRaceName(Store &store, const QString &name) {
   RennenLesen(store);
   store.Rennen.RennenName = trimmedBlanks(name);

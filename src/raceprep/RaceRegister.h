@@ -14,7 +14,7 @@ int raceToOpenFirst(const Store &store);
 void openRaceNumbered(Store &store, const QString &number);
 
 /// Text of the number before, at least 1; a beep if there is none.
-QString previousRaceText(Store &store, const QString &number);
+QString previousRaceText(const Store &store, const QString &number);
 /// Text of the number behind. Beyond the last race that race is made, without a name and with the criteria of the race
 /// before it; but nothing is made or given behind a race whose `name` is blank.
 std::optional<QString> nextRaceText(Store &store, const QString &number, const QString &name);

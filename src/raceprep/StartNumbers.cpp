@@ -32,8 +32,9 @@ bool fitsColumn(qint64 number) {
   return number >= std::numeric_limits<int>::min() && number <= std::numeric_limits<int>::max();
 }
 
-// Counts on from `number` over the lines, and on by `reserve` where the key changes. The counter of the loop is the
-// row in work of the whole program, on purpose: a flag left before the next participant is chosen goes to that row.
+// Counts on from `number` over the lines, and on by `reserve` where the key changes.
+// Quirk: flag after the draw. The counter of the loop is the row in work of the whole program, so a flag left before
+// the next participant is chosen goes to that row.
 void handOut(Store &store, const QStringList &lines, qint64 number, qint64 reserve) {
   QString key;
   for (store.TnIdx = 0; store.TnIdx < lines.size(); ++store.TnIdx, ++number) {
@@ -58,7 +59,7 @@ QStringList NummernlisteFuellen(const Store &store) {
   return lines.take();
 }
 
-// Equal draws of two digits are common and then go by name, which is meant.
+// Quirk: draw of two digits. Equal draws are common and then go by name.
 QStringList drawNumbersForAll(Store &store, int reserve) {
   const auto everybody = [](const TeilnehmerZeile &) { return true; };
   const auto draw = [&store] { return masked(int(store.umgebung.randomNumber() * 100), "0#"); };
@@ -67,7 +68,7 @@ QStringList drawNumbersForAll(Store &store, int reserve) {
   return lines;
 }
 
-// Also where the race goes by groups and the operator picks one, the class number is compared; this is meant.
+// Quirk: numbers for a group. The class number is compared also where the race goes by groups.
 QStringList numbersForClass(Store &store, int klasse, qint64 first, qint64 reserve) {
   const auto ofClass = [klasse](const TeilnehmerZeile &participant) { return participant.KlasseNr == klasse; };
   const auto noDraw = [] { return QString(); };

@@ -14,8 +14,9 @@ QStringList NummernlisteFuellen(const Store &store);
 /// their order, `Form6.List2`.
 QStringList drawNumbersForAll(Store &store, int reserve);
 
-/// Numbers the participants of a class from `first` on, by order number and name, without drawing. Numbers that others
-/// have are given again. Ends with a beep at the first number beyond 32 bits. The rest as for the draw.
+/// Numbers the participants of a class from `first` on, by order number and name, without drawing. Ends
+/// with a beep at the first number beyond 32 bits. The rest as for the draw.
+/// Quirk: numbers given twice. Those that others have are given again.
 QStringList numbersForClass(Store &store, int klasse, qint64 first, qint64 reserve);
 
 /// The first number of such a run from the text typed; an empty text gives 1.
@@ -24,8 +25,8 @@ qint64 firstNumber(const QString &text);
 /// Whether any row of the table has the number; free rows count, so 0 is in use unless the table is full.
 bool isNumberTaken(const Store &store, int startNr);
 
-/// Whether "alle Startnummern löschen" is offered: whether the sum of the numbers in rows 1 to 50 is above 0. That
-/// numbers further down do not count is meant.
+/// Whether "alle Startnummern löschen" is offered: whether the sum of the numbers in rows 1 to 50 is above 0.
+/// Quirk: first fifty rows. Numbers further down do not count.
 bool offersDeletion(const Store &store);
 
 void deleteAllNumbers(Store &store);

@@ -56,7 +56,7 @@ LaeuferSatz athleteIn(const Registers &registers, int n) {
 // Collecting.
 
 void addNames(RaceTables &tables, const char *what, const Tabelle<QString, 0, 100> &names, QStringList &list) {
-  for (int row = 0; row <= 100; ++row) {
+  for (int row = 0; row <= names.last(); ++row) {
     list << names[row];
     tables.settings.append({QString::fromUtf8(what) + spacedText(row), names[row]});
   }
@@ -246,7 +246,7 @@ RaceTables tablesOf(const Store &store) {
       tables.participants.append(store.Teilnehmer[row]);
   addNames(tables, "Mannschaft", store.MannschaftName, tables.teams);
   addNames(tables, "Gruppe", store.GruppeName, tables.groups);
-  for (int k = 1; k <= 20; ++k)
+  for (const int k : ClassRows)
     addClass(tables, store, k);
   return tables;
 }

@@ -2,7 +2,7 @@
 
 #include "ui_Form13.h"
 
-Form13::Form13(Desk &desk, Store &store)
+Form13::Form13(Desk &desk, const Store &store)
     : Screen(desk, QStringLiteral("Form13"), 13), ui(std::make_unique<Ui::Form13>()), m_store(store) {
   ui->setupUi(this);
   setUp();

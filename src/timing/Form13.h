@@ -15,7 +15,7 @@ class Form13 : public Screen {
   Q_OBJECT
 
 public:
-  Form13(Desk &desk, Store &store);
+  Form13(Desk &desk, const Store &store);
   ~Form13() override;
 
   /// Shows the listing as the ranking left it now.
@@ -23,5 +23,5 @@ public:
 
 private:
   std::unique_ptr<Ui::Form13> ui;
-  Store &m_store;
+  const Store &m_store;
 };

@@ -207,7 +207,8 @@ void Form7::showPerson(const TeilnehmerZeile &participant) {
   ui->Label2->setText(shownText(athlete.Name));
   ui->Label14->setText(plainText(yearOf(athlete.Geburtsdatum)));
   ui->Label16->setText(m_store.KlasseName[participant.KlasseNr]);
-  if (athlete.Geschlecht != Sex::NotSet) // of a person without sex the colour stays that of the last one; meant
+  // Quirk: colour without a sex. It stays that of the last person.
+  if (athlete.Geschlecht != Sex::NotSet)
     Look::setGround(ui->Label2,
                     QColor(athlete.Geschlecht == Sex::Male ? FarbTabelle::BlassCyan : FarbTabelle::BlassRot));
   ui->Label19->setText(club ? shownText(trimmedBlanks(club->VereinKurz)) : QString());
@@ -278,7 +279,8 @@ void Form7::refuse(QLineEdit *field, const QString &before) {
   field->setText(before);
 }
 
-// Reading stops at the decimal comma that the box itself shows, so passing through it cuts the fraction; this is meant.
+// Quirk: points lose their fraction. Reading stops at the decimal comma that the box itself shows, so passing through
+// it cuts the fraction.
 void Form7::takePoints() {
   if (const auto points = typedSingle(ui->Text5->text()))
     selected().Punkte = *points;
@@ -286,6 +288,7 @@ void Form7::takePoints() {
     refuse(ui->Text5, plainText(selected().Punkte));
 }
 
+// Quirk: difference goes into the first run. Also while the second one is worked on.
 void Form7::takeDifference(const QString &difference) {
   if (const auto time = regionalNumber(difference)) {
     selected().Zeit1 = *time;

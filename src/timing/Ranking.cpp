@@ -16,7 +16,7 @@ namespace {
 constexpr int GroupLength = 3;
 constexpr auto ValueMask = "0####.#0";
 constexpr double NoBestTime = 99999;
-constexpr double NoBestTimeFirstRun = 999999; // men only, with one digit more; meant
+constexpr double NoBestTimeFirstRun = 999999; // Quirk: no best time of the men. One digit more than the women have.
 constexpr int ReversedPlaces = 15;
 constexpr double ReversalPoint = 50000; // seconds
 
@@ -32,7 +32,8 @@ void clearValues(TeilnehmerZeile &participant) {
   participant.WertZeit1 = participant.WertZeit2 = participant.WertSumme = 0;
 }
 
-// As soon as one person has a second time, everybody without one is out; whether the race has two runs does not matter.
+// Quirk: one second time. As soon as one person has one, everybody without it is out; whether the race has two runs
+// does not matter.
 bool hasResult(const TeilnehmerZeile &participant, bool secondTimesExist) {
   return statusSum(participant) <= 0 && participant.Zeit1 != 0 && !(secondTimesExist && participant.Zeit2 == 0);
 }
@@ -61,6 +62,7 @@ void setValues(const RennenSatz &race, const LaeuferSatz &athlete, TeilnehmerZei
 }
 
 // Points are single precision and round by their seven digits.
+// Quirk: lowest points win. They are ranked like times.
 QString valueKey(const Store &store, const TeilnehmerZeile &participant, double seconds) {
   return store.Rennen.WertZeit == 1 ? masked(seconds, ValueMask) : masked(participant.Punkte, ValueMask);
 }
@@ -112,7 +114,7 @@ private:
       m_store.ranking.BestzeitHerren = std::min(m_store.ranking.BestzeitHerren, participant.WertSumme);
   }
 
-  // A shared place is decided by the first run alone, also with two runs and with points; this is meant.
+  // Quirk: tie by the first run. It alone decides on a shared place, also with two runs and with points.
   void setPlace(TeilnehmerZeile &participant) {
     ++m_place;
     participant.Rang = qint16(participant.WertZeit1 == m_lastTime ? m_lastRang : m_place);
@@ -128,7 +130,7 @@ private:
                : QStringLiteral("Rang--Name------------------Startnr.-Klasse-----------Zeit----Diff.");
   }
 
-  // The running count stands here, not the shared place; this is meant.
+  // Quirk: running count in the listing. It stands here and not the shared place.
   QString resultLine(const QString &name, const TeilnehmerZeile &participant) const {
     const QString klasse = m_store.Rennen.WertKlassen == 1
                                ? m_store.KlasseGenauName.valueOrEmpty(participant.KlasseGenau)
@@ -160,7 +162,8 @@ void resetPlaces(Store &store) {
   store.ranking.BestzeitDamen = store.ranking.BestzeitHerren = NoBestTime;
 }
 
-// The last time is not reset at a new group, and a group that begins with it begins with place 1 all the same; meant.
+// Quirk: last time of the group before. It is not reset at a new group, and a group that begins with it begins with
+// place 1 all the same.
 void walkFirstRun(Store &store, const QStringList &keys) {
   int line = 0, lastGroup = -1, place = 0;
   double lastTime = 0;

@@ -9,6 +9,6 @@
 /// The difference of two readings in seconds, whichever is the earlier; nothing if one of them is no number. Both are
 /// texts as KommaEingabe leaves them.
 std::optional<double> timeDifference(const QString &start, const QString &finish);
-/// Whether the text of a difference is a time to be taken: it is tested up to its decimal comma, so one below a second
-/// is not. This is meant.
+/// Whether the text of a difference is a time to be taken.
+/// Quirk: difference below a second. It is tested up to its decimal comma and not taken.
 bool isTimeToTake(const QString &difference);

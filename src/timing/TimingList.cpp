@@ -19,7 +19,7 @@ QString classNumber(const TeilnehmerZeile &participant) {
   return masked(participant.KlasseReihe, "0##");
 }
 
-// By groups it is the name in the row of the participant, not that of his group; this is meant.
+// Quirk: group by row. It is the name in the row of the participant, not that of his group.
 QString secondRunGroup(const Store &store, int row) {
   return store.Rennen.WertKlassen == 1 ? classNumber(store.Teilnehmer[row]) : store.GruppeName[row];
 }
@@ -55,8 +55,8 @@ QStringList sortedKeys(const Store &store, ListMode mode) {
   return keys.take();
 }
 
-// The key without what only sorts it, and the start number where that has gone with it. The places fit usual widths;
-// wider values shift the line, which is meant.
+// The key without what only sorts it, and the start number where that has gone with it.
+// Quirk: wide values shift the line. The places fit usual widths.
 QString lineOf(const QString &key, const TeilnehmerZeile &participant, ListMode mode) {
   const QString numbered = startNumber(participant) + QStringLiteral("  ");
   switch (mode) {
