@@ -5,8 +5,8 @@
 #include <exception>
 #include <system_error>
 
-/// What ends the program: an exception that nobody in the logic catches. The roof catches it at the event loop, saves
-/// what lives only in memory, reports in German and exits with a code that is not 0.
+/// What ends the program unless somebody on its way to the event loop can do without what failed: there the work that
+/// lives only in memory is saved, a German report is shown, and the program exits with a code that is not 0.
 class Fault : public std::exception {
 public:
   explicit Fault(QString report);
