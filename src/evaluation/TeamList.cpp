@@ -75,7 +75,7 @@ public:
     advance(Line);
     const int row = numberAtEnd(line);
     m_druck.FontBold = m_store.mannschaften.WertGezaehlt[row] == 1;
-    printListLine(m_druck, m_members, listLine(m_store, row), y());
+    printListLine(m_druck, m_members, lineForRow(m_store, row), y());
     m_druck.FontBold = false;
   }
 

@@ -25,7 +25,7 @@ public:
     printHead();
   }
 
-  void printRow(int row) { printListLine(m_druck, m_columns, listLine(m_store, row), gridY(next())); }
+  void printRow(int row) { printListLine(m_druck, m_columns, lineForRow(m_store, row), gridY(next())); }
 
   /// Goes on to the next line and gives its number.
   int next() {

@@ -11,7 +11,7 @@ constexpr unsigned BandColor = 0xC0C0C0;
 
 } // namespace
 
-ListLine listLine(const Store &store, int row) {
+ListLine lineForRow(const Store &store, int row) {
   const auto &participant = store.Teilnehmer[row];
   return {row, participant, LaeuferLesen(store, participant.LaeuferNr)};
 }

@@ -16,7 +16,7 @@ struct ListLine {
   const TeilnehmerZeile &participant;
   LaeuferSatz athlete;
 };
-ListLine listLine(const Store &store, int row);
+ListLine lineForRow(const Store &store, int row);
 
 /// The exact class of a participant, or his group in a race that is evaluated by groups.
 QString classOrGroup(const Store &store, const TeilnehmerZeile &participant);

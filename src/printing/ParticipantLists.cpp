@@ -63,7 +63,7 @@ private:
   void printRow(int row) {
     ++m_line;
     breakIfFull(LineLimit);
-    printListLine(m_druck, m_columns, listLine(m_store, row), gridY(m_line));
+    printListLine(m_druck, m_columns, lineForRow(m_store, row), gridY(m_line));
   }
 
   Store &m_store;
@@ -98,7 +98,7 @@ void AlphabetischeListe(const Store &store, Druckschicht &druck) {
       druck.NewPage();
       printHead();
     }
-    printListLine(druck, columns, listLine(store, row), gridY(pageLine));
+    printListLine(druck, columns, lineForRow(store, row), gridY(pageLine));
     druck.DrawWidth = 2;
     druck.Box(20, gridY(pageLine) - 0.5, 190, gridY(pageLine + 1) - 0.5);
   }

@@ -72,7 +72,7 @@ private:
     ++m_line;
     if (isPageFull(m_druck, m_line, LineLimit))
       breakPage(m_store.Teilnehmer[row]);
-    printListLine(m_druck, m_columns, listLine(m_store, row), gridY(m_line));
+    printListLine(m_druck, m_columns, lineForRow(m_store, row), gridY(m_line));
   }
 
   const Store &m_store;
