@@ -208,7 +208,7 @@ void requireRoom(const Store &store, const EntryPlan &plan) {
 /// The slot of an athlete's club, from 1; 0 if it is none of his.
 int slotOf(const LaeuferSatz &athlete, int club) {
   const qint16 clubs[] = {athlete.Verein1, athlete.Verein2, athlete.Verein3};
-  const auto found = std::find(std::begin(clubs), std::end(clubs), club);
+  const auto *const found = std::find(std::begin(clubs), std::end(clubs), club);
   return club < 1 || found == std::end(clubs) ? 0 : int(found - std::begin(clubs)) + 1;
 }
 

@@ -91,6 +91,7 @@ private:
 void runAll(const Drill &drill, const std::vector<Case> &cases, size_t each, Table &table) {
   std::atomic<size_t> next = 0;
   std::vector<std::jthread> workers;
+  workers.reserve(Workers);
   for (int worker = 0; worker < Workers; ++worker)
     workers.emplace_back([&] {
       for (size_t i = next.fetch_add(each); i < cases.size(); i = next.fetch_add(each))

@@ -165,7 +165,7 @@ QWidget *EntryScreen::makeButtons() {
 void EntryScreen::recognise() {
   const auto *changed = sender();
   for (auto *kind : m_kinds)
-    if (auto *other = qobject_cast<const QComboBox *>(changed);
+    if (const auto *other = qobject_cast<const QComboBox *>(changed);
         other && kind != other && kind->currentIndex() == other->currentIndex())
       kind->setCurrentIndex(0);
   for (qsizetype i = 0; i < m_kinds.size(); ++i)
