@@ -12,6 +12,6 @@ struct Hint {
 };
 
 /// What the controls of a screen show, by object name: texts, positions in combos from 0, "1" for a ticked box and for
-/// a button that can be pressed, else "0"; the chosen line of a list, or its marked lines, one a row, and under its name
-/// with ".Zeilen" how many lines it has. "Fokus" holds the name of the control with the focus.
+/// a button that can be pressed, else "0"; the chosen line of a list, or its marked lines, one a row, and under its
+/// name with ".Zeilen" how many lines it has. "Fokus" holds the name of the control with the focus.
 using ShownValues = QHash<QString, QString>;
