@@ -31,9 +31,7 @@ public:
   }
 
   void press(const char *screen, const char *control) { Person::press(find(screen, control)); }
-  void say(const char *screen, const char *label, const QString &text) {
-    find<QLabel>(screen, label)->setText(text);
-  }
+  void say(const char *screen, const char *label, const QString &text) { find<QLabel>(screen, label)->setText(text); }
   void type(const char *screen, const char *field, const QString &text) { Person::type(find(screen, field), text); }
   void enter(const char *screen, const char *field) { QTest::keyClick(find(screen, field), Qt::Key_Return); }
   void closeWindow(const char *screen) { window(screen)->close(); }

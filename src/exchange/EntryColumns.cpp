@@ -114,7 +114,8 @@ Columns recognisedColumns(const Table &table) {
   for (const QString &heading : table.lines.first())
     columns.kinds << byHeading(heading);
   const bool named = std::any_of(columns.kinds.begin(), columns.kinds.end(), [](ColumnKind kind) {
-    return kind == ColumnKind::Name || kind == ColumnKind::FirstFamily || kind == ColumnKind::Family || kind == ColumnKind::First;
+    return kind == ColumnKind::Name || kind == ColumnKind::FirstFamily || kind == ColumnKind::Family ||
+           kind == ColumnKind::First;
   });
   columns.heading = named;
   if (!named) {

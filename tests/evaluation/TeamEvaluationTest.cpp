@@ -27,7 +27,7 @@ TEST_F(TeamEvaluationTest, BestTimesAndAverages) {
   const Wertung clubs;
   const QString name1 = "SC Alm              ", name2 = "TV Berg             ";
   EXPECT_EQ(evaluateUnits(store, clubs), (QStringList{QString("     40,00 ") + name1 + QString("      1"),
-                                                    QString("     40,00 ") + name2 + QString("      2")}));
+                                                      QString("     40,00 ") + name2 + QString("      2")}));
   EXPECT_EQ(evaluateUnits(store, {Einheit::Mannschaft, WertungsArt::Durchschnitt}),
             (QStringList{"     41,00 Die Schnellen      3", "     60,00 Älter      7"}));
   EXPECT_EQ(evaluateUnits(store, {Einheit::Mannschaft, WertungsArt::Durchschnitt, NurMaennlich}),
