@@ -31,7 +31,6 @@ public:
   }
 
   void press(const char *screen, const char *control) { Person::press(find(screen, control)); }
-  void say(const char *screen, const char *label, const QString &text) { find<QLabel>(screen, label)->setText(text); }
   void type(const char *screen, const char *field, const QString &text) { Person::type(find(screen, field), text); }
   void enter(const char *screen, const char *field) { QTest::keyClick(find(screen, field), Qt::Key_Return); }
   void closeWindow(const char *screen) { window(screen)->close(); }
@@ -63,6 +62,7 @@ public:
     const QString file = QStringLiteral("%1-%2-%3.png")
                              .arg(++m_count, 2, 10, QLatin1Char('0'))
                              .arg(QLatin1String(screen), QLatin1String(name));
+    nameFolder(*window(screen));
     QApplication::processEvents();
     m_programm.hints().renew();
     if (!window(screen)->grab().save(m_pictures.filePath(file)))
@@ -70,6 +70,12 @@ public:
   }
 
 private:
+  // The folder of the tour has another name each time, and the pictures are to be the same.
+  static void nameFolder(const QWidget &screen) {
+    for (auto *label : screen.findChildren<QLabel *>())
+      if (const QString text = label->text().remove(QChar(0x200B)); text.contains(QDir::currentPath()))
+        label->setText(QString(text).replace(QDir::currentPath(), QStringLiteral("/home/rennen/VEXT")));
+  }
   static QWidget *window(const char *screen) {
     if (auto *found = Person::window(QLatin1String(screen)))
       return found;
@@ -98,9 +104,7 @@ void choiceOfFolder(Tour &tour) {
   tour.takePicture("Mappenwahl", "mappenwahl");
 }
 
-// The folder of the tour has another name each time.
 void menu(Tour &tour) {
-  tour.say("Form1", "mappe", QStringLiteral("/home/rennen/Dokumente/VEXT"));
   tour.takePicture("Form1", "menue");
 }
 

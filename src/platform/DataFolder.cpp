@@ -1,11 +1,33 @@
 #include "platform/DataFolder.h"
 
+#include "platform/Faults.h"
 #include "platform/Files.h"
 #include "platform/System.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
+
+namespace {
+
+// What the system could not say is no answer; what is read from the folder then tells the fault.
+bool isMissing(const QString &folder) {
+  try {
+    return !fileExists(folder);
+  } catch (const Fault &) {
+    return false;
+  }
+}
+
+// A call may fail once.
+bool mayWrite(const QString &folder) {
+  for (int tries = 0; tries < 2; ++tries)
+    if (const QFileInfo info(folder); info.isReadable() && info.isExecutable() && info.isWritable())
+      return true;
+  return false;
+}
+
+} // namespace
 
 bool DataFolder::holdsData(const QString &folder) {
   return !QDir(folder).entryList({QStringLiteral("Vext.dat"), QStringLiteral("*.rec")}, QDir::Files).isEmpty();
@@ -17,11 +39,10 @@ bool DataFolder::isAccidental(const QString &folder) {
 }
 
 QString DataFolder::troubleWith(const QString &folder) {
-  const QFileInfo info(folder);
-  const QString path = QDir::toNativeSeparators(info.absoluteFilePath());
-  if (!info.isDir())
+  const QString path = QDir::toNativeSeparators(QFileInfo(folder).absoluteFilePath());
+  if (isMissing(folder))
     return QStringLiteral("Den Ordner „%1“ gibt es nicht.").arg(path);
-  if (!info.isReadable() || !info.isExecutable() || !info.isWritable())
+  if (!mayWrite(folder))
     return QStringLiteral("Im Ordner „%1“ darf nicht geschrieben werden.").arg(path);
   return {};
 }
