@@ -37,13 +37,15 @@ PrintOutcomeView::PrintOutcomeView(QWidget *parent)
   grid->setHorizontalSpacing(8);
   grid->setVerticalSpacing(2);
   grid->addWidget(m_caption, 0, 0);
-  grid->addWidget(m_name, 0, 1);
-  grid->addWidget(m_open, 0, 2);
-  grid->addWidget(m_showFolder, 0, 3);
-  grid->addWidget(m_folder, 1, 0, 1, 4);
+  grid->addWidget(m_name, 0, 1, 1, 3);
+  grid->addWidget(m_folder, 1, 0, 1, 2);
+  grid->addWidget(m_open, 1, 2);
+  grid->addWidget(m_showFolder, 1, 3);
   grid->addWidget(m_pictures, 2, 0, 1, 4);
   grid->setColumnStretch(1, 1);
   m_pictures->setWordWrap(true);
+  for (auto *label : {m_name, m_folder}) // however long, they take the room that is left
+    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   connect(m_open, &QPushButton::clicked, this, [this] { openOutside(window(), m_path); });
   connect(m_showFolder, &QPushButton::clicked, this, [this] { openOutside(window(), QFileInfo(m_path).path()); });
   hide();
