@@ -27,24 +27,6 @@ struct Event : TestStore {
     RennDatenSpeichern(store);
   }
 
-  void addRace() {
-    store.Rennen.RennenName = QStringLiteral("Messung");
-    store.Rennen.WertKlassen = store.Rennen.WertZeit = store.Rennen.ZweiDurchgaenge = 1;
-    store.RennenIdx = store.AktRennen = 1;
-    RennenSchreiben(store);
-    RennDatenLaden(store);
-    takeStandardClasses(store);
-  }
-
-  void addAthlete(int n) {
-    LaeuferSatz athlete;
-    const auto letter = [n](int place) { return QChar(int('A') + (n / place) % 26); };
-    athlete.Name = QStringLiteral("M%1%2%3ÖLLER Elisabeth").arg(letter(1)).arg(letter(26)).arg(letter(676));
-    athlete.Geburtsdatum = toDays(QDate(1950 + n % 70, 7, 1));
-    athlete.Geschlecht = qint16(n % 2);
-    LaeuferSchreiben(store, n, athlete);
-  }
-
   void addParticipant(int row) {
     auto &participant = store.Teilnehmer[row];
     participant.LaeuferNr = 30 * row;
